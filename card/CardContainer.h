@@ -1,0 +1,110 @@
+#pragma once
+
+#include "card/FlightPathPoint.h"
+#include "card/RecordCycle.h"
+#include "card/RecordData.h"
+#include "card/RecordFile.h"
+
+#include <QColor>
+#include <QDateTime>
+#include <QString>
+
+#include <cstdint>
+#include <list>
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace VELIX {
+
+class Profile;
+struct ProfileParameter;
+
+/// One data card: its record files, power cycles and flights, and the data loaded from it.
+///
+/// Decodes with the profile that it is made with. instance() is the card of the running program.
+class CardContainer
+{
+public:
+    struct Sample
+    {
+        double time = 0.0; ///< s
+        double value = 0.0;
+    };
+
+    static CardContainer& instance();
+    explicit CardContainer(Profile& profile);
+
+    /// Lists a card folder by the headers of its record files; false if there is no such folder
+    /// (nothing changes then). The loaded data stays.
+    bool readContainer(const QString& path);
+    void clear();
+    const QString& name() const { return mName; }
+    const std::map<QString, RecordFile>& recordFiles() const { return mRecordFiles; }
+    const std::map<std::uint32_t, RecordCycle>& recordCycles() const { return mCycles; }
+
+    /// Loads files of the listing, by base name, in the order of the list.
+    /// 1 if at least one could be read, else 0.
+    int loadFiles(const std::list<QString>& names);
+    /// Loads a cycle and narrows it to one flight if the index is that of a flight of it.
+    /// 0 if there is no such cycle.
+    int loadCycle(std::uint32_t cycle, int flight);
+    /// A sentence for the user about the last load that went wrong; empty if it went well.
+    const QString& lastError() const { return mLastError; }
+    /// Bytes that a load may need at most; 0 (the default) is half of the free memory.
+    void setMemoryLimit(std::uint64_t bytes) { mMemoryLimit = bytes; }
+
+    /// The data that views and exports read: the loaded files, a cycle or one flight of it.
+    RecordData& recordData() { return *mWorking; }
+    const RecordData& recordData() const { return *mWorking; }
+    /// The data of all loaded files, also while a flight is chosen.
+    const RecordData& loadedData() const { return *mLoaded; }
+    /// Whether a record with at least one entry is loaded.
+    bool hasRecord() const { return mLoaded->entryCount > 0; }
+    /// One point per latitude sample of the working data.
+    const std::vector<FlightPathPoint>& flightPath() const { return mFlightPath; }
+    const QDateTime& startDateTime() const { return mStartDateTime; }
+    double startTime() const { return mStartTime; } ///< s: start of the first loaded file
+    double stopTime() const { return mStopTime; }   ///< s: stop of the last loaded file
+
+    /// Value of a parameter at a time (s): that of the latest sample before it, or of the first
+    /// sample; 0 beyond the last sample or the loaded time.
+    double getValue(const ProfileParameter& p, double time, int& state, QColor& color);
+    double getValue(const ProfileParameter& p, double time);
+
+    void calcCycles();
+    void calcFlights(RecordCycle& cycle);
+    void calcFlightStatistic(RecordFlight& flight);
+    void calcFlightPath();
+
+    /// Text after the last "/".
+    static QString name(const QString& path);
+    /// Time of day "hh:mm:ss.zzz" of seconds since midnight; wraps after 24 hours.
+    static QString time(double seconds);
+    /// Great-circle distance in metres between two points in degrees.
+    static double calcDistance(double lat1, double lon1, double lat2, double lon2);
+    /// Linear interpolation of a series at a fixed step (s).
+    static void resampleData(double step, const std::vector<Sample>& input,
+                             std::vector<Sample>& output);
+
+private:
+    void listFiles(const QString& path);
+    void repairDates();
+    bool fitsMemory(const std::list<QString>& names);
+    bool loadFile(const QString& name, bool first);
+
+    Profile& mProfile;
+    QString mName;
+    std::map<QString, RecordFile> mRecordFiles;
+    std::map<std::uint32_t, RecordCycle> mCycles;
+    std::shared_ptr<RecordData> mLoaded;
+    std::shared_ptr<RecordData> mWorking; ///< mLoaded itself unless a flight is chosen
+    std::vector<FlightPathPoint> mFlightPath;
+    QDateTime mStartDateTime;
+    double mStartTime = 0.0;
+    double mStopTime = 0.0;
+    QString mLastError;
+    std::uint64_t mMemoryLimit = 0;
+};
+
+} // namespace VELIX

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "card/ChunkArena.h"
+#include "card/RecordEvent.h"
+#include "card/RecordFlight.h"
+#include "card/RecordIdList.h"
+
+#include <QDateTime>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+namespace VELIX {
+
+/// The entries of one or more record files, filed by CAN identifier, and what was found in them.
+///
+/// Two pseudo-identifiers collect the entries of source 0 and 1 across all identifiers.
+class RecordData
+{
+public:
+    static constexpr std::uint32_t kSource0Id = 0x7FFFFFFF;
+    static constexpr std::uint32_t kSource1Id = 0x7FFFFFFE;
+
+    using IdMap = std::map<std::uint32_t, RecordIdList>;
+
+    RecordData();
+    RecordData(const RecordData&) = delete;
+    RecordData& operator=(const RecordData&) = delete;
+
+    const IdMap& ids() const { return mIds; }
+    /// The entries of an identifier; null if the data has no such list.
+    const RecordIdList* find(std::uint32_t id) const;
+    /// The entries of an identifier; an empty list if there are none.
+    const EntryList& entries(std::uint32_t id) const;
+    /// The list of an identifier, created if absent.
+    RecordIdList& list(std::uint32_t id);
+
+    /// Files an entry under its identifier and in the collective list of its source.
+    void append(const RecordEntry& entry);
+    /// To be called after the last append: what is derived from all entries (`last` of each list,
+    /// the seconds that look-ups cover for a stop time in seconds).
+    void finish(double indexStop);
+    /// Forgets entries, events and the chosen flight.
+    void clear();
+
+    /// The entries of `whole` whose time lies in [from, to], boundaries included. They are shared,
+    /// not copied; the result keeps `whole` alive.
+    static std::shared_ptr<RecordData> narrowed(std::shared_ptr<const RecordData> whole,
+                                                double from, double to);
+
+    std::uint32_t entryCount = 0; ///< entries appended, collective lists not counted
+    QDateTime startDateTime;      ///< date of the first file, UTC; invalid if unknown
+    double startTime = 0.0;       ///< s on the unit's clock: earliest entry or start of the flight
+    double stopTime = 0.0;        ///< s on the unit's clock: latest entry or end of the flight
+    double cursorTime = 0.0;      ///< s: the common time cursor, kept by the data window
+    std::vector<RecordLimit> limits;     ///< by time
+    std::vector<RecordWarning> warnings; ///< by time
+    RecordFlight flight; ///< the chosen flight; its statistic is not valid if none was chosen
+
+private:
+    std::shared_ptr<const RecordData> mWhole; ///< owner of the entries of a narrowed record
+    ChunkArena mArena;
+    IdMap mIds;
+    std::unordered_map<std::uint32_t, RecordIdList*> mLookup; ///< of mIds; appending needs no order
+};
+
+} // namespace VELIX

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "card/RecordEvent.h"
+
+#include <vector>
+
+namespace VELIX {
+
+class Profile;
+class RecordData;
+
+/// Finds the moments at which a warning lamp changes to a lit state. By time.
+std::vector<RecordWarning> findWarnings(const RecordData& record, Profile& profile);
+
+} // namespace VELIX
