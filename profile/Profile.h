@@ -4,6 +4,7 @@
 #include "profile/CoordinateFilter.h"
 #include "profile/ProfileModel.h"
 #include "profile/ProfileVariant.h"
+#include "profile/TextValue.h"
 
 #include <QColor>
 #include <QString>
@@ -70,6 +71,8 @@ public:
     /// Display text without unit; only FLOAT texts are converted to the current unit system.
     QString getDataString(const RecordEntry& e, const ProfileParameter& p, int& state,
                           QColor& color);
+    /// The same text appended as UTF-8, for exports; thresholds are not looked up.
+    void appendDataString(const RecordEntry& e, const ProfileParameter& p, std::string& out);
     /// State and colour exactly as getDataString() gives them, without making the text.
     void getDataState(const RecordEntry& e, const ProfileParameter& p, int& state, QColor& color);
     double convertUnit(const ProfileParameter& p, double value) const;
@@ -93,10 +96,12 @@ public:
 
 private:
     void addCanasType(const QString& name, int code);
-    /// What a display text says: the value that thresholds judge, before it is formatted.
-    struct TextValue;
+    double coordinate(const ProfileParameter& p, double value);
+    /// The value behind a display text, before unit conversion; advances the coordinate filter.
     TextValue textValue(const RecordEntry& e, const ProfileParameter& p);
-    QString enumText(const ProfileParameter& p, std::uint32_t value, bool strict) const;
+    void judge(const ProfileParameter& p, const TextValue& value, int& state, QColor& color) const;
+    void appendEnumText(const ProfileParameter& p, const TextValue& value, std::string& out) const;
+    void appendText(const ProfileParameter& p, const TextValue& value, std::string& out) const;
 
     std::map<QString, int> mTypes;
     EUnit mUnit;
