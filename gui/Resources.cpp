@@ -1,0 +1,19 @@
+#include "gui/Resources.h"
+
+#include <QtGlobal>
+
+// Q_INIT_RESOURCE declares a global function and so cannot stand in a namespace.
+static void registerBuiltInFiles()
+{
+    Q_INIT_RESOURCE(resources);
+    Q_INIT_RESOURCE(translations);
+}
+
+namespace VELIX {
+
+void initResources()
+{
+    registerBuiltInFiles();
+}
+
+} // namespace VELIX
