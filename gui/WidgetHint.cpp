@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QVBoxLayout>
+#include <QVariant>
 
 namespace VELIX {
 
