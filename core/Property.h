@@ -18,7 +18,8 @@ public:
     /// Merges the remembered file into the map; keys that the file lacks are kept. Always 1.
     int readXmlFile();
     int readXmlFile(const std::string& path);
-    /// Writes every key whose value is not empty; the old file survives a failed write. Always 1.
+    /// Writes every key whose value is not empty; the old file survives a failed write. A file that
+    /// could not be read before is kept beside it with ".broken" appended. Always 1.
     int writeXmlFile();
     int writeXmlFile(const std::string& path);
 
@@ -41,6 +42,7 @@ private:
 
     std::map<std::string, std::string> mValues;
     std::string mConfigFile;
+    std::string mBrokenFile; ///< read in vain: kept aside before the next write replaces it
 };
 
 } // namespace VELIX
