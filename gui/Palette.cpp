@@ -30,6 +30,7 @@ Palette makeLight()
     p.hover = QColor(0xe4, 0xe9, 0xef);
     p.pressed = QColor(0xd3, 0xdb, 0xe4);
     p.handle = QColor(0x8b, 0x97, 0xa5);
+    p.progress = QColor(0x9a, 0xc2, 0xf3);
     p.healthy = QColor(0x2e, 0x9e, 0x5b);
     p.warning = QColor(0xe3, 0x9a, 0x0f);
     p.limit = QColor(0xd4, 0x38, 0x2c);
@@ -58,6 +59,7 @@ Palette makeDark()
     p.hover = QColor(0x2f, 0x38, 0x43);
     p.pressed = QColor(0x3b, 0x46, 0x53);
     p.handle = QColor(0x6d, 0x7a, 0x88);
+    p.progress = QColor(0x2f, 0x5c, 0x96);
     p.healthy = QColor(0x4c, 0xc3, 0x8a);
     p.warning = QColor(0xf2, 0xb8, 0x4b);
     p.limit = QColor(0xff, 0x6b, 0x5e);
@@ -149,6 +151,16 @@ QPalette Palette::toQPalette() const
     palette.setColor(QPalette::Disabled, QPalette::Highlight, line);
     palette.setColor(QPalette::Disabled, QPalette::HighlightedText, disabledText);
     palette.setColor(QPalette::Disabled, QPalette::Base, window);
+    return palette;
+}
+
+QPalette Palette::toDisplayPalette() const
+{
+    QPalette palette = toQPalette();
+    palette.setColor(QPalette::Window, lcdPanel);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Light, QPalette::Dark}) {
+        palette.setColor(role, lcdDigits);
+    }
     return palette;
 }
 

@@ -30,6 +30,7 @@ struct Palette
     QColor hover;        ///< ground under the mouse
     QColor pressed;      ///< ground of a pressed button
     QColor handle;       ///< scroll bar and splitter handles
+    QColor progress;     ///< done part of a progress bar; text stands on it
     QColor healthy;
     QColor warning;
     QColor limit;
@@ -56,6 +57,10 @@ struct Palette
 
     /// The palette for all that the style sheet leaves to the widget style.
     [[nodiscard]] QPalette toQPalette() const;
+
+    /// The palette of digital displays, whose segments have no lit or shaded edges. Set it on the
+    /// display, which the style sheet leaves alone.
+    [[nodiscard]] QPalette toDisplayPalette() const;
 
     /// Contrast ratio of two opaque colours by WCAG 2.1: 1 (none) to 21 (black on white).
     [[nodiscard]] static double contrast(const QColor& a, const QColor& b);

@@ -33,6 +33,7 @@ constexpr NamedColor NamedColors[] = {
     {"hover", &Palette::hover},
     {"pressed", &Palette::pressed},
     {"handle", &Palette::handle},
+    {"progress", &Palette::progress},
     {"healthy", &Palette::healthy},
     {"warning", &Palette::warning},
     {"limit", &Palette::limit},
