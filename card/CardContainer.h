@@ -59,6 +59,8 @@ public:
     const RecordData& recordData() const { return *mWorking; }
     /// The data of all loaded files, also while a flight is chosen.
     const RecordData& loadedData() const { return *mLoaded; }
+    /// Whether at least one file was read into the loaded data; it may hold no entry.
+    bool isLoaded() const { return mIsLoaded; }
     /// Whether a record with at least one entry is loaded.
     bool hasRecord() const { return mLoaded->entryCount > 0; }
     /// One point per latitude sample of the working data.
@@ -91,12 +93,16 @@ private:
     void listFiles(const QString& path);
     void repairDates();
     bool fitsMemory(const std::list<QString>& names);
-    bool loadFile(const QString& name, bool first);
+    enum class ELoad { Refused, Nothing, Some };
+    ELoad load(const std::list<QString>& names);
+    bool loadFile(const QString& path, bool first);
+    void calcIndex();
 
     Profile& mProfile;
     QString mName;
     std::map<QString, RecordFile> mRecordFiles;
     std::map<std::uint32_t, RecordCycle> mCycles;
+    bool mIsLoaded = false;
     std::shared_ptr<RecordData> mLoaded;
     std::shared_ptr<RecordData> mWorking; ///< mLoaded itself unless a flight is chosen
     std::vector<FlightPathPoint> mFlightPath;

@@ -7,10 +7,10 @@
 
 #include <QDateTime>
 
+#include <array>
 #include <cstdint>
 #include <map>
 #include <memory>
-#include <unordered_map>
 #include <vector>
 
 namespace VELIX {
@@ -26,7 +26,7 @@ public:
 
     using IdMap = std::map<std::uint32_t, RecordIdList>;
 
-    RecordData();
+    RecordData() = default;
     RecordData(const RecordData&) = delete;
     RecordData& operator=(const RecordData&) = delete;
 
@@ -61,10 +61,18 @@ public:
     RecordFlight flight; ///< the chosen flight; its statistic is not valid if none was chosen
 
 private:
+    RecordIdList& recentList(std::uint32_t id);
+
     std::shared_ptr<const RecordData> mWhole; ///< owner of the entries of a narrowed record
     ChunkArena mArena;
     IdMap mIds;
-    std::unordered_map<std::uint32_t, RecordIdList*> mLookup; ///< of mIds; appending needs no order
+    struct Recent
+    {
+        std::uint32_t id = 0;
+        RecordIdList* list = nullptr;
+    };
+    std::array<Recent, 1024> mRecent{};
+    std::array<RecordIdList*, 2> mCollective{};
 };
 
 } // namespace VELIX

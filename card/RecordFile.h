@@ -28,7 +28,7 @@ public:
     bool readRecordData(RecordData& data);
 
 private:
-    bool readInfo(RecordFieldReader& in, bool setTimes);
+    void readInfo(RecordFieldReader& in, bool setTimes);
     bool readData(RecordFieldReader& in, RecordData& data);
 
     RecordInfo mInfo;

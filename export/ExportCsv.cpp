@@ -1,0 +1,223 @@
+#include "export/ExportCsv.h"
+
+#include "card/RecordData.h"
+#include "core/Diagnostics.h"
+#include "profile/Profile.h"
+
+#include <QIODevice>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <limits>
+#include <string>
+#include <string_view>
+
+namespace VELIX {
+
+namespace {
+
+/// The samples of one column: at most one text a tick, texts end to end in one buffer.
+struct Column
+{
+    struct Cell
+    {
+        std::uint64_t tick;
+        std::size_t begin;
+        std::size_t end;
+    };
+    std::string header;
+    std::string texts;
+    std::vector<Cell> cells; ///< by tick
+};
+
+std::uint64_t tickOf(double time, int resolution)
+{
+    const double tick = time * 1000.0 / resolution + 0.5;
+    if (!(tick > 0.0)) {
+        return 0;
+    }
+    constexpr double kBeyond = 18446744073709551616.0;
+    return tick < kBeyond ? static_cast<std::uint64_t>(tick)
+                          : std::numeric_limits<std::uint64_t>::max();
+}
+
+Column fillColumn(const RecordData& record, const ProfileParameter& p, int resolution,
+                  Profile& profile)
+{
+    const EntryList& entries = record.entries(static_cast<std::uint32_t>(p.id));
+    Column column;
+    column.header = profile.columnLabel(p).toStdString();
+    column.cells.reserve(entries.size());
+    profile.resetCoordinates();
+    for (const RecordEntry& entry : entries) {
+        const std::size_t begin = column.texts.size();
+        profile.appendDataString(entry, p, column.texts);
+        column.cells.push_back({tickOf(entry.time, resolution), begin, column.texts.size()});
+    }
+    const auto earlier = [](const Column::Cell& a, const Column::Cell& b) {
+        return a.tick < b.tick;
+    };
+    if (!std::is_sorted(column.cells.begin(), column.cells.end(), earlier)) {
+        std::stable_sort(column.cells.begin(), column.cells.end(), earlier);
+    }
+    // Of several samples in one tick the last one counts.
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < column.cells.size(); ++i) {
+        if (i + 1 == column.cells.size() || column.cells[i + 1].tick != column.cells[i].tick) {
+            column.cells[kept++] = column.cells[i];
+        }
+    }
+    column.cells.resize(kept);
+    return column;
+}
+
+/// Merges columns into rows and writes them.
+class TableWriter
+{
+public:
+    TableWriter(const std::vector<Column>& columns, const CsvExportOptions& options)
+        : mColumns(columns), mOptions(options), mNext(columns.size(), 0)
+    {}
+
+    bool write(QIODevice& out)
+    {
+        writeHeader();
+        for (std::uint64_t tick = 0; nextTick(tick);) {
+            writeTime(tick);
+            for (std::size_t column = 0; column < mColumns.size(); ++column) {
+                writeCell(column, tick);
+            }
+            mBuffer.push_back('\n');
+            if (mBuffer.size() >= kFlushSize && !flush(out)) {
+                return false;
+            }
+        }
+        return flush(out);
+    }
+
+private:
+    static constexpr std::size_t kFlushSize = std::size_t{1} << 20U;
+
+    bool flush(QIODevice& out)
+    {
+        const auto size = static_cast<qint64>(mBuffer.size());
+        const bool written = out.write(mBuffer.data(), size) == size;
+        mBuffer.clear();
+        return written;
+    }
+
+    /// A field as it is or, in the aligned form, quoted where a reader of the table needs it.
+    void appendField(std::string_view text)
+    {
+        const char special[] = {mOptions.delimiter, '"', '\r', '\n', '\0'};
+        if (!mOptions.aligned || text.find_first_of(special) == std::string_view::npos) {
+            mBuffer += text;
+            return;
+        }
+        mBuffer.push_back('"');
+        for (const char c : text) {
+            mBuffer.push_back(c);
+            if (c == '"') {
+                mBuffer.push_back('"');
+            }
+        }
+        mBuffer.push_back('"');
+    }
+
+    void writeHeader()
+    {
+        mBuffer += "Time";
+        for (const Column& column : mColumns) {
+            mBuffer.push_back(mOptions.delimiter);
+            appendField(column.header);
+        }
+        mBuffer.push_back('\n');
+    }
+
+    /// The earliest tick that no row has yet.
+    bool nextTick(std::uint64_t& tick) const
+    {
+        bool found = false;
+        for (std::size_t i = 0; i < mColumns.size(); ++i) {
+            const std::vector<Column::Cell>& cells = mColumns[i].cells;
+            if (mNext[i] < cells.size() && (!found || cells[mNext[i]].tick < tick)) {
+                tick = cells[mNext[i]].tick;
+                found = true;
+            }
+        }
+        return found;
+    }
+
+    void writeTime(std::uint64_t tick)
+    {
+        const auto perSecond = static_cast<std::uint64_t>(1000 / mOptions.resolution);
+        const std::uint64_t seconds = tick / perSecond;
+        const std::uint64_t milliseconds =
+            tick % perSecond * static_cast<std::uint64_t>(mOptions.resolution);
+        char text[48];
+        const int length =
+            std::snprintf(text, sizeof(text), "%llu:%02u:%02u.%03u",
+                          static_cast<unsigned long long>(seconds / 3600),
+                          static_cast<unsigned>(seconds / 60 % 60),
+                          static_cast<unsigned>(seconds % 60), static_cast<unsigned>(milliseconds));
+        mBuffer.append(text, static_cast<std::size_t>(length));
+    }
+
+    void writeCell(std::size_t index, std::uint64_t tick)
+    {
+        const Column& column = mColumns[index];
+        std::size_t& next = mNext[index];
+        const bool present = next < column.cells.size() && column.cells[next].tick == tick;
+        if (present || mOptions.aligned) {
+            mBuffer.push_back(mOptions.delimiter);
+        }
+        if (present) {
+            const Column::Cell& cell = column.cells[next++];
+            appendField(std::string_view(column.texts).substr(cell.begin, cell.end - cell.begin));
+        }
+    }
+
+    const std::vector<Column>& mColumns;
+    const CsvExportOptions& mOptions;
+    std::vector<std::size_t> mNext; ///< per column: its first cell that is not written yet
+    std::string mBuffer;
+};
+
+} // namespace
+
+ExportCsv::ExportCsv(Profile& profile) : mProfile(profile) {}
+
+bool ExportCsv::writeTable(const RecordData& record, const CsvExportOptions& options,
+                           QIODevice& out)
+{
+    std::vector<Column> columns;
+    for (const ProfileDevice& device : mProfile.data().devices) {
+        for (const auto& [id, p] : device.parameters) {
+            if (options.allParameters || p.selected) {
+                columns.push_back(fillColumn(record, p, options.resolution, mProfile));
+            }
+        }
+    }
+    return TableWriter(columns, options).write(out);
+}
+
+int ExportCsv::exportData(const RecordData& record, const CsvExportOptions& options)
+{
+    const QString path = QString::fromStdString(options.directory) + QLatin1Char('/') +
+                         QString::fromStdString(options.fileName);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        Diagnostics::print("could not open file for writing !<%s>\n", path.toUtf8().constData());
+        return 0;
+    }
+    if (!writeTable(record, options, file) || !file.commit()) {
+        Diagnostics::print("could not write file <%s>: %s\n", path.toUtf8().constData(),
+                           file.errorString().toUtf8().constData());
+        return 0;
+    }
+    return 1;
+}
+
+} // namespace VELIX

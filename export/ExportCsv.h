@@ -2,9 +2,7 @@
 
 #include "export/CsvExportOptions.h"
 
-#include <QByteArray>
-
-#include <vector>
+class QIODevice;
 
 namespace VELIX {
 
@@ -20,8 +18,8 @@ public:
 
     /// Writes the file of the options; 0 if it could not be written (an old file is then kept).
     int exportData(const RecordData& record, const CsvExportOptions& options);
-    /// The text of the table, UTF-8.
-    QByteArray table(const RecordData& record, const CsvExportOptions& options);
+    /// Writes the table to an open device, UTF-8; false if the device does not take it all.
+    bool writeTable(const RecordData& record, const CsvExportOptions& options, QIODevice& out);
 
 private:
     Profile& mProfile;

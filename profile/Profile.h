@@ -68,6 +68,8 @@ public:
                      bool scale);
     double getDouble(const RecordEntry& e, const ProfileParameter& p, bool scale);
     double getDouble(const RecordEntry& e, bool scale);
+    /// Scaled number in the metric unit, whatever the unit system.
+    double getMetric(const RecordEntry& e, const ProfileParameter& p);
     /// Display text without unit; only FLOAT texts are converted to the current unit system.
     QString getDataString(const RecordEntry& e, const ProfileParameter& p, int& state,
                           QColor& color);
@@ -96,6 +98,7 @@ public:
 
 private:
     void addCanasType(const QString& name, int code);
+    bool decode(const RecordEntry& e, const ProfileParameter& p, bool scale, double& value);
     double coordinate(const ProfileParameter& p, double value);
     /// The value behind a display text, before unit conversion; advances the coordinate filter.
     TextValue textValue(const RecordEntry& e, const ProfileParameter& p);

@@ -104,15 +104,14 @@ double Profile::coordinate(const ProfileParameter& p, double value)
     return value;
 }
 
-double Profile::getDouble(const RecordEntry& e, const ProfileParameter& p, int& state,
-                          QColor& color, bool scale)
+/// The number in the metric unit; false for types without a decoder.
+bool Profile::decode(const RecordEntry& e, const ProfileParameter& p, bool scale, double& value)
 {
     const Payload payload(e);
     const EExtraction extraction = extractionOf(p.dataType);
-    double value = 0.0;
     switch (extraction) {
     case EExtraction::None:
-        return 0.0;
+        return false;
     case EExtraction::Float:
         value = floatValue(payload, p);
         break;
@@ -131,15 +130,31 @@ double Profile::getDouble(const RecordEntry& e, const ProfileParameter& p, int& 
     if (extraction == EExtraction::Float) {
         value = coordinate(p, value);
     }
+    return true;
+}
+
+double Profile::getDouble(const RecordEntry& e, const ProfileParameter& p, int& state,
+                          QColor& color, bool scale)
+{
+    double value = 0.0;
+    if (!decode(e, p, scale, value)) {
+        return 0.0;
+    }
     getThreshold(p, value, state, color);
     return convertUnit(p, value);
 }
 
+double Profile::getMetric(const RecordEntry& e, const ProfileParameter& p)
+{
+    double value = 0.0;
+    decode(e, p, true, value);
+    return value;
+}
+
 double Profile::getDouble(const RecordEntry& e, const ProfileParameter& p, bool scale)
 {
-    int state = 0;
-    QColor color;
-    return getDouble(e, p, state, color, scale);
+    double value = 0.0;
+    return decode(e, p, scale, value) ? convertUnit(p, value) : 0.0;
 }
 
 double Profile::getDouble(const RecordEntry& e, bool scale)

@@ -1,0 +1,142 @@
+#include "tools/velix-card/CardCommand.h"
+
+#include "export/ExportCsv.h"
+#include "tools/velix-card/InfoReport.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QSaveFile>
+#include <QSet>
+
+#include <list>
+#include <utility>
+
+namespace VELIX {
+
+namespace {
+
+void tell(const QString& sentence)
+{
+    std::fprintf(stderr, "%s\n", sentence.toLocal8Bit().constData());
+}
+
+} // namespace
+
+CardCommand::CardCommand(CardOptions options, std::FILE* results)
+    : mOptions(std::move(options)), mResults(results), mProfile(mOptions.unit), mCard(mProfile)
+{}
+
+int CardCommand::run()
+{
+    for (const auto step :
+         {&CardCommand::open, &CardCommand::select, &CardCommand::load, &CardCommand::write}) {
+        const Status status = (this->*step)();
+        if (status != Status::Done) {
+            return static_cast<int>(status);
+        }
+    }
+    return 0;
+}
+
+CardCommand::Status CardCommand::open()
+{
+    if (!mProfile.loadProfile(mOptions.profile, mOptions.variant)) {
+        tell(QStringLiteral("%1 is not a usable parameter profile.").arg(mOptions.profile));
+        return Status::Failed;
+    }
+    if (!mCard.readContainer(mOptions.card)) {
+        tell(QStringLiteral("There is no card folder %1.").arg(mOptions.card));
+        return Status::Failed;
+    }
+    return Status::Done;
+}
+
+CardCommand::Status CardCommand::select()
+{
+    QSet<QString> wanted(mOptions.selected.begin(), mOptions.selected.end());
+    for (ProfileDevice& device : mProfile.data().devices) {
+        for (auto& [id, p] : device.parameters) {
+            p.selected = mOptions.selected.contains(p.fullName);
+            wanted.remove(p.fullName);
+        }
+    }
+    if (wanted.isEmpty()) {
+        return Status::Done;
+    }
+    tell(QStringLiteral("The profile has no parameter %1.")
+             .arg(wanted.values().join(QStringLiteral(", "))));
+    return Status::WrongUsage;
+}
+
+CardCommand::Status CardCommand::load()
+{
+    if (!mOptions.hasSelection()) {
+        return Status::Done;
+    }
+    if (mOptions.cycle) {
+        if (mCard.loadCycle(*mOptions.cycle, mOptions.flight) == 0) {
+            tell(QStringLiteral("The card has no cycle %1.").arg(*mOptions.cycle));
+            return Status::Failed;
+        }
+        const auto& flights = mCard.recordCycles().at(*mOptions.cycle).flights;
+        if (mOptions.flight >= static_cast<int>(flights.size())) {
+            tell(QStringLiteral("Warning: cycle %1 has no flight %2, the whole cycle is loaded.")
+                     .arg(*mOptions.cycle)
+                     .arg(mOptions.flight));
+        }
+    } else {
+        mCard.loadFiles(std::list<QString>(mOptions.files.begin(), mOptions.files.end()));
+    }
+    if (!mCard.isLoaded()) {
+        tell(mCard.lastError());
+        return Status::Failed;
+    }
+    if (!mCard.lastError().isEmpty()) {
+        tell(QStringLiteral("Warning: %1").arg(mCard.lastError()));
+    }
+    return Status::Done;
+}
+
+CardCommand::Status CardCommand::write()
+{
+    bool written = false;
+    if (mOptions.output.isEmpty()) {
+        QFile out;
+        written = out.open(mResults, QIODevice::WriteOnly) && writeTo(out) && out.flush();
+    } else {
+        QSaveFile out(mOptions.output);
+        written = out.open(QIODevice::WriteOnly) && writeTo(out) && out.commit();
+    }
+    if (!written) {
+        tell(mOptions.output.isEmpty()
+                 ? QStringLiteral("The result could not be written.")
+                 : QStringLiteral("%1 could not be written.").arg(mOptions.output));
+    }
+    return written ? Status::Done : Status::Failed;
+}
+
+bool CardCommand::writeTo(QIODevice& out)
+{
+    if (mOptions.command == CardOptions::Command::Csv) {
+        return ExportCsv(mProfile).writeTable(mCard.recordData(), mOptions.csv, out);
+    }
+    const QByteArray text = info();
+    return out.write(text) == text.size();
+}
+
+QByteArray CardCommand::info()
+{
+    QJsonObject report = cardReport(mCard);
+    if (mOptions.hasSelection()) {
+        const std::vector<RecordFlight> flights =
+            mOptions.cycle ? mCard.recordCycles().at(*mOptions.cycle).flights
+                           : std::vector<RecordFlight>();
+        const QJsonObject record = recordReport(mCard, mProfile, flights, mOptions.times);
+        for (auto part = record.begin(); part != record.end(); ++part) {
+            report.insert(part.key(), part.value());
+        }
+    }
+    return QJsonDocument(report).toJson();
+}
+
+} // namespace VELIX
