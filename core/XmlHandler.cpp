@@ -72,6 +72,16 @@ bool parse(QDomDocument& doc, const QByteArray& text)
     return false;
 }
 
+QByteArray serialised(const QDomDocument& doc)
+{
+    QByteArray text;
+    QTextStream stream(&text, QIODevice::WriteOnly);
+    stream.setCodec("UTF-8");
+    doc.save(stream, kIndent);
+    stream.flush();
+    return text;
+}
+
 enum class WriteResult { Written, NotOpened, Failed };
 
 WriteResult write(const QDomDocument& doc, const QString& path)
@@ -79,13 +89,16 @@ WriteResult write(const QDomDocument& doc, const QString& path)
     const QFileInfo target(path);
     QSaveFile file(path);
     // Renaming over a device or pipe would replace it.
-    if ((target.exists() && !target.isFile()) || !file.open(QIODevice::WriteOnly)) {
+    if (path.isEmpty() || (target.exists() && !target.isFile()) ||
+        !file.open(QIODevice::WriteOnly)) {
         return WriteResult::NotOpened;
     }
-    QTextStream stream(&file);
-    stream.setCodec("UTF-8");
-    doc.save(stream, kIndent);
-    stream.flush();
+    // In one piece and flushed here: a stream, and the closing of the file, take a part that went
+    // in before the disk was full for the whole.
+    const QByteArray text = serialised(doc);
+    if (file.write(text) != text.size() || !file.flush()) {
+        file.cancelWriting();
+    }
     return file.commit() ? WriteResult::Written : WriteResult::Failed;
 }
 
