@@ -1,0 +1,335 @@
+#include "views/DialogData.h"
+
+#include "card/CardContainer.h"
+#include "card/LimitFinder.h"
+#include "card/WarningFinder.h"
+#include "gui/ImageHandler.h"
+#include "platform/tessel/Timer.h"
+#include "views/CursorTime.h"
+#include "views/DialogDataTable.h"
+#include "views/PageTabBar.h"
+#include "views/PlaceholderView.h"
+#include "views/ReplayControls.h"
+#include "views/ReplayKeys.h"
+
+#include <QButtonGroup>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTime>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace VELIX {
+
+namespace {
+
+constexpr int kReplayPeriod = 20; // ms
+constexpr int kIconSize = 32;
+
+/// The map buttons' ids.
+enum EMapLayout : int { eMapHidden = 0, eMapBeside = 1, eMapBelow = 2 };
+
+} // namespace
+
+DialogData::DialogData(Profile& profile, CardContainer& card, bool emuOnly, QWidget* parent)
+    : QWidget(parent),
+      mProfile(profile),
+      mCard(card),
+      mClock([watch = Tessel::Misc::Timer()] { return watch.elapsed(); })
+{
+    createViews();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(createTabs());
+    createSplitter();
+    layout->addWidget(mSplitter, 1);
+    createControls(emuOnly);
+    layout->addWidget(mControls);
+    mControls->showReplay(mClock);
+    mKeys->setEnabled(false);
+}
+
+void DialogData::createViews()
+{
+    const auto placeholder = [this](const char* name, const QString& text) {
+        auto* view = new PlaceholderView(text, this);
+        view->setObjectName(QLatin1String(name));
+        return view;
+    };
+    mTable = new DialogDataTable(mProfile, this);
+    mTable->setObjectName(QStringLiteral("viewTable"));
+    mGraph = placeholder("viewGraph", tr("This version has no graph yet. "
+                                         "The Data tab lists the values over time."));
+    mInstrument = placeholder("viewInstrument", tr("This version has no instrument panel yet. "
+                                                   "The Data tab lists the values over time."));
+    mFaultMatrix = placeholder("viewFaultMatrix", tr("This version has no fault matrix yet."));
+    mLimit = placeholder("viewLimit", tr("This version has no list of limit events yet. "
+                                         "The Data tab shows them by colour."));
+    mWarning = placeholder("viewWarning", tr("This version has no list of warning lamps yet."));
+    mStatistic = placeholder("viewStatistic", tr("This version has no tow statistic yet."));
+    mMap = placeholder("viewMap", tr("This version has no map yet."));
+
+    mRoutes.setView(EView::Table, *mTable);
+    mRoutes.setView(EView::Graph, *mGraph);
+    mRoutes.setView(EView::Instrument, *mInstrument);
+    mRoutes.setView(EView::FaultMatrix, *mFaultMatrix);
+    mRoutes.setView(EView::Limit, *mLimit);
+    mRoutes.setView(EView::Warning, *mWarning);
+    mRoutes.setView(EView::Statistic, *mStatistic);
+    mRoutes.setView(EView::Map, *mMap);
+    connect(mTable, &DialogDataTable::signalTime, this, &DialogData::slotTableTime);
+    connect(mTable, &DialogDataTable::signalInstallProfile, this,
+            &DialogData::signalInstallProfile);
+    connect(mTable, &DialogDataTable::signalSelectParameters, this,
+            &DialogData::signalSelectParameters);
+}
+
+QBoxLayout* DialogData::createTabs()
+{
+    mStack = new QStackedWidget;
+    mStack->setObjectName(QStringLiteral("viewStack"));
+    mTabs = new PageTabBar;
+    mTabs->setObjectName(QStringLiteral("tabBar"));
+    mTabs->setExpanding(false);
+    mTabs->setDrawBase(false);
+    mTabs->setIconSize({kIconSize, kIconSize});
+
+    const auto addPage = [this](const char* icon, const QString& label, QWidget* page) {
+        mTabs->addTab(ImageHandler::instance().icon(QLatin1String(icon)), label);
+        mStack->addWidget(page);
+    };
+    addPage("tab-data", tr("Data"), mTable);
+    addPage("tab-graph", tr("Graph"), mGraph);
+    addPage("tab-fault", tr("Fault Matrix"), mFaultMatrix);
+    addPage("tab-limit", tr("Limit/Warning"), mLimit);
+    addPage("tab-warning", tr("Warning Lamps"), mWarning);
+    addPage("tab-statistic", tr("Tow Statistic"), mStatistic);
+    addPage("tab-view", tr("EMU View"), mInstrument);
+    connect(mTabs, &QTabBar::currentChanged, mStack, &QStackedWidget::setCurrentIndex);
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(mTabs, 1);
+    createMapButtons(row);
+    return row;
+}
+
+void DialogData::createMapButtons(QBoxLayout* row)
+{
+    mMapButtons = new QButtonGroup(this);
+    mMapButtons->setExclusive(true);
+    const auto addButton = [&](EMapLayout id, const char* icon, const QString& tip) {
+        auto* button = new QToolButton;
+        button->setObjectName(QStringLiteral("buttonMap%1").arg(id));
+        button->setCheckable(true);
+        button->setAutoRaise(true);
+        button->setIconSize({kIconSize, kIconSize});
+        button->setIcon(ImageHandler::instance().icon(QLatin1String(icon)));
+        button->setToolTip(tip);
+        button->setAccessibleName(tip);
+        mMapButtons->addButton(button, id);
+        row->addWidget(button);
+    };
+    addButton(eMapHidden, "map-none", tr("Hide Map Display"));
+    addButton(eMapBeside, "map-horizontal", tr("Tile Map Display Horizontally"));
+    addButton(eMapBelow, "map-vertical", tr("Tile Map Display Vertically"));
+    mMapButtons->button(eMapBeside)->setChecked(true);
+    connect(mMapButtons, &QButtonGroup::idClicked, this, &DialogData::slotMapType);
+}
+
+void DialogData::createSplitter()
+{
+    mSplitter = new QSplitter(Qt::Horizontal);
+    mSplitter->setObjectName(QStringLiteral("splitter"));
+    mSplitter->addWidget(mStack);
+    mSplitter->addWidget(mMap);
+    mSplitter->setSizes({200, 300});
+    connect(mSplitter, &QSplitter::splitterMoved, this, &DialogData::followSplitter);
+}
+
+void DialogData::createControls(bool emuOnly)
+{
+    mControls = new ReplayControls(emuOnly, this);
+    connect(mControls, &ReplayControls::signalMode, this, &DialogData::slotReplayMode);
+    connect(mControls, &ReplayControls::signalStop, this, &DialogData::slotReplayStop);
+    connect(mControls, &ReplayControls::signalSlider, this, &DialogData::slotSlider);
+    connect(mControls, &ReplayControls::signalValue, this, &DialogData::slotValue);
+    connect(mControls, qOverload<int>(&ReplayControls::signalSpeed), this,
+            qOverload<int>(&DialogData::slotReplaySpeed));
+    connect(mControls, qOverload<double>(&ReplayControls::signalSpeed), this,
+            qOverload<double>(&DialogData::slotReplaySpeed));
+
+    mReplayTimer.setInterval(kReplayPeriod);
+    mReplayTimer.setTimerType(Qt::PreciseTimer);
+    connect(&mReplayTimer, &QTimer::timeout, this, &DialogData::slotTimeoutReplay);
+
+    mKeys = new ReplayKeys(this);
+    connect(mKeys, &ReplayKeys::signalToggle, this, &DialogData::slotReplayMode);
+    connect(mKeys, &ReplayKeys::signalStep, this, [this](double seconds) {
+        mClock.step(seconds);
+        updateTime();
+    });
+}
+
+void DialogData::updateRecord()
+{
+    mRecord = mCard.hasRecord() ? &mCard.recordData() : nullptr;
+    if (mRecord == nullptr) {
+        releaseRecord();
+        return;
+    }
+    mClock.setRecord(mRecord->startTime, mRecord->stopTime);
+    mRecord->cursorTime = mClock.cursor();
+    // Exports read the events; without list views that find them, the window has to.
+    mRecord->limits = findLimits(*mRecord, mProfile);
+    mRecord->warnings = findWarnings(*mRecord, mProfile);
+    mControls->setRecordOpen(true);
+    mControls->showReplay(mClock);
+    mKeys->setEnabled(true);
+    updateDisplay();
+    mRoutes.updateRecord(mRecord);
+    mRoutes.setTime(ECursorSource::Reload, mClock.cursor());
+}
+
+void DialogData::releaseRecord()
+{
+    mRecord = nullptr;
+    mRoutes.updateRecord(nullptr);
+    mReplayTimer.stop();
+    mClock.rewind();
+    mControls->setRecordOpen(false);
+    mControls->showReplay(mClock);
+    mKeys->setEnabled(false);
+}
+
+void DialogData::updateProfile()
+{
+    if (mRecord != nullptr) {
+        mRecord->limits = findLimits(*mRecord, mProfile); // the lamps stay as they were
+    }
+    mRoutes.updateProfile();
+    mRoutes.setTime(ECursorSource::Reload, mClock.cursor());
+}
+
+void DialogData::loadProfile()
+{
+    mFaultMatrix->updateRecord(mRecord);
+    mFaultMatrix->setTime(mClock.cursor());
+}
+
+void DialogData::setCursor(ECursorSource source, double seconds)
+{
+    mClock.setCursor(seconds);
+    if (mRecord != nullptr) {
+        mRecord->cursorTime = seconds;
+    }
+    mRoutes.setTime(source, seconds);
+    updateDisplay();
+}
+
+void DialogData::updateTime()
+{
+    setCursor(ECursorSource::Replay, mClock.cursor());
+}
+
+void DialogData::slotTimeoutReplay()
+{
+    const bool beyondEnd = mClock.tick();
+    updateTime();
+    if (beyondEnd) {
+        slotReplayStop();
+    }
+}
+
+void DialogData::slotReplayMode()
+{
+    mClock.toggle();
+    if (mClock.state() == eReplayRunning) {
+        mReplayTimer.start();
+    } else {
+        mReplayTimer.stop();
+    }
+    mControls->showReplay(mClock);
+}
+
+void DialogData::slotReplayStop()
+{
+    mReplayTimer.stop();
+    mClock.rewind();
+    updateTime();
+    mControls->showReplay(mClock);
+}
+
+void DialogData::slotReplaySpeed(int value)
+{
+    mClock.setSpeed(value / 100.0);
+    mControls->showReplay(mClock);
+}
+
+void DialogData::slotReplaySpeed(double value)
+{
+    mClock.setSpeed(value);
+    mControls->showReplay(mClock);
+}
+
+void DialogData::slotSlider(int value)
+{
+    setCursor(ECursorSource::Replay, CursorTime::sliderTime(mClock.start(), mClock.stop(), value));
+}
+
+void DialogData::slotValue(const QTime& time)
+{
+    setCursor(ECursorSource::TimeEdit, QTime(0, 0).secsTo(time));
+}
+
+void DialogData::slotCursor(float time, double)
+{
+    setCursor(ECursorSource::Graph, static_cast<double>(time));
+}
+
+void DialogData::slotTableTime(double time)
+{
+    setCursor(ECursorSource::Table, time);
+}
+
+void DialogData::slotLimitTime(double time)
+{
+    setCursor(ECursorSource::LimitList, time);
+}
+
+void DialogData::slotWarningTime(double time)
+{
+    setCursor(ECursorSource::WarningList, time);
+}
+
+void DialogData::slotMapType(int id)
+{
+    if (id == eMapHidden) {
+        mSplitter->setSizes({100, 0});
+        return;
+    }
+    if (id != eMapBeside && id != eMapBelow) {
+        return;
+    }
+    mSplitter->setOrientation(id == eMapBeside ? Qt::Horizontal : Qt::Vertical);
+    const QList<int> sizes = mSplitter->sizes();
+    if (sizes.contains(0)) {
+        const int half = (sizes[0] + sizes[1]) / 2;
+        mSplitter->setSizes({half, half});
+    }
+}
+
+/// The buttons say what is so, also after the handle was dragged.
+void DialogData::followSplitter()
+{
+    const EMapLayout shown = mSplitter->orientation() == Qt::Horizontal ? eMapBeside : eMapBelow;
+    mMapButtons->button(mSplitter->sizes().last() == 0 ? eMapHidden : shown)->setChecked(true);
+}
+
+void DialogData::updateDisplay()
+{
+    if (mRecord != nullptr) {
+        mControls->showCursor(mClock, mRecord->startDateTime);
+    }
+}
+
+} // namespace VELIX

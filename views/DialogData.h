@@ -1,0 +1,102 @@
+#pragma once
+
+#include "views/CursorRoutes.h"
+#include "views/ReplayClock.h"
+
+#include <QTimer>
+#include <QWidget>
+
+class QBoxLayout;
+class QButtonGroup;
+class QSplitter;
+class QStackedWidget;
+class QTime;
+
+namespace VELIX {
+
+class CardContainer;
+class DialogDataTable;
+class PageTabBar;
+class PlaceholderView;
+class Profile;
+class ReplayControls;
+class ReplayKeys;
+
+/// The data window: it hosts all views of the open record, owns the common time cursor and the
+/// replay that moves it, and tells every view of each change.
+class DialogData : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// emuOnly: hides what only someone at a desk needs (time of day, position, time editor).
+    DialogData(Profile& profile, CardContainer& card, bool emuOnly, QWidget* parent = nullptr);
+
+    /// The card holds another record, or none: the cursor goes to its start.
+    void updateRecord();
+    /// Takes the record from the views. To be called before the card loads, since that frees
+    /// what they show.
+    void releaseRecord();
+    /// The profile, its unit system or the selection of parameters changed.
+    void updateProfile();
+    /// Only the layout of the fault matrix has to be built again.
+    void loadProfile();
+
+    /// Seconds on the record's time axis.
+    double cursorTime() const { return mClock.cursor(); }
+
+signals:
+    /// The user followed a link of a view that lacks something.
+    void signalInstallProfile();
+    void signalSelectParameters();
+
+private slots:
+    void slotTimeoutReplay();
+    void slotReplayMode();
+    void slotReplayStop();
+    void slotMapType(int id);
+    void slotSlider(int value);
+    void slotValue(const QTime& time);
+    void slotReplaySpeed(int value);
+    void slotReplaySpeed(double value);
+    void slotCursor(float time, double value);
+    void slotTableTime(double time);
+    void slotLimitTime(double time);
+    void slotWarningTime(double time);
+
+private:
+    void createViews();
+    QBoxLayout* createTabs();
+    void createMapButtons(QBoxLayout* row);
+    void createSplitter();
+    void createControls(bool emuOnly);
+
+    void setCursor(ECursorSource source, double seconds);
+    void updateTime();
+    void updateDisplay();
+    void followSplitter();
+
+    Profile& mProfile;
+    CardContainer& mCard;
+    ReplayClock mClock;
+    CursorRoutes mRoutes;
+    RecordData* mRecord = nullptr; ///< the card's working data; null without a record
+
+    QTimer mReplayTimer;
+    ReplayKeys* mKeys = nullptr;
+    PageTabBar* mTabs = nullptr;
+    QButtonGroup* mMapButtons = nullptr;
+    QSplitter* mSplitter = nullptr;
+    QStackedWidget* mStack = nullptr;
+    DialogDataTable* mTable = nullptr;
+    PlaceholderView* mGraph = nullptr;
+    PlaceholderView* mInstrument = nullptr;
+    PlaceholderView* mFaultMatrix = nullptr;
+    PlaceholderView* mLimit = nullptr;
+    PlaceholderView* mWarning = nullptr;
+    PlaceholderView* mStatistic = nullptr;
+    PlaceholderView* mMap = nullptr;
+    ReplayControls* mControls = nullptr;
+};
+
+} // namespace VELIX

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QTabBar>
+
+namespace VELIX {
+
+/// Tabs with icons that stay in sight in a narrow window: where their texts do not fit, all but
+/// the current one shrink to their icon, and the tool tip says what they are.
+class PageTabBar : public QTabBar
+{
+    Q_OBJECT
+
+public:
+    using QTabBar::QTabBar;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    /// Whether a tab shows its icon only.
+    bool isCompact(int index) const;
+
+protected:
+    QSize tabSizeHint(int index) const override;
+    void tabInserted(int index) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QSize compactSize(int index) const;
+    int fullWidth() const;
+};
+
+} // namespace VELIX

@@ -1,0 +1,28 @@
+#include "views/ThresholdDelegate.h"
+
+#include <QPainter>
+
+namespace VELIX {
+
+namespace {
+
+constexpr int kStripeWidth = 6; // pixels
+
+} // namespace
+
+void ThresholdDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) const
+{
+    QStyledItemDelegate::paint(painter, option, index);
+    if (!(option.state & QStyle::State_Selected)) {
+        return;
+    }
+    const QVariant ground = index.data(Qt::BackgroundRole);
+    if (ground.isValid()) {
+        QRect stripe = option.rect;
+        stripe.setWidth(kStripeWidth);
+        painter->fillRect(stripe, ground.value<QBrush>());
+    }
+}
+
+} // namespace VELIX
