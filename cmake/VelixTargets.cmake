@@ -13,7 +13,8 @@ if(VELIX_SANITIZE)
     target_link_options(velix_options INTERFACE -fsanitize=address,undefined)
 endif()
 if(VELIX_FUZZ)
-    target_compile_options(velix_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined)
+    target_compile_options(velix_options INTERFACE
+        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=undefined)
     target_link_options(velix_options INTERFACE -fsanitize=address,undefined)
 endif()
 
