@@ -1,0 +1,36 @@
+#pragma once
+
+#include "export/CsvExportOptions.h"
+
+#include <QWizard>
+
+namespace VELIX {
+
+class DialogService;
+class Property;
+
+/// The wizard that collects what the CSV export writes and where; the settings keep the answers.
+class DialogExportCsv : public QWizard
+{
+    Q_OBJECT
+
+public:
+    DialogExportCsv(Property& settings, DialogService& dialogs, QWidget* parent = nullptr);
+
+    /// Asks the user; false if the wizard was cancelled: neither `options` nor settings change.
+    [[nodiscard]] bool getOptions(CsvExportOptions& options);
+
+    /// Fills the pages from the settings and starts at the first one.
+    void loadOptions();
+    /// Writes the answers to the settings and to their file.
+    void storeOptions();
+
+    /// The answers so far.
+    const CsvExportOptions& options() const { return mOptions; }
+
+private:
+    Property& mSettings;
+    CsvExportOptions mOptions;
+};
+
+} // namespace VELIX

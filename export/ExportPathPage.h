@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QWizardPage>
+
+#include <string>
+
+class QLabel;
+class QLineEdit;
+
+namespace VELIX {
+
+class DialogService;
+
+/// The first page of an export wizard: folder and name of the file to write.
+///
+/// It can only be left for a file that can be written, and not over an existing one unasked.
+class ExportPathPage : public QWizardPage
+{
+    Q_OBJECT
+
+public:
+    /// Both texts (UTF-8) belong to the wizard's options and follow the editors at once.
+    ExportPathPage(DialogService& dialogs, std::string& directory, std::string& fileName,
+                   QWidget* parent = nullptr);
+
+    void initializePage() override;
+    bool validatePage() override;
+
+    /// Why this file cannot be written, as a sentence for the user; empty if it can.
+    static QString problem(const QString& directory, const QString& fileName);
+
+protected:
+    /// Title of the folder chooser.
+    virtual QString chooserTitle() const = 0;
+
+private slots:
+    void slotPath(const QString& path);
+    void slotPathSelect();
+    void slotFile(const QString& file);
+
+private:
+    void createLayout();
+    void showProblem(const QString& sentence);
+    QString directory() const;
+    QString fileName() const;
+
+    DialogService& mDialogs;
+    std::string& mDirectory;
+    std::string& mFileName;
+    QLineEdit* mPathEdit;
+    QLineEdit* mFileEdit;
+    QLabel* mProblemIcon;
+    QLabel* mProblem;
+};
+
+} // namespace VELIX

@@ -1,0 +1,74 @@
+#include "gui/StandardDialogs.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+
+namespace VELIX {
+
+StandardDialogs& StandardDialogs::instance()
+{
+    static StandardDialogs dialogs;
+    return dialogs;
+}
+
+QString StandardDialogs::openFile(QWidget* parent, const QString& title, const QString& start,
+                                  const QString& filter)
+{
+    return QFileDialog::getOpenFileName(parent, title, start, filter);
+}
+
+QString StandardDialogs::saveFile(QWidget* parent, const QString& title, const QString& start,
+                                  const QString& filter, const QString& suffix)
+{
+    QFileDialog dialog(parent, title, start, filter);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(suffix);
+    if (dialog.exec() != QDialog::Accepted) {
+        return {};
+    }
+    return dialog.selectedFiles().value(0);
+}
+
+QString StandardDialogs::folder(QWidget* parent, const QString& title, const QString& start)
+{
+    return QFileDialog::getExistingDirectory(parent, title, start);
+}
+
+DialogService::Answer StandardDialogs::askToSave(QWidget* parent, const QString& title,
+                                                 const QString& text)
+{
+    const auto button = QMessageBox::warning(
+        parent, title, text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+        QMessageBox::Yes);
+    switch (button) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    default:
+        return Answer::Cancel;
+    }
+}
+
+bool StandardDialogs::confirm(QWidget* parent, const QString& title, const QString& text)
+{
+    return QMessageBox::question(parent, title, text, QMessageBox::Yes | QMessageBox::No,
+                                 QMessageBox::No) == QMessageBox::Yes;
+}
+
+void StandardDialogs::information(QWidget* parent, const QString& title, const QString& text)
+{
+    QMessageBox::information(parent, title, text);
+}
+
+void StandardDialogs::warning(QWidget* parent, const QString& title, const QString& text)
+{
+    QMessageBox::warning(parent, title, text);
+}
+
+void StandardDialogs::critical(QWidget* parent, const QString& title, const QString& text)
+{
+    QMessageBox::critical(parent, title, text);
+}
+
+} // namespace VELIX
