@@ -2,10 +2,10 @@
 
 #include "card/RecordData.h"
 #include "core/Diagnostics.h"
+#include "export/OutputFile.h"
 #include "profile/Profile.h"
 
 #include <QIODevice>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <cstdint>
@@ -31,6 +31,13 @@ struct Column
     std::string texts;
     std::vector<Cell> cells; ///< by tick
 };
+
+/// A settings file can ask for any number; what is no whole part of a second counts as 100 ms.
+int validResolution(int milliseconds)
+{
+    const bool valid = milliseconds > 0 && milliseconds <= 1000 && 1000 % milliseconds == 0;
+    return valid ? milliseconds : CsvExportOptions().resolution;
+}
 
 std::uint64_t tickOf(double time, int resolution)
 {
@@ -192,29 +199,28 @@ ExportCsv::ExportCsv(Profile& profile) : mProfile(profile) {}
 bool ExportCsv::writeTable(const RecordData& record, const CsvExportOptions& options,
                            QIODevice& out)
 {
+    CsvExportOptions valid = options;
+    valid.resolution = validResolution(options.resolution);
     std::vector<Column> columns;
     for (const ProfileDevice& device : mProfile.data().devices) {
         for (const auto& [id, p] : device.parameters) {
             if (options.allParameters || p.selected) {
-                columns.push_back(fillColumn(record, p, options.resolution, mProfile));
+                columns.push_back(fillColumn(record, p, valid.resolution, mProfile));
             }
         }
     }
-    return TableWriter(columns, options).write(out);
+    return TableWriter(columns, valid).write(out);
 }
 
 int ExportCsv::exportData(const RecordData& record, const CsvExportOptions& options)
 {
     const QString path = QString::fromStdString(options.directory) + QLatin1Char('/') +
                          QString::fromStdString(options.fileName);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        Diagnostics::print("could not open file for writing !<%s>\n", path.toUtf8().constData());
-        return 0;
-    }
-    if (!writeTable(record, options, file) || !file.commit()) {
+    const QString failure =
+        writeOutputFile(path, [&](QIODevice& out) { return writeTable(record, options, out); });
+    if (!failure.isEmpty()) {
         Diagnostics::print("could not write file <%s>: %s\n", path.toUtf8().constData(),
-                           file.errorString().toUtf8().constData());
+                           failure.toUtf8().constData());
         return 0;
     }
     return 1;

@@ -1,11 +1,11 @@
 #include "tools/velix-card/CardCommand.h"
 
 #include "export/ExportCsv.h"
+#include "export/OutputFile.h"
 #include "tools/velix-card/InfoReport.h"
 
 #include <QFile>
 #include <QJsonDocument>
-#include <QSaveFile>
 #include <QSet>
 
 #include <list>
@@ -78,12 +78,6 @@ CardCommand::Status CardCommand::load()
             tell(QStringLiteral("The card has no cycle %1.").arg(*mOptions.cycle));
             return Status::Failed;
         }
-        const auto& flights = mCard.recordCycles().at(*mOptions.cycle).flights;
-        if (mOptions.flight >= static_cast<int>(flights.size())) {
-            tell(QStringLiteral("Warning: cycle %1 has no flight %2, the whole cycle is loaded.")
-                     .arg(*mOptions.cycle)
-                     .arg(mOptions.flight));
-        }
     } else {
         mCard.loadFiles(std::list<QString>(mOptions.files.begin(), mOptions.files.end()));
     }
@@ -94,25 +88,40 @@ CardCommand::Status CardCommand::load()
     if (!mCard.lastError().isEmpty()) {
         tell(QStringLiteral("Warning: %1").arg(mCard.lastError()));
     }
+    warnOfMissingFlight();
     return Status::Done;
+}
+
+void CardCommand::warnOfMissingFlight() const
+{
+    if (!mOptions.cycle) {
+        return;
+    }
+    const auto flights = mCard.recordCycles().at(*mOptions.cycle).flights.size();
+    if (mOptions.flight >= 0 && static_cast<std::size_t>(mOptions.flight) >= flights) {
+        tell(QStringLiteral("Warning: cycle %1 has no flight %2, the whole cycle is loaded.")
+                 .arg(*mOptions.cycle)
+                 .arg(mOptions.flight));
+    }
 }
 
 CardCommand::Status CardCommand::write()
 {
-    bool written = false;
-    if (mOptions.output.isEmpty()) {
-        QFile out;
-        written = out.open(mResults, QIODevice::WriteOnly) && writeTo(out) && out.flush();
-    } else {
-        QSaveFile out(mOptions.output);
-        written = out.open(QIODevice::WriteOnly) && writeTo(out) && out.commit();
+    if (!mOptions.output.isEmpty()) {
+        const QString failure =
+            writeOutputFile(mOptions.output, [this](QIODevice& out) { return writeTo(out); });
+        if (failure.isEmpty()) {
+            return Status::Done;
+        }
+        tell(QStringLiteral("%1 could not be written: %2.").arg(mOptions.output, failure));
+        return Status::Failed;
     }
-    if (!written) {
-        tell(mOptions.output.isEmpty()
-                 ? QStringLiteral("The result could not be written.")
-                 : QStringLiteral("%1 could not be written.").arg(mOptions.output));
+    QFile out;
+    if (out.open(mResults, QIODevice::WriteOnly) && writeTo(out) && out.flush()) {
+        return Status::Done;
     }
-    return written ? Status::Done : Status::Failed;
+    tell(QStringLiteral("The result could not be written."));
+    return Status::Failed;
 }
 
 bool CardCommand::writeTo(QIODevice& out)

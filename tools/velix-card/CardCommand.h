@@ -26,8 +26,9 @@ private:
     enum class Status { Done = 0, Failed = 1, WrongUsage = 2 };
 
     Status open();
-    Status load();
     Status select();
+    Status load();
+    void warnOfMissingFlight() const;
     Status write();
     bool writeTo(QIODevice& out);
     QByteArray info();
