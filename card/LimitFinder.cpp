@@ -14,15 +14,6 @@ bool entersBand(int previous, int state)
            (previous == eThresholdWarning && state == eThresholdLimit);
 }
 
-/// The state that a sample's text is judged by; 0 and no colour where it is not judged.
-int stateOf(Profile& profile, const RecordEntry& entry, const ProfileParameter& p, QColor& color)
-{
-    int state = eThresholdOk;
-    color = QColor();
-    profile.getDataState(entry, p, state, color);
-    return state;
-}
-
 void findLimitsOf(const ProfileDevice& device, const ProfileParameter& p, const EntryList& entries,
                   Profile& profile, std::vector<RecordLimit>& limits)
 {
@@ -32,14 +23,16 @@ void findLimitsOf(const ProfileDevice& device, const ProfileParameter& p, const 
     profile.resetCoordinates();
     int previous = eThresholdLimit; // the first sample never starts an event
     for (const RecordEntry& entry : entries) {
-        RecordLimit event;
-        const int state = stateOf(profile, entry, p, event.color);
+        const TextValue value = profile.textValue(entry, p);
+        int state = eThresholdOk;
+        QColor color;
+        profile.judge(p, value, state, color);
         if (entersBand(previous, state)) {
-            int ignoredState = 0;
-            QColor ignoredColor;
-            const QString value = profile.getDataString(entry, p, ignoredState, ignoredColor);
-            if (value != QLatin1String("nan")) {
-                describeEvent(event, entry.time, device.name, p, value, p.viewId);
+            const QString text = profile.text(p, value);
+            if (text != QLatin1String("nan")) {
+                RecordLimit event;
+                event.color = color;
+                describeEvent(event, entry.time, device.name, p, text, p.viewId);
                 limits.push_back(std::move(event));
             }
         }

@@ -77,6 +77,14 @@ public:
     void appendDataString(const RecordEntry& e, const ProfileParameter& p, std::string& out);
     /// State and colour exactly as getDataString() gives them, without making the text.
     void getDataState(const RecordEntry& e, const ProfileParameter& p, int& state, QColor& color);
+
+    /// The value behind a display text, before unit conversion. A walk that wants state and text
+    /// of one sample takes it once, since each call advances the coordinate filter.
+    TextValue textValue(const RecordEntry& e, const ProfileParameter& p);
+    /// State and colour of such a value; what is not judged leaves them as they were.
+    void judge(const ProfileParameter& p, const TextValue& value, int& state, QColor& color) const;
+    QString text(const ProfileParameter& p, const TextValue& value) const;
+
     double convertUnit(const ProfileParameter& p, double value) const;
     void getThreshold(const ProfileParameter& p, double value, int& state, QColor& color) const;
     /// Always empty: the labels of a bit field come with its text.
@@ -100,9 +108,6 @@ private:
     void addCanasType(const QString& name, int code);
     bool decode(const RecordEntry& e, const ProfileParameter& p, bool scale, double& value);
     double coordinate(const ProfileParameter& p, double value);
-    /// The value behind a display text, before unit conversion; advances the coordinate filter.
-    TextValue textValue(const RecordEntry& e, const ProfileParameter& p);
-    void judge(const ProfileParameter& p, const TextValue& value, int& state, QColor& color) const;
     void appendEnumText(const ProfileParameter& p, const TextValue& value, std::string& out) const;
     void appendText(const ProfileParameter& p, const TextValue& value, std::string& out) const;
 

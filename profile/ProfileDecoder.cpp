@@ -293,9 +293,14 @@ QString Profile::getDataString(const RecordEntry& e, const ProfileParameter& p, 
 {
     const TextValue value = textValue(e, p);
     judge(p, value, state, color);
-    std::string text;
-    appendText(p, value, text);
-    return QString::fromStdString(text);
+    return text(p, value);
+}
+
+QString Profile::text(const ProfileParameter& p, const TextValue& value) const
+{
+    std::string utf8;
+    appendText(p, value, utf8);
+    return QString::fromStdString(utf8);
 }
 
 void Profile::appendDataString(const RecordEntry& e, const ProfileParameter& p, std::string& out)
