@@ -11,6 +11,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QLocale>
 
 #include <algorithm>
@@ -24,7 +25,7 @@ constexpr std::uint64_t kBytesPerEntry = 72; // of memory, an entry with its pla
 
 bool isRecordFile(const QString& name)
 {
-    const QString extension = name.mid(name.lastIndexOf(QLatin1Char('.')) + 1);
+    const QString extension = QFileInfo(name).suffix();
     return extension == QLatin1String("CAN") || extension == QLatin1String("can") ||
            extension == QLatin1String("xcb");
 }
@@ -157,6 +158,9 @@ CardContainer::ELoad CardContainer::load(const std::list<QString>& names)
             result = ELoad::Some;
         }
         first = false;
+    }
+    if (mLoaded->entryCount > 0) { // a file that ended early has still given what it had
+        result = ELoad::Some;
     }
     mLoaded->startDateTime = mStartDateTime;
     mProfile.resetCoordinates();

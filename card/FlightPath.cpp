@@ -37,13 +37,22 @@ double wrapped(double longitude)
     return std::remainder(longitude, 360.0);
 }
 
+/// The samples of a role by time; none if no parameter has the role.
+std::vector<const RecordEntry*> samplesOf(const RecordData& record, const ProfileParameter& p)
+{
+    if (p.velixDataType.isEmpty()) {
+        return {}; // not those of identifier 0
+    }
+    return record.entries(static_cast<std::uint32_t>(p.id)).sortedByTime();
+}
+
 /// Decodes both series in one walk by time: the filter judges a longitude by the last latitude.
 Positions decodePositions(const RecordData& record, Profile& profile)
 {
     const ProfileParameter lat = profile.getParameterFromVelixType(QStringLiteral("Latitude"));
     const ProfileParameter lon = profile.getParameterFromVelixType(QStringLiteral("Longitude"));
-    const auto lats = record.entries(static_cast<std::uint32_t>(lat.id)).sortedByTime();
-    const auto lons = record.entries(static_cast<std::uint32_t>(lon.id)).sortedByTime();
+    const auto lats = samplesOf(record, lat);
+    const auto lons = samplesOf(record, lon);
 
     Positions positions;
     positions.latitudes.reserve(lats.size());
@@ -73,8 +82,7 @@ std::vector<Sample> decodeAltitudes(const RecordData& record, Profile& profile)
 {
     const ProfileParameter p = profile.getParameterFromVelixType(QStringLiteral("Altitude"));
     std::vector<Sample> altitudes;
-    for (const RecordEntry* entry :
-         record.entries(static_cast<std::uint32_t>(p.id)).sortedByTime()) {
+    for (const RecordEntry* entry : samplesOf(record, p)) {
         const double metres = profile.getMetric(*entry, p);
         if (std::isfinite(metres)) {
             altitudes.push_back({entry->time, metres});

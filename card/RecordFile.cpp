@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <limits>
 #include <new>
 #include <vector>
 
@@ -27,6 +28,13 @@ constexpr std::int64_t kBlock = 32768;        // entries read at once: fits the 
 std::int64_t wholeEntries(std::int64_t fileSize)
 {
     return std::max<std::int64_t>(0, (fileSize - kHeaderSize) / kEntrySize);
+}
+
+/// A sparse file can claim more entries than the number shown holds.
+std::uint32_t shownCount(std::int64_t count)
+{
+    constexpr std::int64_t kMost = std::numeric_limits<std::uint32_t>::max();
+    return static_cast<std::uint32_t>(std::min(count, kMost));
 }
 
 QString headerText(RecordFieldReader& in, std::size_t width)
@@ -113,7 +121,7 @@ bool RecordFile::readRecordInfo(const QString& path)
         return false;
     }
     mCount = wholeEntries(in.size());
-    mInfo.sampleCount = static_cast<std::uint32_t>(mCount);
+    mInfo.sampleCount = shownCount(mCount);
     readInfo(in, true);
     return true;
 }
@@ -127,7 +135,7 @@ bool RecordFile::readRecordData(RecordData& data)
         return false;
     }
     mCount = wholeEntries(in.size());
-    mInfo.sampleCount = static_cast<std::uint32_t>(mCount);
+    mInfo.sampleCount = shownCount(mCount);
     readInfo(in, false);
     return readData(in, data);
 }
