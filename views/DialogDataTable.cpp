@@ -50,7 +50,10 @@ DialogDataTable::DialogDataTable(Profile& profile, QWidget* parent)
 
 DialogDataTable::~DialogDataTable()
 {
-    clearCells(); // while the columns they point into still exist
+    // The table goes while its slots and the columns that its cells point into still exist.
+    mSelecting = true;
+    mCursorRow = -1;
+    delete mTable;
 }
 
 void DialogDataTable::createTable()

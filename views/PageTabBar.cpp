@@ -1,5 +1,6 @@
 #include "views/PageTabBar.h"
 
+#include <QResizeEvent>
 #include <QStyleOptionTab>
 #include <QStylePainter>
 
@@ -10,6 +11,19 @@ namespace {
 constexpr int kIconTextGap = 4; // what a tab bar puts between its icon and its text
 
 } // namespace
+
+PageTabBar::PageTabBar(QWidget* parent) : QTabBar(parent)
+{
+    connect(this, &QTabBar::currentChanged, this, &PageTabBar::layOut);
+}
+
+/// Tab bars reckon with tabs that change their size when they become current only where a style
+/// sheet makes them; a change of size always counts.
+void PageTabBar::layOut()
+{
+    QResizeEvent same(size(), size());
+    resizeEvent(&same);
+}
 
 int PageTabBar::fullWidth() const
 {

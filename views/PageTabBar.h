@@ -11,7 +11,7 @@ class PageTabBar : public QTabBar
     Q_OBJECT
 
 public:
-    using QTabBar::QTabBar;
+    explicit PageTabBar(QWidget* parent = nullptr);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -25,6 +25,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void layOut();
     QSize compactSize(int index) const;
     int fullWidth() const;
 };

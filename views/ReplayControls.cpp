@@ -41,8 +41,14 @@ QLCDNumber* createDisplay(const QString& placeholder, const QString& name)
     display->setMinimumSize(220, 60);
     display->setAccessibleName(name);
     display->setToolTip(name);
-    display->display(placeholder);
     return display;
+}
+
+/// A display keeps no text that could be read aloud, so it is described by it as well.
+void showText(QLCDNumber* display, const QString& text)
+{
+    display->display(text);
+    display->setAccessibleDescription(text);
 }
 
 QToolButton* createReplayButton(const QString& icon)
@@ -203,8 +209,8 @@ void ReplayControls::showCursor(const ReplayClock& clock, const QDateTime& start
     const QScopedValueRollback<bool> updating(mUpdating, true);
     const double cursor = clock.cursor();
     const qint64 ms = CursorTime::milliseconds(cursor);
-    mDateTimeDisplay->display(CursorTime::dateTimeText(start, cursor));
-    mTimeDisplay->display(CursorTime::timeText(ms));
+    showText(mDateTimeDisplay, CursorTime::dateTimeText(start, cursor));
+    showText(mTimeDisplay, CursorTime::timeText(ms));
     mTimeEdit->setTime(CursorTime::timeOfDay(ms));
 
     // A slider that already stands for this very time stays: rounding would push it back.
@@ -231,8 +237,8 @@ void ReplayControls::setRecordOpen(bool open)
     enable(mSpeedSlider, tr("Replay speed, 1 to 100 times real time"));
     enable(mSpeedBox, tr("Replay speed, 1 to 100 times real time"));
     if (!open) {
-        mDateTimeDisplay->display(CursorTime::dateTimePlaceholder());
-        mTimeDisplay->display(CursorTime::timePlaceholder());
+        showText(mDateTimeDisplay, CursorTime::dateTimePlaceholder());
+        showText(mTimeDisplay, CursorTime::timePlaceholder());
     }
 }
 

@@ -1,0 +1,300 @@
+#include "views/DialogDataTable.h"
+
+#include "card/RecordData.h"
+#include "gui/WidgetHint.h"
+#include "profile/Profile.h"
+#include "tests/support/ProfileBuilder.h"
+#include "tests/support/RecordBuilder.h"
+
+#include <gtest/gtest.h>
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QTest>
+
+namespace VELIX {
+namespace {
+
+using Test::ProfileBuilder;
+using Test::RecordBuilder;
+
+constexpr int kOil = 500;
+constexpr int kSpeed = 501;
+constexpr int kLatitude = 502;
+
+struct DialogDataTableTest : ::testing::Test
+{
+    DialogDataTableTest()
+    {
+        builder.conversion("C", "F", 1.8, 32.0)
+            .threshold("Hot", {{90.0, "yellow", "WARNING"}, {110.0, "#aa0000", "LIMIT"}});
+        builder.device("Lane A")
+            .parameter(kOil, QStringLiteral("Oil"), "FLOAT")
+            .set("unitMetric", "C")
+            .set("unitImperial", "F")
+            .set("precision", "1")
+            .set("thresholdId", "Hot");
+        builder.parameter(kSpeed, QStringLiteral("Speed"), "USHORT");
+        builder.parameter(kLatitude, QStringLiteral("Latitude"), "FLOAT")
+            .set("velixDataType", "Latitude")
+            .set("precision", "4");
+    }
+
+    void SetUp() override
+    {
+        ASSERT_TRUE(builder.load(profile));
+        select({kOil, kSpeed});
+        view.resize(500, 300);
+        view.show();
+    }
+    void select(std::initializer_list<int> ids)
+    {
+        for (ProfileDevice& device : profile.data().devices) {
+            for (auto& [id, parameter] : device.parameters) {
+                parameter.selected = std::count(ids.begin(), ids.end(), id) != 0;
+            }
+        }
+        view.updateProfile();
+    }
+    void show(const RecordBuilder& record)
+    {
+        data = record.data();
+        view.updateRecord(data.get());
+    }
+    QTableWidget* table() { return view.findChild<QTableWidget*>(); }
+    QString hint()
+    {
+        const auto* sentence = view.findChild<WidgetHint*>();
+        return sentence->isVisible() ? sentence->hint() : QString();
+    }
+    int selectedRow()
+    {
+        const QModelIndexList rows = table()->selectionModel()->selectedRows();
+        return rows.size() == 1 ? rows.front().row() : -1;
+    }
+    /// The table as lines of cells, "-" where there is none.
+    std::string dump()
+    {
+        QStringList lines;
+        for (int row = -1; row < table()->rowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < table()->columnCount(); ++column) {
+                const QTableWidgetItem* item =
+                    row < 0 ? table()->horizontalHeaderItem(column) : table()->item(row, column);
+                cells.append(item == nullptr ? QStringLiteral("-") : item->text());
+            }
+            lines.append(cells.join(QStringLiteral(" | ")));
+        }
+        return lines.join(QLatin1Char('\n')).toStdString();
+    }
+
+    ProfileBuilder builder;
+    std::shared_ptr<RecordData> data; // outlives the view
+    Profile profile;
+    DialogDataTable view{profile};
+};
+
+TEST_F(DialogDataTableTest, RowsAreTenthsOfASecondAndColumnsParameters)
+{
+    RecordBuilder record;
+    record.at(10.0).id(kOil).floatValue(80.0F);
+    record.at(10.04).id(kSpeed).ushortValue(7);
+    record.at(10.1).id(kSpeed).ushortValue(8);
+    record.at(3725.5).id(kOil).floatValue(80.25F);
+    show(record);
+    EXPECT_EQ(dump(), "Time | Oil [C] | Speed\n"
+                      "00:00:10.000 | 80.0 | 7\n"
+                      "00:00:10.100 | - | 8\n"
+                      "01:02:05.500 | 80.2 | -");
+    EXPECT_EQ(table()->item(1, 0)->data(Qt::UserRole).toInt(), 10100);
+    EXPECT_FALSE(table()->item(0, 0)->flags() & Qt::ItemIsEditable);
+    EXPECT_EQ(table()->item(0, 0)->background().color(), QColor(230, 230, 230));
+    EXPECT_EQ(table()->horizontalHeader()->font().weight(), 75);
+    EXPECT_TRUE(hint().isEmpty());
+}
+
+TEST_F(DialogDataTableTest, TheLastSampleOfATenthInFileOrderStands)
+{
+    RecordBuilder record;
+    record.id(kSpeed).at(2.0).ushortValue(1).at(2.02).ushortValue(2);
+    record.at(1.0).ushortValue(3).at(2.01).ushortValue(4); // the clock ran backwards
+    show(record);
+    select({kSpeed});
+    EXPECT_EQ(dump(), "Time | Speed\n00:00:01.000 | 3\n00:00:02.000 | 4");
+}
+
+TEST_F(DialogDataTableTest, ThresholdsColourCellsAndTextsStayReadable)
+{
+    RecordBuilder record;
+    record.id(kOil);
+    record.at(1.0).floatValue(20.0F).at(2.0).floatValue(95.0F).at(3.0).floatValue(120.0F);
+    show(record);
+    EXPECT_EQ(table()->item(0, 1)->background().style(), Qt::NoBrush);
+    EXPECT_EQ(table()->item(1, 1)->background().color(), QColor(Qt::yellow));
+    EXPECT_LT(table()->item(1, 1)->foreground().color().lightness(), 80);
+    EXPECT_EQ(table()->item(2, 1)->background().color(), QColor(0xaa, 0, 0));
+    EXPECT_GT(table()->item(2, 1)->foreground().color().lightness(), 200);
+}
+
+TEST_F(DialogDataTableTest, PositionsAreFilteredInOrderOfTimeWhateverIsShownFirst)
+{
+    select({kLatitude});
+    RecordBuilder record;
+    record.id(kLatitude);
+    for (int i = 0; i < 6; ++i) {
+        record.at(1.0 + i).floatValue(4830.0F);
+    }
+    record.at(7.0).floatValue(5230.0F); // a jump of four degrees
+    show(record);
+    EXPECT_EQ(table()->item(6, 1)->text().toStdString(), "48.5000");
+    EXPECT_EQ(table()->item(0, 1)->text().toStdString(), "48.5000");
+    EXPECT_EQ(profile.selectedParameters().size(), 1U);
+    view.updateProfile(); // a second walk starts afresh
+    EXPECT_EQ(table()->item(6, 1)->text().toStdString(), "48.5000");
+}
+
+TEST_F(DialogDataTableTest, TheCursorSelectsAndCentresItsRowInSilence)
+{
+    RecordBuilder record;
+    record.id(kSpeed);
+    for (int i = 0; i < 500; ++i) {
+        record.at(10.0 + i * 0.1).ushortValue(static_cast<std::uint16_t>(i));
+    }
+    show(record);
+    QSignalSpy moved(&view, &DialogDataTable::signalTime);
+    EXPECT_EQ(selectedRow(), 0);
+
+    struct Row
+    {
+        double time;
+        int row;
+    };
+    for (const Row& row : {Row{10.04, 0}, Row{10.06, 1}, Row{30.0, 200}, Row{0.0, 0}, Row{1e9, 499},
+                           Row{-5.0, 0}, Row{22.2, 122}}) {
+        view.setTime(row.time);
+        EXPECT_EQ(selectedRow(), row.row) << row.time;
+    }
+    const QRect cell = table()->visualItemRect(table()->item(122, 0));
+    EXPECT_NEAR(cell.center().y(), table()->viewport()->height() / 2, 2);
+    EXPECT_EQ(moved.count(), 0);
+}
+
+TEST_F(DialogDataTableTest, FollowingTheCursorKeepsTheColumnsInSight)
+{
+    RecordBuilder record;
+    record.id(kSpeed).at(1.0).ushortValue(1).at(50.0).ushortValue(2);
+    show(record);
+    view.resize(120, 200);
+    QCoreApplication::processEvents();
+    QScrollBar* bar = table()->horizontalScrollBar();
+    bar->setValue(bar->maximum());
+    ASSERT_GT(bar->value(), 0);
+    view.setTime(50.0);
+    EXPECT_EQ(bar->value(), bar->maximum());
+}
+
+TEST_F(DialogDataTableTest, ARowThatTheUserSelectsMovesTheCursor)
+{
+    RecordBuilder record;
+    record.id(kSpeed).at(1.0).ushortValue(1).at(2.5).ushortValue(2).at(4.0).ushortValue(3);
+    show(record);
+    QSignalSpy moved(&view, &DialogDataTable::signalTime);
+    const QPoint second = table()->visualItemRect(table()->item(1, 2)).center();
+    QTest::mouseClick(table()->viewport(), Qt::LeftButton, Qt::NoModifier, second);
+    ASSERT_EQ(moved.count(), 1);
+    EXPECT_DOUBLE_EQ(moved.takeFirst().at(0).toDouble(), 2.5);
+    QTest::keyClick(table(), Qt::Key_Down);
+    ASSERT_EQ(moved.count(), 1);
+    EXPECT_DOUBLE_EQ(moved.takeFirst().at(0).toDouble(), 4.0);
+}
+
+TEST_F(DialogDataTableTest, UnitAndSelectionChangesRefillAtTheCursor)
+{
+    RecordBuilder record;
+    record.id(kOil).at(1.0).floatValue(100.0F).at(2.0).floatValue(0.0F);
+    show(record);
+    view.setTime(2.0);
+    profile.setCurrentUnit(eUnitImperial);
+    view.updateProfile();
+    EXPECT_EQ(dump(), "Time | Oil [F] | Speed\n00:00:01.000 | 212.0 | -\n00:00:02.000 | 32.0 | -");
+    EXPECT_EQ(selectedRow(), 1);
+    select({kOil});
+    EXPECT_EQ(dump(), "Time | Oil [F]\n00:00:01.000 | 212.0\n00:00:02.000 | 32.0");
+    EXPECT_EQ(selectedRow(), 1);
+}
+
+TEST_F(DialogDataTableTest, CellsOutliveTheProfileTheyWereFilledFrom)
+{
+    RecordBuilder record;
+    record.id(kOil).at(1.0).floatValue(100.0F);
+    show(record);
+    ASSERT_TRUE(builder.load(profile)); // nothing is selected then
+    EXPECT_EQ(table()->item(0, 1)->text().toStdString(), "100.0");
+    view.grab();
+    view.updateProfile();
+    EXPECT_EQ(dump(), "Time");
+}
+
+TEST_F(DialogDataTableTest, SaysWhatIsMissing)
+{
+    EXPECT_TRUE(hint().contains(QStringLiteral("No record loaded"))) << hint().toStdString();
+
+    RecordBuilder record;
+    record.id(kOil).at(1.0).floatValue(100.0F);
+    show(record);
+    EXPECT_TRUE(hint().isEmpty());
+
+    select({kSpeed});
+    EXPECT_TRUE(hint().contains(QStringLiteral("no samples"))) << hint().toStdString();
+
+    select({});
+    EXPECT_TRUE(hint().contains(QStringLiteral("No parameter selected"))) << hint().toStdString();
+    EXPECT_EQ(table()->columnCount(), 1);
+    EXPECT_EQ(table()->rowCount(), 0);
+    QSignalSpy selectWanted(&view, &DialogDataTable::signalSelectParameters);
+    QSignalSpy installWanted(&view, &DialogDataTable::signalInstallProfile);
+    emit view.findChild<WidgetHint*>()->signalLink();
+    EXPECT_EQ(selectWanted.count(), 1);
+    EXPECT_EQ(installWanted.count(), 0);
+
+    profile.clear();
+    view.updateProfile();
+    EXPECT_TRUE(hint().contains(QStringLiteral("No parameter profile"))) << hint().toStdString();
+    emit view.findChild<WidgetHint*>()->signalLink();
+    EXPECT_EQ(installWanted.count(), 1);
+
+    view.updateRecord(nullptr);
+    EXPECT_EQ(table()->rowCount(), 0);
+    view.setTime(5.0);
+}
+
+TEST_F(DialogDataTableTest, LiveLayoutShowsTheLatestValues)
+{
+    RecordBuilder record;
+    record.id(kOil).at(1.0).floatValue(20.0F).at(2.0).floatValue(95.0F);
+    show(record);
+    view.setVelixMode(1);
+    ASSERT_EQ(table()->columnCount(), 1);
+    ASSERT_EQ(table()->rowCount(), 2);
+    EXPECT_EQ(table()->verticalHeaderItem(0)->text().toStdString(), "Oil [C]");
+    EXPECT_EQ(table()->item(0, 0)->text().toStdString(), "95.0");
+    EXPECT_EQ(table()->item(0, 0)->background().color(), QColor(Qt::yellow));
+    EXPECT_EQ(table()->item(1, 0), nullptr);
+
+    RecordBuilder later;
+    later.id(kSpeed).at(3.0).ushortValue(42);
+    data->append(later.entries().front());
+    data->list(kSpeed).last = later.entries().front();
+    QTRY_VERIFY_WITH_TIMEOUT(table()->item(1, 0) != nullptr, 1000);
+    EXPECT_EQ(table()->item(1, 0)->text().toStdString(), "42");
+
+    view.setVelixMode(0);
+    EXPECT_EQ(dump(), "Time | Oil [C] | Speed\n00:00:01.000 | 20.0 | -\n"
+                      "00:00:02.000 | 95.0 | -\n00:00:03.000 | - | 42");
+}
+
+} // namespace
+} // namespace VELIX

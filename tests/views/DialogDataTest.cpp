@@ -1,0 +1,315 @@
+#include "views/DialogData.h"
+
+#include "card/CardContainer.h"
+#include "gui/Resources.h"
+#include "profile/Profile.h"
+#include "tests/support/ProfileBuilder.h"
+#include "tests/support/RecordBuilder.h"
+#include "views/DialogDataTable.h"
+#include "views/ReplayKeys.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDoubleSpinBox>
+#include <QLCDNumber>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimeEdit>
+#include <QToolButton>
+#include <QTreeWidget>
+
+namespace VELIX {
+namespace {
+
+using Test::ProfileBuilder;
+using Test::RecordBuilder;
+
+constexpr int kOil = 500;
+
+struct DialogDataTest : ::testing::Test
+{
+    void SetUp() override
+    {
+        initResources();
+        ProfileBuilder builder;
+        builder.threshold("Hot", {{90.0, "yellow", "WARNING"}});
+        builder.device("Lane A").parameter(kOil, QStringLiteral("Oil"), "FLOAT");
+        builder.set("thresholdId", "Hot");
+        ASSERT_TRUE(builder.load(profile));
+        ProfileBuilder::selectAll(profile);
+        window = std::make_unique<DialogData>(profile, card, false);
+        window->updateProfile();
+        window->resize(900, 700);
+        window->show();
+        QApplication::setActiveWindow(window.get());
+    }
+    /// One sample a second in [from, to], hot in the middle.
+    void load(double from, double to)
+    {
+        RecordBuilder record;
+        record.date(RecordBuilder::utc(2024, 5, 1, 10, 0, 0)).id(kOil);
+        for (double time = from; time <= to; time += 1.0) {
+            record.at(time).floatValue(time == (from + to) / 2 ? 95.0F : 20.0F);
+        }
+        ASSERT_TRUE(record.write(folder.filePath(QStringLiteral("1.CAN"))));
+        ASSERT_TRUE(card.readContainer(folder.path()));
+        window->releaseRecord();
+        ASSERT_EQ(card.loadFiles({QStringLiteral("1.CAN")}), 1);
+        window->updateRecord();
+    }
+    template <class T>
+    T* find(const char* name)
+    {
+        return window->findChild<T*>(QLatin1String(name));
+    }
+    std::string displayed(const char* name)
+    {
+        return find<QLCDNumber>(name)->accessibleDescription().toStdString();
+    }
+    QToolButton* replay() { return find<QToolButton>("buttonReplay"); }
+    int tableRow()
+    {
+        return window->findChild<QTableWidget*>()->selectionModel()->currentIndex().row();
+    }
+    void call(const char* slot, double time)
+    {
+        ASSERT_TRUE(QMetaObject::invokeMethod(window.get(), slot, Q_ARG(double, time)));
+    }
+
+    QTemporaryDir folder;
+    Profile profile;
+    CardContainer card{profile};
+    std::unique_ptr<DialogData> window;
+};
+
+TEST_F(DialogDataTest, WithoutARecordNothingCanBeReplayed)
+{
+    EXPECT_EQ(displayed("displayDateTime"), "--.--.---- --:--:--");
+    EXPECT_EQ(displayed("displayTime"), "--:--:--.---");
+    for (const char* name : {"buttonReplay", "buttonStop", "sliderPosition", "editTime"}) {
+        EXPECT_FALSE(find<QWidget>(name)->isEnabled()) << name;
+        EXPECT_TRUE(find<QWidget>(name)->toolTip().contains(QStringLiteral("Load"))) << name;
+    }
+    QTest::keyClick(window.get(), Qt::Key_Space);
+    EXPECT_EQ(replay()->text(), QStringLiteral("Replay Start"));
+    window->updateRecord(); // the card has none
+    EXPECT_FALSE(replay()->isEnabled());
+}
+
+TEST_F(DialogDataTest, ARecordStartsAtItsStart)
+{
+    load(100.0, 200.0);
+    EXPECT_EQ(window->cursorTime(), 100.0);
+    EXPECT_EQ(card.recordData().cursorTime, 100.0);
+    EXPECT_EQ(displayed("displayDateTime"), "01.05.2024 10:01:40");
+    EXPECT_EQ(displayed("displayTime"), "00:01:40.000");
+    EXPECT_EQ(find<QTimeEdit>("editTime")->time(), QTime(0, 1, 40));
+    EXPECT_EQ(find<QSlider>("sliderPosition")->value(), 0);
+    EXPECT_TRUE(replay()->isEnabled());
+    EXPECT_FALSE(find<QToolButton>("buttonStop")->isEnabled());
+    EXPECT_EQ(tableRow(), 0);
+    ASSERT_EQ(card.recordData().limits.size(), 1U); // for the exports
+    EXPECT_EQ(card.recordData().limits[0].time, 150.0);
+}
+
+TEST_F(DialogDataTest, ARecordOfOneMomentHasNoPositions)
+{
+    load(100.0, 100.0);
+    EXPECT_EQ(window->cursorTime(), 100.0);
+    find<QSlider>("sliderPosition")->setValue(5000);
+    EXPECT_EQ(window->cursorTime(), 100.0);
+}
+
+TEST_F(DialogDataTest, SliderAndTimeEditMoveTheCursor)
+{
+    load(100.0, 200.0);
+    auto* slider = find<QSlider>("sliderPosition");
+    slider->setValue(2500);
+    EXPECT_EQ(window->cursorTime(), 125.0);
+    EXPECT_EQ(tableRow(), 25);
+    EXPECT_EQ(card.recordData().cursorTime, 125.0);
+
+    find<QTimeEdit>("editTime")->setTime(QTime(0, 0, 10));
+    EXPECT_EQ(window->cursorTime(), 10.0);
+    EXPECT_EQ(slider->value(), 0);
+    EXPECT_EQ(tableRow(), 0);
+}
+
+TEST_F(DialogDataTest, EverySliderPositionCanBeReachedByKey)
+{
+    load(0.3, 77.3);
+    auto* slider = find<QSlider>("sliderPosition");
+    for (int position = 1; position <= 200; ++position) {
+        QTest::keyClick(slider, Qt::Key_Right);
+        ASSERT_EQ(slider->value(), position);
+    }
+}
+
+TEST_F(DialogDataTest, ViewsMoveTheCursorAndTheOthersFollow)
+{
+    load(100.0, 200.0);
+    call("slotLimitTime", 120.0);
+    EXPECT_EQ(window->cursorTime(), 120.0);
+    EXPECT_EQ(tableRow(), 20);
+    call("slotWarningTime", 130.0);
+    EXPECT_EQ(tableRow(), 30);
+    emit window->findChild<DialogDataTable*>()->signalTime(140.0);
+    EXPECT_EQ(window->cursorTime(), 140.0);
+    EXPECT_EQ(tableRow(), 30); // it is the table that moved the cursor
+    EXPECT_EQ(displayed("displayTime"), "00:02:20.000");
+    ASSERT_TRUE(QMetaObject::invokeMethod(window.get(), "slotCursor", Q_ARG(float, 150.1F),
+                                          Q_ARG(double, 3.0)));
+    EXPECT_EQ(window->cursorTime(), static_cast<double>(150.1F));
+}
+
+TEST_F(DialogDataTest, ReplayRunsPausesAndReturnsToTheStart)
+{
+    load(100.0, 200.0);
+    QTest::mouseClick(replay(), Qt::LeftButton);
+    EXPECT_EQ(replay()->text(), QStringLiteral("Replay Pause"));
+    EXPECT_TRUE(find<QToolButton>("buttonStop")->isEnabled());
+    QTRY_VERIFY(window->cursorTime() > 100.1);
+    QTest::mouseClick(replay(), Qt::LeftButton);
+    EXPECT_EQ(replay()->text(), QStringLiteral("Replay Run"));
+    const double paused = window->cursorTime();
+    QTest::qWait(60);
+    EXPECT_EQ(window->cursorTime(), paused);
+    QTest::mouseClick(find<QToolButton>("buttonStop"), Qt::LeftButton);
+    EXPECT_EQ(replay()->text(), QStringLiteral("Replay Start"));
+    EXPECT_EQ(window->cursorTime(), 100.0);
+}
+
+TEST_F(DialogDataTest, ReplayBeyondTheEndStopsAtTheStart)
+{
+    load(100.0, 110.0);
+    find<QSlider>("sliderSpeed")->setValue(10000);
+    EXPECT_EQ(find<QDoubleSpinBox>("boxSpeed")->value(), 100.0);
+    QTest::mouseClick(replay(), Qt::LeftButton);
+    QTRY_COMPARE(replay()->text(), QStringLiteral("Replay Start"));
+    EXPECT_EQ(window->cursorTime(), 100.0);
+}
+
+TEST_F(DialogDataTest, SpeedSliderAndBoxShowTheSameSpeed)
+{
+    load(100.0, 110.0);
+    find<QDoubleSpinBox>("boxSpeed")->setValue(2.3);
+    EXPECT_EQ(find<QSlider>("sliderSpeed")->value(), 229); // 2.3 x 100, truncated
+    EXPECT_EQ(find<QDoubleSpinBox>("boxSpeed")->value(), 2.3);
+    find<QSlider>("sliderSpeed")->setValue(350);
+    EXPECT_EQ(find<QDoubleSpinBox>("boxSpeed")->value(), 3.5);
+}
+
+TEST_F(DialogDataTest, ReleasingTheRecordEndsTheReplay)
+{
+    load(100.0, 200.0);
+    QTest::mouseClick(replay(), Qt::LeftButton);
+    window->releaseRecord();
+    EXPECT_EQ(replay()->text(), QStringLiteral("Replay Start"));
+    EXPECT_FALSE(replay()->isEnabled());
+    EXPECT_EQ(displayed("displayTime"), "--:--:--.---");
+    EXPECT_EQ(window->findChild<QTableWidget*>()->rowCount(), 0);
+}
+
+TEST_F(DialogDataTest, KeysStepAndReplayWhereTheFocusHasNoUseForThem)
+{
+    load(100.0, 200.0);
+    auto* table = window->findChild<QTableWidget*>();
+    table->setFocus();
+    QTest::keyClick(table, Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(window->cursorTime(), 101.0);
+    QTest::keyClick(table, Qt::Key_Right, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(window->cursorTime(), 111.0);
+    QTest::keyClick(table, Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
+    QTest::keyClick(table, Qt::Key_Left, Qt::ControlModifier);
+    QTest::keyClick(table, Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(window->cursorTime(), 100.0);
+    QTest::keyClick(table, Qt::Key_Space);
+    EXPECT_EQ(replay()->text(), QStringLiteral("Replay Pause"));
+    QTest::keyClick(table, Qt::Key_Space);
+    EXPECT_EQ(replay()->text(), QStringLiteral("Replay Run"));
+
+    auto* mapButton = find<QToolButton>("buttonMap2");
+    mapButton->setFocus();
+    QTest::keyClick(mapButton, Qt::Key_Space);
+    EXPECT_TRUE(mapButton->isChecked());
+    EXPECT_EQ(replay()->text(), QStringLiteral("Replay Run"));
+}
+
+TEST_F(DialogDataTest, WidgetsThatUseTheSpaceBarKeepIt)
+{
+    QTreeWidget tree;
+    auto* plain = new QTreeWidgetItem(&tree, {QStringLiteral("flight")});
+    plain->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+    auto* check = new QTreeWidgetItem(&tree, {QStringLiteral("parameter")});
+    check->setFlags(plain->flags() | Qt::ItemIsUserCheckable);
+    tree.setCurrentItem(plain);
+    EXPECT_FALSE(ReplayKeys::usesSpace(&tree));
+    tree.setCurrentItem(check);
+    EXPECT_TRUE(ReplayKeys::usesSpace(&tree));
+    EXPECT_TRUE(ReplayKeys::usesSpace(find<QTimeEdit>("editTime")));
+    const QLineEdit edit;
+    EXPECT_TRUE(ReplayKeys::usesSpace(&edit));
+    EXPECT_FALSE(ReplayKeys::usesSpace(find<QSlider>("sliderPosition")));
+    EXPECT_FALSE(ReplayKeys::usesSpace(nullptr));
+}
+
+TEST_F(DialogDataTest, MapButtonsDivideTheSpace)
+{
+    auto* splitter = find<QSplitter>("splitter");
+    const auto click = [&](const char* name) {
+        QTest::mouseClick(find<QToolButton>(name), Qt::LeftButton);
+        return splitter->sizes();
+    };
+    EXPECT_TRUE(find<QToolButton>("buttonMap1")->isChecked());
+    EXPECT_EQ(click("buttonMap0").at(1), 0);
+    const QList<int> below = click("buttonMap2");
+    EXPECT_EQ(splitter->orientation(), Qt::Vertical);
+    EXPECT_GT(below.at(0), 100);
+    EXPECT_NEAR(below.at(0), below.at(1), 1);
+    splitter->setSizes({100, 300});
+    const double share = splitter->sizes().at(0) * 1.0 / splitter->height();
+    const QList<int> beside = click("buttonMap1");
+    EXPECT_EQ(splitter->orientation(), Qt::Horizontal);
+    EXPECT_LT(beside.at(0), beside.at(1)); // a division that the user chose is kept
+    EXPECT_LT(share, 0.5);
+}
+
+TEST_F(DialogDataTest, EachTabShowsItsPage)
+{
+    auto* tabs = find<QTabBar>("tabBar");
+    auto* stack = find<QStackedWidget>("viewStack");
+    const char* labels[] = {"Data",          "Graph",         "Fault Matrix", "Limit/Warning",
+                            "Warning Lamps", "Tow Statistic", "EMU View"};
+    const char* pages[] = {"viewTable",   "viewGraph",     "viewFaultMatrix", "viewLimit",
+                           "viewWarning", "viewStatistic", "viewInstrument"};
+    ASSERT_EQ(tabs->count(), 7);
+    for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        EXPECT_EQ(tabs->tabText(i).toStdString(), labels[i]);
+        EXPECT_FALSE(tabs->tabIcon(i).isNull());
+        EXPECT_EQ(stack->currentWidget()->objectName().toStdString(), pages[i]);
+    }
+}
+
+TEST_F(DialogDataTest, OnBoardOnlyTheReplayIsLeft)
+{
+    const DialogData onBoard(profile, card, true);
+    for (const char* name : {"displayTime", "sliderPosition", "editTime"}) {
+        EXPECT_TRUE(onBoard.findChild<QWidget*>(QLatin1String(name))->isHidden()) << name;
+    }
+    for (const char* name :
+         {"displayDateTime", "buttonReplay", "buttonStop", "sliderSpeed", "boxSpeed"}) {
+        EXPECT_FALSE(onBoard.findChild<QWidget*>(QLatin1String(name))->isHidden()) << name;
+    }
+}
+
+} // namespace
+} // namespace VELIX
