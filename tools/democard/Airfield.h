@@ -24,6 +24,8 @@ public:
     static constexpr double kElevation = 372.0; ///< m above sea level
     static constexpr double kHeading = 4.5728;  ///< rad: runway 26 points to 262 degrees
 
+    static constexpr RunwayPoint kApron{430.0, -95.0};
+
     static PlanePoint toPlane(const RunwayPoint& p);
     static RunwayPoint toRunway(const PlanePoint& p);
     /// Decimal degrees, north and east positive.

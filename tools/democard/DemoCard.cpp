@@ -1,7 +1,7 @@
 #include "tools/democard/DemoCard.h"
 
 #include "tools/democard/FlightPlan.h"
-#include "tools/democard/Message.h"
+#include "tools/democard/MessageTable.h"
 #include "tools/democard/RecordWriter.h"
 #include "tools/democard/Simulation.h"
 

@@ -20,7 +20,7 @@ constexpr double kWindAtGround = 3.2; ///< m/s
 FlightModel::FlightModel(std::uint64_t seed)
     : mGusts(seed + 1, 4.0), mThermals(seed + 2, 25.0), mBumps(seed + 3, 0.25), mHand(seed + 4, 3.0)
 {
-    mState.position = Airfield::toPlane({430.0, -95.0});
+    mState.position = Airfield::toPlane(Airfield::kApron);
     mState.heading = Airfield::kHeading - 2.6;
     mTrackEast = sine(mState.heading);
     mTrackNorth = cosine(mState.heading);

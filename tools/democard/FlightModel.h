@@ -30,9 +30,10 @@ struct FlightState
 class FlightModel
 {
 public:
-    /// Starts at rest where the last power cycle stopped, or on the apron.
+    /// At rest on the apron.
     explicit FlightModel(std::uint64_t seed);
 
+    /// Goes on from where the last legs ended.
     void setLegs(const std::vector<Leg>& legs);
     bool finished() const { return mLeg >= mLegs.size(); }
     /// The leg being flown; only while not finished.

@@ -4,7 +4,6 @@ namespace VELIX::Demo {
 
 namespace {
 
-constexpr RunwayPoint kApron{430.0, -95.0};
 constexpr RunwayPoint kPump{520.0, -120.0};
 
 Leg hold(double seconds, double throttle, EKey key = EKey::Run)
@@ -87,7 +86,7 @@ std::vector<Leg> taxiBack()
             taxi({10.0, -42.0}, 13.0), hold(105.0, 13.0)};
 }
 
-/// From the landing to the pump; the turbocharger-less engine still wants a minute of idling.
+/// From the landing to the pump; a minute of idling cools the engine evenly.
 std::vector<Leg> taxiInAndStop()
 {
     return {taxi({600.0, -38.0}, 14.0), taxi({570.0, -80.0}, 15.0), taxi(kPump, 11.0),

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstdint>
-#include <vector>
 
 namespace VELIX::Demo {
 
@@ -30,8 +29,5 @@ std::uint16_t sourceOf(const Message& m);
 
 /// The eight bytes on the bus. `count`: running number that the fourth byte carries.
 std::array<std::uint8_t, 8> payload(const Message& m, const UnitState& s, std::uint32_t count);
-
-/// All messages of the demo engine, in the order in which they go out within a step.
-const std::vector<Message>& messageTable();
 
 } // namespace VELIX::Demo

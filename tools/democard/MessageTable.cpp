@@ -1,4 +1,5 @@
-#include "tools/democard/Message.h"
+#include "tools/democard/MessageTable.h"
+
 #include "tools/democard/PlainMath.h"
 #include "tools/democard/Simulation.h"
 

@@ -116,7 +116,7 @@ void Simulation::measureEngine()
     const bool turning = e.speed > 50.0;
     for (std::size_t lane = 0; lane < 2; ++lane) {
         const double rough = turning ? mFast[lane].value() : 0.0;
-        mState.speed[lane] = std::max(e.speed + rough * 4.0, 0.0);
+        mState.speed[lane] = std::max(e.speed + rough * 2.5, 0.0);
         mState.manifold[lane] = e.manifold + rough * 2.2 + mFast[2 + lane].value() * 0.4;
         mState.throttle[lane] =
             std::clamp(mState.flight.throttle + mFast[6 + lane].value() * 0.08, 0.0, 100.0);
@@ -134,7 +134,7 @@ void Simulation::measureEngine()
         e.head[i] += mFast[8 + i].value() * 0.15;
         e.exhaust[i] += turning ? mFast[4 + i].value() * 1.6 : 0.0;
     }
-    e.voltage += mFast[6].value() * 0.012;
+    e.voltage += mFast[6].value() * 0.004;
     e.current += mFast[7].value() * 0.3;
     mState.engine = e;
 }
