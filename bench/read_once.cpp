@@ -1,34 +1,47 @@
 // Reads one record file in this fresh process and prints what it took, as JSON.
-// With --cycle the whole road of a load runs: files, index, flights, working data.
+// With --cycle the whole road of a load runs: files, index, flights, path, a flight's working data.
 
 #include "card/CardContainer.h"
 #include "card/RecordData.h"
 #include "card/RecordFile.h"
 #include "core/Diagnostics.h"
 #include "profile/Profile.h"
+#include "tests/support/ProfileBuilder.h"
 
 #include <QFileInfo>
 #include <QString>
 
-#include <sys/resource.h>
-
 #include <chrono>
 #include <cinttypes>
 #include <cstdio>
+#include <fstream>
+#include <string>
 #include <string_view>
 
 namespace {
 
-double seconds(std::chrono::steady_clock::duration d)
+using Clock = std::chrono::steady_clock;
+
+double seconds(Clock::duration d)
 {
     return std::chrono::duration<double>(d).count();
 }
 
+/// Most memory that was resident at a time. The resource usage of a process cannot tell: a child
+/// starts with the peak of the process that started it.
 long peakBytes()
 {
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_maxrss * 1024;
+    std::ifstream status("/proc/self/status");
+    std::string key;
+    while (status >> key) {
+        if (key == "VmHWM:") {
+            long kibibytes = 0;
+            status >> kibibytes;
+            return kibibytes * 1024;
+        }
+        std::getline(status, key);
+    }
+    return 0;
 }
 
 /// The entries of each identifier and a sum over them, to be compared with the peer's.
@@ -51,31 +64,40 @@ void printLists(const VELIX::RecordData& data)
     std::printf("}");
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+/// The roles of run_reading.py's file.
+bool fillProfile(VELIX::Profile& profile)
 {
-    using Clock = std::chrono::steady_clock;
-    if (argc < 2) {
-        std::fputs("usage: read_once FILE [--cycle]\n", stderr);
-        return 2;
+    VELIX::Test::ProfileBuilder b;
+    b.device("Lane A");
+    int id = 500;
+    for (const char* role : {"GroundSpeed", "Latitude", "Longitude", "Altitude"}) {
+        b.parameter(id++, QString::fromLatin1(role), "FLOAT").set("velixDataType", role);
     }
-    VELIX::Diagnostics::setStream(stderr);
-    const QString path = QString::fromLocal8Bit(argv[1]);
+    return b.load(profile);
+}
+
+int loadCycle(const QString& path)
+{
+    VELIX::Profile profile;
+    VELIX::CardContainer card(profile);
+    if (!fillProfile(profile) || !card.readContainer(QFileInfo(path).path())) {
+        return 1;
+    }
     const long before = peakBytes();
+    const auto start = Clock::now();
+    const auto& [number, cycle] = *card.recordCycles().begin();
+    const bool loaded = card.loadCycle(number, 0) == 1;
+    const double taken = seconds(Clock::now() - start);
+    std::printf("{\"seconds\": %.6f, \"entries\": %u, \"flights\": %zu, \"flightEntries\": %u, "
+                "\"peakBytes\": %ld}\n",
+                taken, card.loadedData().entryCount, cycle.flights.size(),
+                card.recordData().entryCount, peakBytes() - before);
+    return loaded ? 0 : 1;
+}
 
-    if (argc > 2 && std::string_view(argv[2]) == "--cycle") {
-        VELIX::Profile profile;
-        VELIX::CardContainer card(profile);
-        card.readContainer(QFileInfo(path).path());
-        const auto start = Clock::now();
-        const bool loaded = card.loadCycle(card.recordCycles().begin()->first, -1) == 1;
-        std::printf("{\"seconds\": %.6f, \"entries\": %u, \"peakBytes\": %ld}\n",
-                    seconds(Clock::now() - start), card.recordData().entryCount,
-                    peakBytes() - before);
-        return loaded ? 0 : 1;
-    }
-
+int readFile(const QString& path)
+{
+    const long before = peakBytes();
     VELIX::RecordFile file;
     file.readRecordInfo(path);
     VELIX::RecordData data;
@@ -87,4 +109,18 @@ int main(int argc, char** argv)
     printLists(data);
     std::printf("}\n");
     return read ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc < 2) {
+        std::fputs("usage: read_once FILE [--cycle]\n", stderr);
+        return 2;
+    }
+    VELIX::Diagnostics::setStream(stderr);
+    const QString path = QString::fromLocal8Bit(argv[1]);
+    const bool cycle = argc > 2 && std::string_view(argv[2]) == "--cycle";
+    return cycle ? loadCycle(path) : readFile(path);
 }
