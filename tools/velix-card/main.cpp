@@ -4,9 +4,13 @@
 
 #include <QCoreApplication>
 
+#include <clocale>
+#include <cstdio>
+
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
+    std::setlocale(LC_NUMERIC, "C"); // the toolkit takes the user's; numbers need the point
     // Standard output carries the result alone.
     VELIX::Diagnostics::setStream(stderr);
 
