@@ -320,9 +320,15 @@ void DialogDataTable::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        fitRows();
-        fitColumns();
-        centreRow();
+        // The table hears of a new font after its parent.
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                fitRows();
+                fitColumns();
+                centreRow();
+            },
+            Qt::QueuedConnection);
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include <QDateTime>
 #include <QDoubleSpinBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLCDNumber>
 #include <QScopedValueRollback>
@@ -20,7 +21,8 @@ namespace VELIX {
 namespace {
 
 constexpr int kIconSize = 32;
-constexpr int kFixedWidth = 120;
+constexpr int kControlWidth = 120; // unless a large font needs more
+constexpr int kGap = 8;
 constexpr int kSpeedScale = 100; // steps of the speed slider per unit of the speed
 constexpr double kSpeedMin = 1.0;
 constexpr double kSpeedMax = 100.0;
@@ -86,7 +88,26 @@ ReplayControls::ReplayControls(bool emuOnly, QWidget* parent) : QWidget(parent)
     mTimeDisplay->setVisible(!emuOnly);
     mPositionSlider->setVisible(!emuOnly);
     mTimeEdit->setVisible(!emuOnly);
+    fitWidths();
     setRecordOpen(false);
+}
+
+void ReplayControls::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        // The controls hear of a new font after their parent.
+        QMetaObject::invokeMethod(this, &ReplayControls::fitWidths, Qt::QueuedConnection);
+    }
+}
+
+void ReplayControls::fitWidths()
+{
+    const int speed = std::max(kControlWidth, mSpeedBox->sizeHint().width());
+    mSpeedBox->setFixedWidth(speed);
+    mSpeedSlider->setFixedWidth(speed);
+    mTimeEdit->setFixedWidth(std::max(kControlWidth, mTimeEdit->sizeHint().width()));
+    reserveWidth(mReplayButton, replayTexts());
 }
 
 QLayout* ReplayControls::createDisplays()
@@ -107,9 +128,13 @@ QLayout* ReplayControls::createGrid()
     createSliders();
     auto* grid = new QGridLayout;
     grid->setSpacing(2);
+    grid->setContentsMargins(kGap, 0, kGap, kGap);
     grid->addWidget(mReplayButton, 0, 0, 2, 1);
     grid->addWidget(mStopButton, 0, 1, 2, 1);
-    grid->addWidget(mPositionSlider, 0, 2);
+    auto* sliderRow = new QHBoxLayout;
+    sliderRow->setContentsMargins(kGap, 0, kGap, 0); // apart from the slider of the speed
+    sliderRow->addWidget(mPositionSlider);
+    grid->addLayout(sliderRow, 0, 2);
     grid->addWidget(mSpeedSlider, 0, 3);
     auto* editRow = new QHBoxLayout;
     editRow->addStretch(1);
@@ -125,6 +150,7 @@ void ReplayControls::createButtons()
 {
     mReplayButton = createReplayButton(QStringLiteral("replay-start"));
     mReplayButton->setObjectName(QStringLiteral("buttonReplay"));
+    mReplayButton->setText(replayTexts()[eReplayStopped]);
     mStopButton = createReplayButton(QStringLiteral("replay-stop"));
     mStopButton->setObjectName(QStringLiteral("buttonStop"));
     mStopButton->setText(tr("Replay Stop"));
@@ -143,7 +169,6 @@ void ReplayControls::createSliders()
     mTimeEdit->setObjectName(QStringLiteral("editTime"));
     mTimeEdit->setDisplayFormat(QStringLiteral("hh:mm:ss"));
     mTimeEdit->setTimeSpec(Qt::UTC);
-    mTimeEdit->setFixedWidth(kFixedWidth);
     mTimeEdit->setAccessibleName(tr("Time of the cursor"));
 
     mSpeedSlider = new QSlider(Qt::Horizontal);
@@ -152,14 +177,12 @@ void ReplayControls::createSliders()
                            static_cast<int>(kSpeedMax) * kSpeedScale);
     mSpeedSlider->setSingleStep(kSpeedScale);
     mSpeedSlider->setPageStep(10 * kSpeedScale);
-    mSpeedSlider->setFixedWidth(kFixedWidth);
     mSpeedSlider->setAccessibleName(tr("Replay speed"));
 
     mSpeedBox = new QDoubleSpinBox;
     mSpeedBox->setObjectName(QStringLiteral("boxSpeed"));
     mSpeedBox->setRange(kSpeedMin, kSpeedMax);
     mSpeedBox->setPrefix(tr("Speed "));
-    mSpeedBox->setFixedWidth(kFixedWidth);
     mSpeedBox->setAccessibleName(tr("Replay speed"));
 }
 
@@ -190,15 +213,19 @@ void ReplayControls::connectControls()
             });
 }
 
+/// By replay state.
+QStringList ReplayControls::replayTexts()
+{
+    return {tr("Replay Start"), tr("Replay Pause"), tr("Replay Run")};
+}
+
 void ReplayControls::showReplay(const ReplayClock& clock)
 {
     const QScopedValueRollback<bool> updating(mUpdating, true);
-    const QStringList texts = {tr("Replay Start"), tr("Replay Pause"), tr("Replay Run")};
     const bool running = clock.state() == eReplayRunning;
-    mReplayButton->setText(texts[clock.state()]);
+    mReplayButton->setText(replayTexts()[clock.state()]);
     mReplayButton->setIcon(ImageHandler::instance().icon(running ? QStringLiteral("replay-pause")
                                                                  : QStringLiteral("replay-start")));
-    reserveWidth(mReplayButton, texts);
     mStopButton->setEnabled(mOpen && clock.state() != eReplayStopped);
     mSpeedSlider->setValue(static_cast<int>(kSpeedScale * clock.speed()));
     mSpeedBox->setValue(clock.speed());

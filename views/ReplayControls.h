@@ -41,7 +41,12 @@ signals:
     void signalSpeed(int percent);
     void signalSpeed(double factor);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    static QStringList replayTexts();
+    void fitWidths();
     QLayout* createDisplays();
     QLayout* createGrid();
     void createButtons();

@@ -14,7 +14,8 @@ void ThresholdDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
                               const QModelIndex& index) const
 {
     QStyledItemDelegate::paint(painter, option, index);
-    if (!(option.state & QStyle::State_Selected)) {
+    const bool isTime = index.data(Qt::UserRole).isValid(); // its ground says nothing
+    if (!(option.state & QStyle::State_Selected) || isTime) {
         return;
     }
     const QVariant ground = index.data(Qt::BackgroundRole);
