@@ -30,11 +30,6 @@ bool isRecordFile(const QString& name)
            extension == QLatin1String("xcb");
 }
 
-QString sentence(const char* text)
-{
-    return QCoreApplication::translate("CardContainer", text);
-}
-
 } // namespace
 
 CardContainer& CardContainer::instance()
@@ -105,7 +100,8 @@ void CardContainer::calcCycles()
         if (file.recordInfo().dateInvalid) {
             ++number;
             RecordCycle& opened = mCycles[number];
-            opened.name = QStringLiteral("Cycle %1").arg(number);
+            opened.name =
+                QCoreApplication::translate("VELIX::CardContainer", "Cycle %1").arg(number);
             opened.dateTime = file.recordInfo().dateTime;
             opened.files.clear();
         }
@@ -126,8 +122,9 @@ bool CardContainer::fitsMemory(const std::list<QString>& names)
     if (limit == 0 || entries * kBytesPerEntry <= limit) {
         return true;
     }
-    mLastError = sentence("The selection holds %1 samples, more than half of the free memory can "
-                          "take. Select fewer files.")
+    mLastError = QCoreApplication::translate("VELIX::CardContainer",
+                                             "The selection holds %1 samples, more than half of "
+                                             "the free memory can take. Select fewer files.")
                      .arg(QLocale().toString(static_cast<qulonglong>(entries)));
     Diagnostics::print("CardContainer::loadFiles: %llu entries exceed the memory limit\n",
                        static_cast<unsigned long long>(entries));
@@ -185,9 +182,11 @@ bool CardContainer::loadFile(const QString& path, bool first)
     }
     mStopTime = listed.stopTime;
     if (!complete) {
-        mLastError = sentence(known ? "The file %1 could not be read completely."
-                                    : "The card has no file %1.")
-                         .arg(name(path));
+        const QString text =
+            known ? QCoreApplication::translate("VELIX::CardContainer",
+                                                "The file %1 could not be read completely.")
+                  : QCoreApplication::translate("VELIX::CardContainer", "The card has no file %1.");
+        mLastError = text.arg(name(path));
     }
     return complete;
 }

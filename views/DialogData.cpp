@@ -27,7 +27,7 @@ constexpr int kReplayPeriod = 20; // ms
 constexpr int kIconSize = 32;
 
 /// The map buttons' ids.
-enum EMapLayout : int { eMapHidden = 0, eMapBeside = 1, eMapBelow = 2 };
+enum EMapLayout { eMapHidden = 0, eMapBeside = 1, eMapBelow = 2 };
 
 } // namespace
 
