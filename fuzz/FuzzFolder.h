@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <cstddef>
+#include <cstdint>
+
+namespace VELIX::Fuzz {
+
+/// The folder in which one fuzz target hands its input to the code under test, which reads files.
+/// It lies in memory where the system has such a place, and goes with the process.
+class FuzzFolder
+{
+public:
+    FuzzFolder();
+
+    QString path() const { return mFolder.path(); }
+    QString path(const char* name) const;
+    /// Writes a file of the folder anew and returns its path.
+    QString write(const char* name, const std::uint8_t* bytes, std::size_t size) const;
+    QByteArray read(const char* name) const;
+    void remove(const char* name) const;
+
+private:
+    QTemporaryDir mFolder;
+};
+
+/// Ends the process with a sentence, as a crash that a fuzzer reports, unless `holds`.
+void require(bool holds, const char* sentence);
+
+/// Sends the diagnostic lines nowhere: damaged input causes thousands of them.
+void silenceDiagnostics();
+
+} // namespace VELIX::Fuzz
