@@ -53,6 +53,11 @@ void DialogExportCsvOptions::createControls()
     mAligned->setToolTip(tr("Parameters that have no sample at a time leave an empty cell.\n"
                             "Without this, the cells after it move to the left."));
 
+    mLimiter->setObjectName(QStringLiteral("csvLimiter"));
+    mResolution->setObjectName(QStringLiteral("csvResolution"));
+    mParameter->setObjectName(QStringLiteral("csvParameter"));
+    mAligned->setObjectName(QStringLiteral("csvAligned"));
+
     const auto activated = qOverload<int>(&QwtComboBox::signalActivated);
     connect(mLimiter, activated, this, &DialogExportCsvOptions::slotLimiter);
     connect(mResolution, activated, this, &DialogExportCsvOptions::slotResolution);

@@ -47,6 +47,9 @@ void ExportPathPage::createLayout()
 
     mProblemIcon->setPixmap(
         ImageHandler::instance().icon(QStringLiteral("warning")).pixmap(kIconSize));
+    mPathEdit->setObjectName(QStringLiteral("exportPath"));
+    mFileEdit->setObjectName(QStringLiteral("exportFile"));
+    mProblem->setObjectName(QStringLiteral("exportProblem"));
     mProblem->setTextFormat(Qt::PlainText);
     mProblem->setWordWrap(true);
     auto* problem = new QHBoxLayout;

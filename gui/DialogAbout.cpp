@@ -36,7 +36,8 @@ DialogAbout::DialogAbout(QWidget* parent) : QDialog(parent)
                  tr("Made with Qt %1, under the GNU Lesser General Public License, version 3")
                      .arg(QString::fromLatin1(qVersion()))));
 
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    auto* buttons = new QDialogButtonBox(this);
+    buttons->addButton(tr("Close"), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::rejected, this, &DialogAbout::reject);
     auto* layout = new QGridLayout(this);
     layout->setHorizontalSpacing(kGroupGap);

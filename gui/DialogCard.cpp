@@ -18,6 +18,7 @@ namespace VELIX {
 namespace {
 
 constexpr int kDebounceMs = 500; ///< a sweep over many rows loads once
+constexpr int kIndentation = 16;
 constexpr int kPathRole = Qt::UserRole;
 constexpr int kCycleRole = Qt::UserRole;
 constexpr int kFlightRole = Qt::UserRole + 1;
@@ -55,8 +56,10 @@ QTreeWidget* DialogCard::createCycleTree()
     auto* tree = new QTreeWidget(this);
     tree->setHeaderLabels({tr("Cycle")});
     tree->setHeaderHidden(true);
+    tree->setIndentation(kIndentation);
     tree->setUniformRowHeights(true);
     tree->setSelectionMode(QAbstractItemView::SingleSelection);
+    tree->setObjectName(QStringLiteral("treeCycles"));
     tree->setAccessibleName(tr("Cycles"));
     CopyFilter::install(tree);
     return tree;
@@ -69,6 +72,7 @@ QTreeWidget* DialogCard::createRawTree()
     tree->header()->setStretchLastSection(true);
     tree->setUniformRowHeights(true);
     tree->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    tree->setObjectName(QStringLiteral("treeRaw"));
     tree->setAccessibleName(tr("Raw Data"));
     CopyFilter::install(tree);
     return tree;

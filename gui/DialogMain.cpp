@@ -36,7 +36,8 @@ constexpr int kStartMs = 20; ///< the window is on screen before the card is rea
 constexpr int kStartSizesMs = 1000;
 constexpr int kWidth = 1000;
 constexpr int kHeight = 800;
-constexpr int kLeftPaneWidth = 330; ///< at most: the data has the space
+constexpr int kLeftPaneMinimum = 310; ///< a cycle's line fits
+constexpr int kLeftPaneMaximum = 330; ///< the data has the space
 constexpr int kGap = 8;
 constexpr int kToolIconSize = 24;
 const QString kBuiltInStyle = QStringLiteral(":/styles/style.VELIX.css");
@@ -105,7 +106,8 @@ void DialogMain::createPanes()
     column->addWidget(mDialogProfile);
     column->setChildrenCollapsible(false);
     mLeftPane = new QWidget;
-    mLeftPane->setMaximumWidth(kLeftPaneWidth);
+    mLeftPane->setMinimumWidth(kLeftPaneMinimum);
+    mLeftPane->setMaximumWidth(kLeftPaneMaximum);
     auto* layout = new QVBoxLayout(mLeftPane);
     layout->setContentsMargins(kGap, kGap, 0, kGap);
     layout->addWidget(column);
@@ -185,12 +187,14 @@ void DialogMain::createToolbar()
         return box;
     };
     mVariantBox = addSelector(tr("Variant"));
+    mVariantBox->setObjectName(QStringLiteral("selectorVariant"));
     mVariantBox->setToolTip(tr("Variant of the profile"));
     mVariantBox->setPlaceholderText(tr("All variants"));
     connect(mVariantBox, qOverload<const QString&>(&QwtComboBox::signalActivated), this,
             qOverload<const QString&>(&DialogMain::slotProfileChanged));
 
     mUnitBox = addSelector(tr("Units"));
+    mUnitBox->setObjectName(QStringLiteral("selectorUnit"));
     mUnitBox->setToolTip(tr("Unit system of all values"));
     mUnitBox->addItem(tr("Metric"), int{eUnitMetric});
     mUnitBox->addItem(tr("Imperial"), int{eUnitImperial});

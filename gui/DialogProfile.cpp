@@ -84,6 +84,7 @@ void DialogProfile::createTree()
     mTree->setHeaderLabels({tr("Selected Parameters")});
     mTree->setUniformRowHeights(true);
     mTree->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    mTree->setObjectName(QStringLiteral("treeParameters"));
     mTree->setAccessibleName(tr("Selected Parameters"));
     CopyFilter::install(mTree);
 }
@@ -91,12 +92,15 @@ void DialogProfile::createTree()
 QWidget* DialogProfile::createPage()
 {
     const ImageHandler& images = ImageHandler::instance();
+    mSearch->setObjectName(QStringLiteral("searchParameters"));
     mSearch->setPlaceholderText(tr("Search parameters"));
     mSearch->setAccessibleName(mSearch->placeholderText());
     mSearch->setClearButtonEnabled(true);
     mSearch->addAction(images.icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    mButtonClear->setObjectName(QStringLiteral("buttonClear"));
     mButtonClear->setIcon(images.icon(QStringLiteral("clear")));
     mButtonClear->setToolTip(tr("Show no parameter at all"));
+    mButtonConfirm->setObjectName(QStringLiteral("buttonConfirm"));
     mButtonConfirm->setIcon(images.icon(QStringLiteral("confirm")));
     mButtonConfirm->setToolTip(tr("Show the ticked parameters in all views"));
 
@@ -246,18 +250,19 @@ void DialogProfile::slotFilter(const QString& text)
 void DialogProfile::setHighlighted(bool highlighted)
 {
     mHighlighted = highlighted;
-    QPalette colours; // empty: that of all buttons
-    QString style;
-    if (highlighted) {
-        colours.setColor(QPalette::Button, Palette::current().accent);
-        colours.setColor(QPalette::ButtonText, Palette::current().accentText);
-        // The program's style sheet hides the palette of a button, so its own one repeats it.
-        style = QStringLiteral("QPushButton {background: %1; color: %2;}")
-                    .arg(colours.color(QPalette::Button).name(),
-                         colours.color(QPalette::ButtonText).name());
+    if (!highlighted) {
+        mButtonConfirm->setStyleSheet({}); // first, since it brings back an older palette
+        mButtonConfirm->setPalette({});    // that of all buttons
+        return;
     }
+    const Palette& look = Palette::current();
+    QPalette colours = mButtonConfirm->palette();
+    colours.setColor(QPalette::Button, look.accent);
+    colours.setColor(QPalette::ButtonText, look.accentText);
     mButtonConfirm->setPalette(colours);
-    mButtonConfirm->setStyleSheet(style);
+    // The program's style sheet hides the palette of a button, so its own one repeats it.
+    mButtonConfirm->setStyleSheet(QStringLiteral("QPushButton {background: %1; color: %2;}")
+                                      .arg(look.accent.name(), look.accentText.name()));
 }
 
 void DialogProfile::stopBlinking()

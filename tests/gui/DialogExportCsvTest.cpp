@@ -1,0 +1,177 @@
+#include "export/DialogExportCsv.h"
+
+#include "export/ExportPathPage.h"
+#include "gui/QwtComboBox.h"
+#include "tests/gui/TestProgram.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+using namespace VELIX;
+using namespace VELIX::Test;
+
+namespace {
+
+class DialogExportCsvTest : public ::testing::Test
+{
+protected:
+    QLineEdit& edit(const char* name) { return *wizard.findChild<QLineEdit*>(QLatin1String(name)); }
+    void activate(const char* name, int index)
+    {
+        auto* box = wizard.findChild<QwtComboBox*>(QLatin1String(name));
+        box->setCurrentIndex(index);
+        emit box->activated(index); // as a click on the item does
+    }
+    void open()
+    {
+        wizard.loadOptions();
+        wizard.show();
+        edit("exportPath").setText(program.home.path());
+    }
+    QString subTitle() const { return wizard.currentPage()->subTitle(); }
+
+    TestProgram program;
+    DialogExportCsv wizard{program.settings, program.dialogs};
+};
+
+const QString kPathPage = QStringLiteral("Select the output directory and file");
+const QString kOptionsPage = QStringLiteral("Select CSV Option");
+
+} // namespace
+
+TEST_F(DialogExportCsvTest, StartsWithDefaults)
+{
+    wizard.loadOptions();
+    EXPECT_EQ(edit("exportPath").text(), QStringLiteral("."));
+    EXPECT_EQ(edit("exportFile").text(), QStringLiteral("ExportVelix.csv"));
+    EXPECT_EQ(wizard.options().delimiter, ';');
+    EXPECT_EQ(wizard.options().resolution, 100);
+    EXPECT_TRUE(wizard.options().allParameters);
+}
+
+TEST_F(DialogExportCsvTest, SaysWhatIsWrongWithAPlaceAndStaysThere)
+{
+    open();
+    ASSERT_TRUE(TestProgram::write(program.home.filePath(QStringLiteral("plain")), "x"));
+    const QString home = program.home.path();
+    const struct
+    {
+        QString path;
+        QString file;
+        QString sentence;
+    } rows[] = {
+        {home + QStringLiteral("/none"), QStringLiteral("a.csv"),
+         QStringLiteral("The folder \"%1/none\" does not exist.").arg(home)},
+        {{}, QStringLiteral("a.csv"), QStringLiteral("The folder \"\" does not exist.")},
+        {home + QStringLiteral("/plain"), QStringLiteral("a.csv"),
+         QStringLiteral("\"%1/plain\" is not a folder.").arg(home)},
+        {home, {}, QStringLiteral("Enter a name for the file.")},
+        {home, QStringLiteral("  "), QStringLiteral("Enter a name for the file.")},
+        {home, QStringLiteral("a/b.csv"),
+         QStringLiteral("The name of the file must not contain \"/\".")},
+        {home, QStringLiteral("VELIX"),
+         QStringLiteral("\"VELIX\" is a folder. Enter another name.")},
+    };
+    const auto* problem = wizard.findChild<QLabel*>(QStringLiteral("exportProblem"));
+    for (const auto& row : rows) {
+        edit("exportPath").setText(row.path);
+        edit("exportFile").setText(row.file);
+        EXPECT_FALSE(problem->isVisible());
+        wizard.next();
+        EXPECT_EQ(subTitle(), kPathPage);
+        EXPECT_TRUE(problem->isVisible());
+        EXPECT_EQ(problem->text(), row.sentence);
+    }
+    edit("exportPath").setText(home);
+    edit("exportFile").setText(QStringLiteral("a.csv"));
+    wizard.next();
+    EXPECT_EQ(subTitle(), kOptionsPage);
+}
+
+TEST_F(DialogExportCsvTest, AsksBeforeItReplacesAFile)
+{
+    open();
+    ASSERT_TRUE(TestProgram::write(program.home.filePath(QStringLiteral("ExportVelix.csv")), "x"));
+    wizard.next();
+    EXPECT_EQ(subTitle(), kPathPage);
+    EXPECT_EQ(program.dialogs.takeAsked().size(), 1);
+    program.dialogs.agrees = true;
+    wizard.next();
+    EXPECT_EQ(subTitle(), kOptionsPage);
+}
+
+TEST_F(DialogExportCsvTest, BrowsesForTheFolder)
+{
+    open();
+    const QString before = edit("exportPath").text();
+    auto* browse = wizard.currentPage()->findChild<QPushButton*>();
+    browse->click(); // cancelled
+    EXPECT_EQ(edit("exportPath").text(), before);
+    EXPECT_EQ(program.dialogs.takeAsked(), QStringList(QStringLiteral("Save CSV Export")));
+    EXPECT_EQ(program.dialogs.lastStart, before);
+    program.dialogs.file = QStringLiteral("/tmp");
+    browse->click();
+    EXPECT_EQ(wizard.options().directory, "/tmp");
+}
+
+TEST_F(DialogExportCsvTest, HandsOutTheAnswersAndKeepsThemForNextTime)
+{
+    CsvExportOptions options;
+    QTimer::singleShot(0, &wizard, [this] {
+        edit("exportPath").setText(program.home.path());
+        edit("exportFile").setText(QStringLiteral("f\u00FCr.csv"));
+        wizard.next();
+        activate("csvLimiter", 2);
+        activate("csvResolution", 1);
+        activate("csvParameter", 1);
+        wizard.findChild<QCheckBox*>(QStringLiteral("csvAligned"))->setChecked(true);
+        wizard.accept();
+    });
+    ASSERT_TRUE(wizard.getOptions(options));
+    EXPECT_EQ(options.directory, program.home.path().toStdString());
+    EXPECT_EQ(options.fileName, "f\xC3\xBCr.csv");
+    EXPECT_EQ(options.delimiter, '\t');
+    EXPECT_EQ(options.resolution, 10);
+    EXPECT_FALSE(options.allParameters);
+    EXPECT_TRUE(options.aligned);
+
+    EXPECT_EQ(program.storedSetting("CsvExportDir"), program.home.path());
+    EXPECT_EQ(program.storedSetting("CsvLimiter"), QStringLiteral("9"));
+    EXPECT_EQ(program.storedSetting("CsvResolution"), QStringLiteral("10"));
+    EXPECT_EQ(program.storedSetting("CsvAllParameter"), QStringLiteral("false"));
+
+    DialogExportCsv next(program.settings, program.dialogs);
+    next.loadOptions();
+    EXPECT_EQ(next.options().delimiter, '\t');
+    EXPECT_EQ(next.options().fileName, "ExportVelix.csv");
+}
+
+TEST_F(DialogExportCsvTest, CancellingChangesNothing)
+{
+    CsvExportOptions options;
+    options.delimiter = '|';
+    QTimer::singleShot(0, &wizard, [this] {
+        edit("exportPath").setText(program.home.path());
+        wizard.next();
+        activate("csvLimiter", 1);
+        wizard.reject();
+    });
+    EXPECT_FALSE(wizard.getOptions(options));
+    EXPECT_EQ(options.delimiter, '|');
+    EXPECT_EQ(program.setting("CsvLimiter"), QString());
+}
+
+TEST_F(DialogExportCsvTest, SettingsThatNoControlKnowsFallBackToTheFirstItem)
+{
+    program.settings.setInt("CsvLimiter", 70000);
+    program.settings.setInt("CsvResolution", 0);
+    open();
+    wizard.next();
+    EXPECT_EQ(wizard.options().delimiter, ';');
+    EXPECT_EQ(wizard.options().resolution, 100);
+}

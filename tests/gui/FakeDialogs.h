@@ -1,0 +1,80 @@
+#pragma once
+
+#include "gui/DialogService.h"
+
+#include <QStringList>
+
+namespace VELIX::Test {
+
+/// Answers questions as a test has prepared and keeps what was asked, one "title: text" per box.
+class FakeDialogs : public DialogService
+{
+public:
+    QString file; ///< the next answer to a file or folder chooser; empty cancels
+    Answer answer = Answer::Cancel;
+    bool agrees = false;
+    QStringList asked;
+
+    QString openFile(QWidget*, const QString& title, const QString& start,
+                     const QString& filter) override
+    {
+        return choose(title, start, filter);
+    }
+    QString saveFile(QWidget*, const QString& title, const QString& start, const QString& filter,
+                     const QString&) override
+    {
+        return choose(title, start, filter);
+    }
+    QString folder(QWidget*, const QString& title, const QString& start) override
+    {
+        return choose(title, start, {});
+    }
+    Answer askToSave(QWidget*, const QString& title, const QString& text) override
+    {
+        note(title, text);
+        return answer;
+    }
+    bool confirm(QWidget*, const QString& title, const QString& text) override
+    {
+        note(title, text);
+        return agrees;
+    }
+    void information(QWidget*, const QString& title, const QString& text) override
+    {
+        note(title, text);
+    }
+    void warning(QWidget*, const QString& title, const QString& text) override
+    {
+        note(title, text);
+    }
+    void critical(QWidget*, const QString& title, const QString& text) override
+    {
+        note(title, text);
+    }
+
+    QString lastStart; ///< where the last chooser started
+    QString lastFilter;
+
+    /// What was asked since the last call.
+    QStringList takeAsked()
+    {
+        QStringList taken;
+        taken.swap(asked);
+        return taken;
+    }
+
+private:
+    QString choose(const QString& title, const QString& start, const QString& filter)
+    {
+        asked.append(title);
+        lastStart = start;
+        lastFilter = filter;
+        return file;
+    }
+    void note(const QString& title, const QString& text)
+    {
+        asked.append(QStringLiteral("%1: %2").arg(title, text));
+    }
+};
+
+} // namespace VELIX::Test

@@ -1,0 +1,187 @@
+#include "gui/ProjectController.h"
+
+#include "tests/gui/TestProgram.h"
+
+#include <gtest/gtest.h>
+
+using namespace VELIX;
+using namespace VELIX::Test;
+
+namespace {
+
+class ProjectControllerTest : public ::testing::Test
+{
+protected:
+    ProjectControllerTest()
+    {
+        EXPECT_TRUE(demoProfile().load(program.profile));
+        controller.start(runFile());
+    }
+
+    QString runFile() const { return program.data("CurrentProject.xml"); }
+    QString file(const char* name) const { return program.home.filePath(QLatin1String(name)); }
+    /// The user confirms a selection of this one parameter.
+    void choose(int id)
+    {
+        for (ProfileDevice& device : program.profile.data().devices) {
+            for (auto& [key, parameter] : device.parameters) {
+                parameter.selected = key == id;
+            }
+        }
+        controller.setModified();
+    }
+    static bool holds(const QString& path, const char* name)
+    {
+        return TestProgram::read(path).contains(name);
+    }
+
+    TestProgram program;
+    ProjectController controller{program.project, program.settings, program.dialogs, nullptr};
+};
+
+constexpr const char* kSpeed = "Airframe/Ground Speed";
+constexpr const char* kOil = "Lane A/Oil Temp";
+const QString kQuestion =
+    QStringLiteral("VELIX Warning: Current Project not saved !\nSave it now ?");
+
+} // namespace
+
+TEST_F(ProjectControllerTest, EveryRunStartsOnItsOwnFile)
+{
+    EXPECT_EQ(controller.file(), runFile());
+    EXPECT_EQ(program.storedSetting("LastProjectPath"), runFile());
+    EXPECT_FALSE(controller.readLast());
+}
+
+TEST_F(ProjectControllerTest, SavesWithoutAskingAndAsksForANewName)
+{
+    choose(kSpeedId);
+    EXPECT_TRUE(controller.saveProject(false));
+    EXPECT_TRUE(program.dialogs.takeAsked().isEmpty());
+    EXPECT_TRUE(holds(runFile(), kSpeed));
+    EXPECT_FALSE(controller.isModified());
+
+    EXPECT_FALSE(controller.saveProject(true)); // cancelled
+    EXPECT_EQ(controller.file(), runFile());
+    EXPECT_EQ(program.dialogs.lastStart, runFile());
+    EXPECT_EQ(program.dialogs.lastFilter, QStringLiteral("Project Files (*.xml)"));
+
+    program.dialogs.file = file("mine");
+    EXPECT_TRUE(controller.saveProject(true));
+    EXPECT_EQ(program.dialogs.takeAsked().value(1), QStringLiteral("Save VELIX Project"));
+    EXPECT_EQ(controller.file(), file("mine.xml"));
+    EXPECT_EQ(program.storedSetting("LastProjectPath"), file("mine.xml"));
+
+    choose(kOilId);
+    EXPECT_TRUE(controller.saveProject(false)); // goes to that file from now on
+    EXPECT_TRUE(holds(file("mine.xml"), kOil));
+    EXPECT_TRUE(holds(runFile(), kSpeed));
+}
+
+TEST_F(ProjectControllerTest, DoesNotReplaceAFileThatTheUserDidNotName)
+{
+    ASSERT_TRUE(TestProgram::write(file("other.xml"), "mine"));
+    program.dialogs.file = file("other");
+    EXPECT_FALSE(controller.saveProject(true));
+    EXPECT_EQ(TestProgram::read(file("other.xml")), QByteArray("mine"));
+    program.dialogs.agrees = true;
+    EXPECT_TRUE(controller.saveProject(true));
+    EXPECT_TRUE(holds(file("other.xml"), "VelixProject"));
+}
+
+TEST_F(ProjectControllerTest, NewAndOpenAskAboutUnsavedChangesOnly)
+{
+    EXPECT_TRUE(controller.newProject());
+    EXPECT_TRUE(program.dialogs.takeAsked().isEmpty());
+
+    choose(kSpeedId);
+    program.dialogs.answer = DialogService::Answer::Cancel;
+    EXPECT_FALSE(controller.newProject());
+    EXPECT_FALSE(controller.openProject());
+    EXPECT_EQ(program.dialogs.takeAsked(), (QStringList{kQuestion, kQuestion}));
+    EXPECT_TRUE(controller.isModified());
+    EXPECT_EQ(program.selection(), QLatin1String(kSpeed));
+
+    program.dialogs.answer = DialogService::Answer::Yes;
+    EXPECT_TRUE(controller.newProject());
+    EXPECT_TRUE(holds(runFile(), kSpeed));
+    EXPECT_EQ(program.selection(), QString());
+
+    choose(kOilId);
+    program.dialogs.answer = DialogService::Answer::No;
+    EXPECT_TRUE(controller.newProject());
+    EXPECT_TRUE(holds(runFile(), kSpeed));
+}
+
+TEST_F(ProjectControllerTest, AFailedSaveDoesNotGoOnToNew)
+{
+    choose(kSpeedId);
+    program.dialogs.file = file("none/there.xml");
+    EXPECT_FALSE(controller.saveProject(true));
+    EXPECT_TRUE(controller.lastError().contains(file("none/there.xml")));
+    EXPECT_EQ(controller.file(), runFile());
+
+    ASSERT_TRUE(QDir().mkpath(runFile())); // a folder in the place of the file
+    program.dialogs.answer = DialogService::Answer::Yes;
+    EXPECT_FALSE(controller.newProject());
+    EXPECT_EQ(program.selection(), QLatin1String(kSpeed));
+    EXPECT_TRUE(controller.isModified());
+}
+
+TEST_F(ProjectControllerTest, OpeningMakesThatFileTheOneThatIsSaved)
+{
+    choose(kOilId);
+    ASSERT_EQ(program.project.saveProject(file("a.xml").toStdString()), 1);
+    program.dialogs.answer = DialogService::Answer::No;
+    program.dialogs.file = file("a.xml");
+    choose(kSpeedId);
+    EXPECT_TRUE(controller.openProject());
+    EXPECT_EQ(program.dialogs.takeAsked().value(1), QStringLiteral("Open VELIX Project"));
+    EXPECT_EQ(program.selection(), QLatin1String(kOil));
+    EXPECT_EQ(controller.file(), file("a.xml"));
+    EXPECT_EQ(program.storedSetting("LastProjectPath"), file("a.xml"));
+
+    program.dialogs.file = file("missing.xml");
+    EXPECT_FALSE(controller.openProject());
+    EXPECT_FALSE(controller.lastError().isEmpty());
+    EXPECT_EQ(controller.file(), file("a.xml"));
+    EXPECT_EQ(program.selection(), QLatin1String(kOil));
+
+    EXPECT_TRUE(controller.newProject());
+    EXPECT_EQ(controller.file(), runFile());
+}
+
+TEST_F(ProjectControllerTest, QuittingWritesTheRunsOwnFileAndNoOther)
+{
+    choose(kOilId);
+    program.dialogs.file = file("a.xml");
+    ASSERT_TRUE(controller.saveProject(true));
+    const QByteArray saved = TestProgram::read(file("a.xml"));
+    choose(kSpeedId);
+    program.dialogs.takeAsked();
+    controller.saveOnQuit();
+    EXPECT_TRUE(program.dialogs.takeAsked().isEmpty());
+    EXPECT_TRUE(holds(runFile(), kSpeed));
+    EXPECT_EQ(TestProgram::read(file("a.xml")), saved);
+}
+
+TEST_F(ProjectControllerTest, QuittingKeepsWhatWasOpenedOrSavedElsewhere)
+{
+    choose(kOilId);
+    program.dialogs.file = file("a.xml");
+    ASSERT_TRUE(controller.saveProject(true));
+    controller.saveOnQuit();
+    EXPECT_TRUE(holds(runFile(), kOil));
+
+    ASSERT_TRUE(controller.newProject());
+    ASSERT_TRUE(QFile::remove(runFile()));
+    ASSERT_TRUE(controller.openProject());
+    controller.saveOnQuit();
+    EXPECT_TRUE(holds(runFile(), kOil));
+}
+
+TEST_F(ProjectControllerTest, QuittingAnUntouchedRunWritesNothing)
+{
+    controller.saveOnQuit();
+    EXPECT_FALSE(QFile::exists(runFile()));
+}

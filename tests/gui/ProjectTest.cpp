@@ -1,0 +1,190 @@
+#include "gui/Project.h"
+
+#include "profile/Profile.h"
+#include "tests/support/ProfileBuilder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <initializer_list>
+#include <string>
+
+using namespace VELIX;
+using VELIX::Test::ProfileBuilder;
+
+namespace {
+
+ProfileBuilder twoDevices()
+{
+    ProfileBuilder builder;
+    builder.variant("Solo").variant("Twin");
+    builder.device("Lane A")
+        .parameter(20, QStringLiteral("Oil"), "FLOAT")
+        .parameter(10, QStringLiteral("Fuel"), "FLOAT");
+    builder.device("Lane B").parameter(30, QStringLiteral("Oil"), "FLOAT").set("variant", "Twin");
+    return builder;
+}
+
+/// The selection as text: "Lane A/Oil, Lane B/Oil".
+QString selection(const Profile& profile)
+{
+    QStringList names;
+    for (const ProfileParameter* p : profile.selectedParameters()) {
+        names.append(p->fullName);
+    }
+    return names.join(QStringLiteral(", "));
+}
+
+class ProjectTest : public ::testing::Test
+{
+protected:
+    ProjectTest() : project(profile)
+    {
+        EXPECT_TRUE(twoDevices().write(profileFile()));
+        EXPECT_TRUE(profile.loadProfile(profileFile()));
+        EXPECT_TRUE(profile.setCurrentVariant({}));
+    }
+
+    QString profileFile() const { return folder.filePath(QStringLiteral("Profile.xml")); }
+    QString path(const char* name) const { return folder.filePath(QLatin1String(name)); }
+    std::string projectFile() const { return path("Project.xml").toStdString(); }
+    void select(std::initializer_list<int> ids)
+    {
+        for (ProfileDevice& device : profile.data().devices) {
+            for (auto& [id, p] : device.parameters) {
+                p.selected = std::find(ids.begin(), ids.end(), id) != ids.end();
+            }
+        }
+    }
+    QByteArray written(const std::string& file) const
+    {
+        QFile in(QString::fromStdString(file));
+        EXPECT_TRUE(in.open(QIODevice::ReadOnly));
+        return in.readAll();
+    }
+    void write(const std::string& file, const QByteArray& text) const
+    {
+        QFile out(QString::fromStdString(file));
+        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
+        out.write(text);
+    }
+
+    QTemporaryDir folder;
+    Profile profile;
+    Project project;
+};
+
+} // namespace
+
+TEST_F(ProjectTest, WritesSelectedParametersInProfileOrderAndPropertiesInKeyOrder)
+{
+    select({30, 20, 10});
+    project.setCanProperties({{"rate", "500"}, {"bus", "1 & 2"}});
+    ASSERT_EQ(project.saveProject(projectFile()), 1);
+    EXPECT_EQ(written(projectFile()).toStdString(),
+              "<VelixProject>\n"
+              "    <Parameters>\n"
+              "        <Parameter name=\"Lane A/Fuel\"/>\n"
+              "        <Parameter name=\"Lane A/Oil\"/>\n"
+              "        <Parameter name=\"Lane B/Oil\"/>\n"
+              "    </Parameters>\n"
+              "    <CanProperties>\n"
+              "        <Property id=\"bus\" value=\"1 &amp; 2\"/>\n"
+              "        <Property id=\"rate\" value=\"500\"/>\n"
+              "    </CanProperties>\n"
+              "</VelixProject>\n");
+}
+
+TEST_F(ProjectTest, WritesAnEmptyListWithoutSelection)
+{
+    ASSERT_EQ(project.saveProject(projectFile()), 1);
+    EXPECT_NE(written(projectFile()).indexOf("<Parameters/>"), -1);
+}
+
+TEST_F(ProjectTest, ReadsBackWhatItWrote)
+{
+    const std::map<std::string, std::string> properties{{"a", "1"}, {"b", "\xC3\xA4 <x>"}};
+    select({10, 30});
+    project.setCanProperties(properties);
+    ASSERT_EQ(project.saveProject(projectFile()), 1);
+
+    select({20});
+    Project reader(profile);
+    ASSERT_EQ(reader.readProject(projectFile()), 1);
+    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Fuel, Lane B/Oil"));
+    EXPECT_EQ(reader.canProperties(), properties);
+}
+
+TEST_F(ProjectTest, ReadsWhatItKnowsAndSkipsTheRest)
+{
+    select({20});
+    project.setCanProperties({{"old", "x"}});
+    write(projectFile(), "<Other><Noise/><Parameters><Parameter name='Lane A/Fuel'/>"
+                         "<Parameter name='Lane A/Gone'/><Parameter/><Thing name='Lane B/Oil'/>"
+                         "</Parameters><CanProperties><Property id='k' value='1'/>"
+                         "<Property id='k' value='2'/><Thing id='t' value='3'/></CanProperties>"
+                         "</Other>");
+    ASSERT_EQ(project.readProject(projectFile()), 1);
+    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Fuel"));
+    EXPECT_EQ(project.canProperties(), (std::map<std::string, std::string>{{"k", "2"}}));
+}
+
+TEST_F(ProjectTest, KeepsTheSelectionWhenAFileCannotBeRead)
+{
+    const std::map<std::string, std::string> properties{{"k", "v"}};
+    select({20});
+    project.setCanProperties(properties);
+    write(path("cut.xml").toStdString(), "<VelixProject><Parameters>");
+    write(path("empty.xml").toStdString(), "");
+    for (const char* name : {"missing.xml", "cut.xml", "empty.xml", ""}) {
+        EXPECT_EQ(project.readProject(path(name).toStdString()), 0) << name;
+        EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Oil")) << name;
+        EXPECT_EQ(project.canProperties(), properties) << name;
+    }
+}
+
+TEST_F(ProjectTest, ReportsAFileThatCannotBeWritten)
+{
+    EXPECT_EQ(project.saveProject(path("none/Project.xml").toStdString()), 0);
+    EXPECT_EQ(project.saveProject(folder.path().toStdString()), 0);
+}
+
+TEST_F(ProjectTest, ANewProjectHasNoSelectionAndNoProperties)
+{
+    select({10, 20});
+    project.setCanProperties({{"k", "v"}});
+    project.clear();
+    EXPECT_EQ(selection(profile), QString());
+    EXPECT_TRUE(project.canProperties().empty());
+}
+
+TEST_F(ProjectTest, CarriesTheSelectionOverAReload)
+{
+    select({10, 30});
+    project.rememberSelection();
+    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Solo")));
+    project.restoreSelection();
+    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Fuel"));
+
+    // What only the other variant has comes back with it; what was unticked meanwhile does not.
+    select({20});
+    project.rememberSelection();
+    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Twin")));
+    project.restoreSelection();
+    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Oil, Lane B/Oil"));
+}
+
+TEST_F(ProjectTest, SurvivesAProfileThatCannotBeLoaded)
+{
+    select({10, 30});
+    project.rememberSelection();
+    EXPECT_FALSE(profile.loadProfile(path("missing.xml"), QString()));
+    project.restoreSelection();
+    project.rememberSelection();
+    ASSERT_TRUE(profile.loadProfile(profileFile(), QString()));
+    project.restoreSelection();
+    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Fuel, Lane B/Oil"));
+}
