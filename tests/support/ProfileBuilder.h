@@ -114,18 +114,19 @@ public:
         out.writeEndDocument();
         return text;
     }
-    bool write(const QString& path) const
-    {
-        QFile file(path);
-        const QByteArray bytes = xml().toUtf8();
-        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-    }
+    bool write(const QString& path) const { return writeText(path, xml()); }
     /// Loads the profile as the program does, from a file; no parameter is selected then.
     bool load(Profile& profile, const QString& variantName = QString()) const
     {
+        return loadText(profile, xml(), variantName);
+    }
+    /// The same for a profile that is spelt out.
+    static bool loadText(Profile& profile, const QString& xml,
+                         const QString& variantName = QString())
+    {
         const QTemporaryDir folder;
         const QString path = folder.filePath(QStringLiteral("Profile.xml"));
-        return write(path) && profile.loadProfile(path, variantName) != 0;
+        return writeText(path, xml) && profile.loadProfile(path, variantName) != 0;
     }
 
     /// Marks every parameter as chosen by the user.
@@ -147,6 +148,12 @@ private:
     };
     using Elements = std::vector<Element>;
 
+    static bool writeText(const QString& path, const QString& xml)
+    {
+        QFile file(path);
+        const QByteArray bytes = xml.toUtf8();
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    }
     ProfileBuilder& add(Elements& list, const char* tag)
     {
         list.push_back({QString::fromUtf8(tag), {}, {}});

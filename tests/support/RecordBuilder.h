@@ -109,6 +109,8 @@ public:
     }
 
     const std::vector<RecordEntry>& entries() const { return mEntries; }
+    /// The entry appended last.
+    const RecordEntry& last() const { return mEntries.back(); }
 
     /// The recording as the card's reader fills it.
     std::shared_ptr<RecordData> data() const

@@ -1,0 +1,202 @@
+#include "export/ExportCsv.h"
+#include "card/RecordData.h"
+#include "profile/Profile.h"
+#include "tests/support/ProfileBuilder.h"
+#include "tests/support/RecordBuilder.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+
+namespace VELIX::Test {
+namespace {
+
+class CsvTable : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(ProfileBuilder()
+                        .conversion("m", "ft", 2, 0)
+                        .enumeration("Mode", {{1, "a;b"}, {2, "say \"on\""}, {3, "two\nlines"}})
+                        .device("ECU A")
+                        .parameter(2, QStringLiteral("Count"), "UCHAR")
+                        .set("unitMetric", "m")
+                        .set("unitImperial", "ft")
+                        .parameter(1, QStringLiteral("Height"), "FLOAT")
+                        .set("unitMetric", "m")
+                        .set("unitImperial", "ft")
+                        .set("precision", "1")
+                        .device("ECU B")
+                        .parameter(3, QStringLiteral("Mode"), "BLONG")
+                        .set("enumId", "Mode")
+                        .set("endBit", "7")
+                        .load(mProfile));
+    }
+    std::string table(const CsvExportOptions& options = {})
+    {
+        QBuffer out;
+        out.open(QIODevice::WriteOnly);
+        EXPECT_TRUE(ExportCsv(mProfile).writeTable(*mRecord.data(), options, out));
+        return out.data().toStdString();
+    }
+    static CsvExportOptions with(int resolution, bool aligned = false, char delimiter = ';')
+    {
+        CsvExportOptions options;
+        options.resolution = resolution;
+        options.aligned = aligned;
+        options.delimiter = delimiter;
+        return options;
+    }
+    void select(int id)
+    {
+        for (ProfileDevice& device : mProfile.data().devices) {
+            for (auto& [key, p] : device.parameters) {
+                p.selected = key == id;
+            }
+        }
+    }
+
+    const std::string kHeader = "Time;Height [m];Count [m];Mode\n";
+    Profile mProfile;
+    RecordBuilder mRecord;
+};
+
+TEST_F(CsvTable, HasAHeaderAlsoWithoutSamplesOrParameters)
+{
+    EXPECT_EQ(table(), kHeader);
+    CsvExportOptions selectedOnly;
+    selectedOnly.allParameters = false;
+    EXPECT_EQ(table(selectedOnly), "Time\n");
+}
+
+TEST_F(CsvTable, RoundsTimesToTicks)
+{
+    mRecord.id(1).at(12.349).floatValue(1);
+    EXPECT_EQ(table(with(100)), kHeader + "0:00:12.300;1.0\n");
+    EXPECT_EQ(table(with(10)), kHeader + "0:00:12.350;1.0\n");
+}
+
+TEST_F(CsvTable, CountsHoursBeyondADay)
+{
+    mRecord.id(1).at(0).floatValue(0).at(3661.5).floatValue(1);
+    mRecord.at(86400 + 3600 + 0.1).floatValue(2).at(100.0 * 3600).floatValue(3);
+    EXPECT_EQ(table(), kHeader + "0:00:00.000;0.0\n1:01:01.500;1.0\n25:00:00.100;2.0\n"
+                                 "100:00:00.000;3.0\n");
+}
+
+TEST_F(CsvTable, RowsHoldOnlyTheCellsPresent)
+{
+    mRecord.at(1).id(1).floatValue(1).id(2).ucharValue(10).id(3).blongValue(9);
+    mRecord.at(2).id(2).ucharValue(20);
+    mRecord.at(3).id(3).blongValue(9).at(4).id(1).floatValue(4).id(3).blongValue(9);
+    EXPECT_EQ(table(), kHeader + "0:00:01.000;1.0;10;9: Invalid ENUM Value\n"
+                                 "0:00:02.000;20\n"
+                                 "0:00:03.000;9: Invalid ENUM Value\n"
+                                 "0:00:04.000;4.0;9: Invalid ENUM Value\n");
+}
+
+TEST_F(CsvTable, OfSeveralSamplesInATickTheLastOneCounts)
+{
+    mRecord.id(1).at(1.04).floatValue(1).at(0.96).floatValue(2).at(5).floatValue(3);
+    mRecord.at(1.01).floatValue(4).at(0.5).floatValue(5);
+    EXPECT_EQ(table(), kHeader + "0:00:00.500;5.0\n0:00:01.000;4.0\n0:00:05.000;3.0\n")
+        << "last in the file, not latest in time; rows go by time";
+    EXPECT_EQ(table(with(10)), kHeader + "0:00:00.500;5.0\n0:00:00.960;2.0\n0:00:01.010;4.0\n"
+                                         "0:00:01.040;1.0\n0:00:05.000;3.0\n");
+}
+
+TEST_F(CsvTable, FieldsAreWrittenAsTheyAre)
+{
+    mRecord.at(1).id(3).blongValue(1).at(2).blongValue(2);
+    EXPECT_EQ(table(), kHeader + "0:00:01.000;1: a;b\n0:00:02.000;2: say \"on\"\n");
+}
+
+TEST_F(CsvTable, AlignedRowsHaveEveryColumnAndQuoteWhereNeeded)
+{
+    mRecord.at(1).id(3).blongValue(1).at(2).blongValue(2).at(3).blongValue(3);
+    mRecord.at(2).id(1).floatValue(1);
+    EXPECT_EQ(table(with(100, true)), kHeader + "0:00:01.000;;;\"1: a;b\"\n"
+                                                "0:00:02.000;1.0;;\"2: say \"\"on\"\"\"\n"
+                                                "0:00:03.000;;;\"3: two\nlines\"\n");
+    EXPECT_EQ(table(with(100, true, ',')).substr(0, 61),
+              "Time,Height [m],Count [m],Mode\n0:00:01.000,,,1: a;b\n0:00:02.0")
+        << "another delimiter needs no quotes";
+    EXPECT_EQ(table(with(100, false, '\t')).substr(0, 31), "Time\tHeight [m]\tCount [m]\tMode\n");
+}
+
+TEST_F(CsvTable, HeadingsNameTheUnitOfTheTexts)
+{
+    mProfile.setCurrentUnit(eUnitImperial);
+    mRecord.at(1).id(1).floatValue(1).id(2).ucharValue(10);
+    EXPECT_EQ(table(), "Time;Height [ft];Count [m];Mode\n0:00:01.000;2.0;10\n");
+}
+
+TEST_F(CsvTable, SelectedParametersOnlyOnRequest)
+{
+    select(2);
+    mRecord.at(1).id(1).floatValue(1).id(2).ucharValue(10).at(2).id(1).floatValue(2);
+    CsvExportOptions options;
+    options.allParameters = false;
+    EXPECT_EQ(table(options), "Time;Count [m]\n0:00:01.000;10\n")
+        << "ticks without a cell have no row";
+}
+
+TEST_F(CsvTable, OddResolutionsFromASettingsFileCountAsTheDefault)
+{
+    mRecord.id(1).at(12.349).floatValue(1);
+    for (const int resolution : {0, -1, 7, 2000, std::numeric_limits<int>::min()}) {
+        EXPECT_EQ(table(with(resolution)), kHeader + "0:00:12.300;1.0\n") << resolution;
+    }
+}
+
+TEST_F(CsvTable, PositionsPassTheJumpFilterAfreshInEveryExport)
+{
+    ASSERT_TRUE(ProfileBuilder()
+                    .device("EMU")
+                    .parameter(1, QStringLiteral("Lat"), "FLOAT")
+                    .set("velixDataType", "Latitude")
+                    .set("precision", "1")
+                    .load(mProfile));
+    for (int i = 0; i < 7; ++i) {
+        mRecord.id(1).at(i).floatValue(i < 5 ? 4800.0F : 1000.0F);
+    }
+    const std::string first = table();
+    EXPECT_NE(first.find("0:00:06.000;48.0\n"), std::string::npos) << "a jump";
+    EXPECT_EQ(table(), first);
+}
+
+/// Takes a number of bytes and then refuses, like a full disk.
+class FullDevice : public QIODevice
+{
+public:
+    explicit FullDevice(qint64 room) : mRoom(room) { open(QIODevice::WriteOnly); }
+
+protected:
+    qint64 readData(char* /*data*/, qint64 /*size*/) override { return -1; }
+    qint64 writeData(const char* /*data*/, qint64 size) override
+    {
+        const qint64 taken = std::min(size, mRoom);
+        mRoom -= taken;
+        return taken > 0 ? taken : -1;
+    }
+
+private:
+    qint64 mRoom;
+};
+
+TEST_F(CsvTable, ADeviceThatDoesNotTakeItAllIsAFailure)
+{
+    for (int i = 0; i < 100000; ++i) { // more than one block
+        mRecord.id(1).ticks(static_cast<std::uint64_t>(i) * 3200000).floatValue(1);
+    }
+    for (const qint64 room : {0, 10, 1500000}) {
+        FullDevice device(room);
+        EXPECT_FALSE(ExportCsv(mProfile).writeTable(*mRecord.data(), {}, device)) << room;
+    }
+    FullDevice large(10000000);
+    EXPECT_TRUE(ExportCsv(mProfile).writeTable(*mRecord.data(), {}, large));
+}
+
+} // namespace
+} // namespace VELIX::Test
