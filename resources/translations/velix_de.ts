@@ -1,4 +1,780 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_GB">
+<context>
+    <name>VELIX::CardContainer</name>
+    <message>
+        <source>Cycle %1</source>
+        <translation>Zyklus %1</translation>
+    </message>
+    <message>
+        <source>The selection holds %1 samples, more than half of the free memory can take. Select fewer files.</source>
+        <translation>Die Auswahl enthält %1 Messwerte, mehr als in die Hälfte des freien Speichers passen. Weniger Dateien auswählen.</translation>
+    </message>
+    <message>
+        <source>The file %1 could not be read completely.</source>
+        <translation>Die Datei %1 konnte nicht vollständig gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The card has no file %1.</source>
+        <translation>Auf der Datenkarte gibt es keine Datei %1.</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogAbout</name>
+    <message>
+        <source>About VELIX</source>
+        <translation>Über VELIX</translation>
+    </message>
+    <message>
+        <source>Debriefing of engine data cards</source>
+        <translation>Auswertung von Datenkarten der Triebwerksüberwachung</translation>
+    </message>
+    <message>
+        <source>Built %1</source>
+        <translation>Erstellt am %1</translation>
+    </message>
+    <message>
+        <source>Made with Qt %1, under the GNU Lesser General Public License, version 3</source>
+        <translation>Erstellt mit Qt %1 unter der GNU Lesser General Public License, Version 3</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogCard</name>
+    <message>
+        <source>Flight %1 %2 (%3)</source>
+        <translation>Flug %1 %2 (%3)</translation>
+    </message>
+    <message>
+        <source>Unknown Date</source>
+        <translation>Datum unbekannt</translation>
+    </message>
+    <message>
+        <source>%1: take-off at %2, landing at %3 after power-up</source>
+        <translation>%1: Start %2, Landung %3 nach dem Einschalten</translation>
+    </message>
+    <message>
+        <source>Start Time: </source>
+        <translation>Anfangszeit: </translation>
+    </message>
+    <message>
+        <source>Stop Time: </source>
+        <translation>Endzeit: </translation>
+    </message>
+    <message>
+        <source>Start Time</source>
+        <translation>Anfangszeit</translation>
+    </message>
+    <message>
+        <source>Stop Time</source>
+        <translation>Endzeit</translation>
+    </message>
+    <message>
+        <source>Bus Type</source>
+        <translation>Bustyp</translation>
+    </message>
+    <message>
+        <source>ECU Serial Number</source>
+        <translation>ECU-Seriennummer</translation>
+    </message>
+    <message>
+        <source>Software Part Nr. A</source>
+        <translation>Software-Teilenr. A</translation>
+    </message>
+    <message>
+        <source>Software Part Nr. B</source>
+        <translation>Software-Teilenr. B</translation>
+    </message>
+    <message>
+        <source>ECU Type</source>
+        <translation>ECU-Typ</translation>
+    </message>
+    <message>
+        <source>EMU SW Version</source>
+        <translation>EMU-Softwareversion</translation>
+    </message>
+    <message>
+        <source>Engine Serial Nr.</source>
+        <translation>Triebwerk-Seriennr.</translation>
+    </message>
+    <message>
+        <source>Engine Type</source>
+        <translation>Triebwerkstyp</translation>
+    </message>
+    <message>
+        <source>Samples Total</source>
+        <translation>Messwerte gesamt</translation>
+    </message>
+    <message>
+        <source>Cycle</source>
+        <translation>Zyklus</translation>
+    </message>
+    <message>
+        <source>Cycles</source>
+        <translation>Zyklen</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Raw Data</source>
+        <translation>Rohdaten</translation>
+    </message>
+    <message>
+        <source>No card open. Open the folder of a data card.</source>
+        <translation>Keine Datenkarte geöffnet. Ordner einer Datenkarte öffnen.</translation>
+    </message>
+    <message>
+        <source>No record files in %1. Open the folder of a data card.</source>
+        <translation>Keine Aufzeichnungen in %1. Ordner einer Datenkarte öffnen.</translation>
+    </message>
+    <message>
+        <source>Open Data Folder</source>
+        <translation>Datenordner öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogData</name>
+    <message>
+        <source>This version has no graph yet. The Data tab lists the values over time.</source>
+        <translation>Diese Version hat noch keinen Graphen. Der Reiter „Daten“ listet die Werte über der Zeit auf.</translation>
+    </message>
+    <message>
+        <source>This version has no instrument panel yet. The Data tab lists the values over time.</source>
+        <translation>Diese Version hat noch keine Instrumentenanzeige. Der Reiter „Daten“ listet die Werte über der Zeit auf.</translation>
+    </message>
+    <message>
+        <source>This version has no fault matrix yet.</source>
+        <translation>Diese Version hat noch keine Fehlermatrix.</translation>
+    </message>
+    <message>
+        <source>This version has no list of limit events yet. The Data tab shows them by colour.</source>
+        <translation>Diese Version hat noch keine Liste der Grenzwertereignisse. Der Reiter „Daten“ zeigt sie farbig.</translation>
+    </message>
+    <message>
+        <source>This version has no list of warning lamps yet.</source>
+        <translation>Diese Version hat noch keine Liste der Warnlampen.</translation>
+    </message>
+    <message>
+        <source>This version has no tow statistic yet.</source>
+        <translation>Diese Version hat noch keine Schleppstatistik.</translation>
+    </message>
+    <message>
+        <source>This version has no map yet.</source>
+        <translation>Diese Version hat noch keine Landkarte.</translation>
+    </message>
+    <message>
+        <source>Data</source>
+        <translation>Daten</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Graph</translation>
+    </message>
+    <message>
+        <source>Fault Matrix</source>
+        <translation>Fehlermatrix</translation>
+    </message>
+    <message>
+        <source>Limit/Warning</source>
+        <translation>Grenzwert/Warnung</translation>
+    </message>
+    <message>
+        <source>Warning Lamps</source>
+        <translation>Warnlampen</translation>
+    </message>
+    <message>
+        <source>Tow Statistic</source>
+        <translation>Schleppstatistik</translation>
+    </message>
+    <message>
+        <source>EMU View</source>
+        <translation>EMU-Anzeige</translation>
+    </message>
+    <message>
+        <source>Hide Map Display</source>
+        <translation>Landkarte ausblenden</translation>
+    </message>
+    <message>
+        <source>Tile Map Display Horizontally</source>
+        <translation>Landkarte nebeneinander anordnen</translation>
+    </message>
+    <message>
+        <source>Tile Map Display Vertically</source>
+        <translation>Landkarte untereinander anordnen</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogDataTable</name>
+    <message>
+        <source>Values of the record</source>
+        <translation>Werte der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>No parameter profile is installed. Without the profile of your engine, recorded messages cannot be turned into values.</source>
+        <translation>Es ist kein Parameterprofil installiert. Ohne das Profil des Triebwerks lassen sich aufgezeichnete Nachrichten nicht in Werte umrechnen.</translation>
+    </message>
+    <message>
+        <source>Install a profile</source>
+        <translation>Profil installieren</translation>
+    </message>
+    <message>
+        <source>No record loaded. Open the folder of a data card and choose a cycle, a flight or a file.</source>
+        <translation>Keine Aufzeichnung geladen. Ordner einer Datenkarte öffnen und einen Zyklus, einen Flug oder eine Datei auswählen.</translation>
+    </message>
+    <message>
+        <source>No parameter selected. Check the parameters to show in the parameter list and confirm the selection.</source>
+        <translation>Kein Parameter ausgewählt. In der Parameterliste die gewünschten Parameter ankreuzen und die Auswahl bestätigen.</translation>
+    </message>
+    <message>
+        <source>Select parameters</source>
+        <translation>Parameter auswählen</translation>
+    </message>
+    <message>
+        <source>The record has no samples of the selected parameters. Select other parameters or choose another record.</source>
+        <translation>Die Aufzeichnung enthält keine Messwerte der ausgewählten Parameter. Andere Parameter oder eine andere Aufzeichnung auswählen.</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogExportCsv</name>
+    <message>
+        <source>CSV Export</source>
+        <translation>CSV-Export</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogExportCsvOptions</name>
+    <message>
+        <source>Every row has every column</source>
+        <translation>Jede Zeile hat alle Spalten</translation>
+    </message>
+    <message>
+        <source>CSV Export</source>
+        <translation>CSV-Export</translation>
+    </message>
+    <message>
+        <source>Select CSV Option</source>
+        <translation>CSV-Optionen wählen</translation>
+    </message>
+    <message>
+        <source>Semikolon ;</source>
+        <translation>Semikolon ;</translation>
+    </message>
+    <message>
+        <source>Comma ,</source>
+        <translation>Komma ,</translation>
+    </message>
+    <message>
+        <source>Tabstop</source>
+        <translation>Tabulator</translation>
+    </message>
+    <message>
+        <source>100 ms</source>
+        <translation>100 ms</translation>
+    </message>
+    <message>
+        <source>10 ms</source>
+        <translation>10 ms</translation>
+    </message>
+    <message>
+        <source>All Parameter</source>
+        <translation>Alle Parameter</translation>
+    </message>
+    <message>
+        <source>Selected Parameter only</source>
+        <translation>Nur ausgewählte Parameter</translation>
+    </message>
+    <message>
+        <source>Parameters that have no sample at a time leave an empty cell.
+Without this, the cells after it move to the left.</source>
+        <translation>Parameter ohne Messwert zu einem Zeitpunkt lassen eine leere Zelle.
+Ohne diese Option rücken die folgenden Zellen nach links.</translation>
+    </message>
+    <message>
+        <source>Limiter</source>
+        <translation>Trennzeichen</translation>
+    </message>
+    <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>Parameter Selection</source>
+        <translation>Parameterauswahl</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogExportCsvPath</name>
+    <message>
+        <source>CSV Export</source>
+        <translation>CSV-Export</translation>
+    </message>
+    <message>
+        <source>Save CSV Export</source>
+        <translation>CSV-Export speichern</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogMain</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Extras</source>
+        <translation>&amp;Extras</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Main Toolbar</source>
+        <translation>Hauptwerkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Variant</source>
+        <translation>Variante</translation>
+    </message>
+    <message>
+        <source>Variant of the profile</source>
+        <translation>Variante des Profils</translation>
+    </message>
+    <message>
+        <source>All variants</source>
+        <translation>Alle Varianten</translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation>Einheiten</translation>
+    </message>
+    <message>
+        <source>Unit system of all values</source>
+        <translation>Einheitensystem aller Werte</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>Metrisch</translation>
+    </message>
+    <message>
+        <source>Imperial</source>
+        <translation>Imperial</translation>
+    </message>
+    <message>
+        <source>VELIX %1</source>
+        <translation>VELIX %1</translation>
+    </message>
+    <message>
+        <source>Open SD Card</source>
+        <translation>SD-Karte öffnen</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be opened.</source>
+        <translation>Der Ordner %1 lässt sich nicht öffnen.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be opened. Is the card in its reader?</source>
+        <translation>Der Ordner %1 lässt sich nicht öffnen. Steckt die Datenkarte im Leser?</translation>
+    </message>
+    <message>
+        <source>VELIX Viewer Warning</source>
+        <translation>VELIX Viewer – Warnung</translation>
+    </message>
+    <message>
+        <source>Exporting CSV file failed !</source>
+        <translation>Der Export der CSV-Datei ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Written to %1</source>
+        <translation>Geschrieben nach %1</translation>
+    </message>
+    <message>
+        <source>Loading %1...</source>
+        <translation>Lade %1...</translation>
+    </message>
+    <message>
+        <source>Load a cycle or a flight to export it</source>
+        <translation>Zum Exportieren einen Zyklus oder einen Flug laden</translation>
+    </message>
+    <message>
+        <source>Cycle %1</source>
+        <translation>Zyklus %1</translation>
+    </message>
+    <message>
+        <source>Cycle %1, flight %2</source>
+        <translation>Zyklus %1, Flug %2</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 Datei</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 Dateien</translation>
+    </message>
+    <message>
+        <source>%1: %2 samples of %3 identifiers</source>
+        <translation>%1: %2 Messwerte, %3 Kennungen</translation>
+    </message>
+    <message>
+        <source>Open VELIX Project</source>
+        <translation>VELIX-Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Project Files (*.xml)</source>
+        <translation>Projektdateien (*.xml)</translation>
+    </message>
+    <message>
+        <source>%1 could not be read as a project.</source>
+        <translation>%1 konnte nicht als Projekt gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The project could not be saved to %1.</source>
+        <translation>Das Projekt konnte nicht unter %1 gespeichert werden.</translation>
+    </message>
+    <message>
+        <source>VELIX Warning</source>
+        <translation>VELIX – Warnung</translation>
+    </message>
+    <message>
+        <source>Current Project not saved !
+Save it now ?</source>
+        <translation>Das aktuelle Projekt ist nicht gespeichert.
+Jetzt speichern?</translation>
+    </message>
+    <message>
+        <source>Save VELIX Project</source>
+        <translation>VELIX-Projekt speichern</translation>
+    </message>
+    <message>
+        <source>%1 exists already.
+Replace it ?</source>
+        <translation>%1 ist bereits vorhanden.
+Soll die Datei ersetzt werden?</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogProfile</name>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Confirm Selection</source>
+        <translation>Auswahl bestätigen</translation>
+    </message>
+    <message>
+        <source>No profile installed. Parameters come from a profile file.</source>
+        <translation>Kein Profil installiert. Die Parameter stammen aus einer Profildatei.</translation>
+    </message>
+    <message>
+        <source>Install New Profile</source>
+        <translation>Neues Profil installieren</translation>
+    </message>
+    <message>
+        <source>Selected Parameters</source>
+        <translation>Ausgewählte Parameter</translation>
+    </message>
+    <message>
+        <source>Search parameters</source>
+        <translation>Parameter suchen</translation>
+    </message>
+    <message>
+        <source>Show no parameter at all</source>
+        <translation>Gar keinen Parameter zeigen</translation>
+    </message>
+    <message>
+        <source>Show the ticked parameters in all views</source>
+        <translation>Die angekreuzten Parameter in allen Ansichten zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogProfileInfo</name>
+    <message>
+        <source>VELIX Profile Info</source>
+        <translation>VELIX – Profil</translation>
+    </message>
+    <message>
+        <source>Install New Profile</source>
+        <translation>Neues Profil installieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>&lt;tr&gt;&lt;td&gt;Profile Name:&lt;/td&gt;&lt;td&gt;&lt;b&gt;%1&lt;/b&gt;&lt;/td&gt;&lt;/tr&gt;</source>
+        <translation>&lt;tr&gt;&lt;td&gt;Profilname:&lt;/td&gt;&lt;td&gt;&lt;b&gt;%1&lt;/b&gt;&lt;/td&gt;&lt;/tr&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;tr&gt;&lt;td&gt;Profile Version:&lt;/td&gt;&lt;td&gt;&lt;b&gt;%1&lt;/b&gt;&lt;/td&gt;&lt;/tr&gt;</source>
+        <translation>&lt;tr&gt;&lt;td&gt;Profilversion:&lt;/td&gt;&lt;td&gt;&lt;b&gt;%1&lt;/b&gt;&lt;/td&gt;&lt;/tr&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;tr&gt;&lt;td&gt;Profile Id:&lt;/td&gt;&lt;td&gt;&lt;b&gt;%1&lt;/b&gt;&lt;/td&gt;&lt;/tr&gt;</source>
+        <translation>&lt;tr&gt;&lt;td&gt;Profilkennung:&lt;/td&gt;&lt;td&gt;&lt;b&gt;%1&lt;/b&gt;&lt;/td&gt;&lt;/tr&gt;</translation>
+    </message>
+    <message>
+        <source>&lt;tr&gt;&lt;td&gt;Profile Comment:&lt;/td&gt;&lt;td&gt;&lt;b&gt;%1&lt;/b&gt;&lt;/td&gt;&lt;/tr&gt;</source>
+        <translation>&lt;tr&gt;&lt;td&gt;Kommentar:&lt;/td&gt;&lt;td&gt;&lt;b&gt;%1&lt;/b&gt;&lt;/td&gt;&lt;/tr&gt;</translation>
+    </message>
+    <message>
+        <source>Variants: &lt;br&gt;</source>
+        <translation>Varianten: &lt;br&gt;</translation>
+    </message>
+    <message>
+        <source>VELIX Warning</source>
+        <translation>VELIX – Warnung</translation>
+    </message>
+    <message>
+        <source>Select Profile File</source>
+        <translation>Profildatei wählen</translation>
+    </message>
+    <message>
+        <source>Profile File (*.xml);;All Files (* *.*)</source>
+        <translation>Profildateien (*.xml);;Alle Dateien (* *.*)</translation>
+    </message>
+    <message>
+        <source>Not a valid VELIX profile !</source>
+        <translation>Das ist kein gültiges VELIX-Profil.</translation>
+    </message>
+    <message>
+        <source>Profile Installation failed !</source>
+        <translation>Die Installation des Profils ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>VELIX Info</source>
+        <translation>VELIX – Information</translation>
+    </message>
+    <message>
+        <source>New profile installed !</source>
+        <translation>Das neue Profil ist installiert.</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogSplash</name>
+    <message>
+        <source>Starting up VELIX...</source>
+        <translation>VELIX startet...</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Creating Dialogs ...</source>
+        <translation>Fenster werden aufgebaut ...</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogStatusBar</name>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::ExportPathPage</name>
+    <message>
+        <source>Select the output directory and file</source>
+        <translation>Ausgabeordner und Datei wählen</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>Export Path</source>
+        <translation>Exportordner</translation>
+    </message>
+    <message>
+        <source>Export Filename</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>The folder &quot;%1&quot; does not exist.</source>
+        <translation>Der Ordner „%1“ ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a folder.</source>
+        <translation>„%1“ ist kein Ordner.</translation>
+    </message>
+    <message>
+        <source>No files can be written in the folder &quot;%1&quot;.</source>
+        <translation>Im Ordner „%1“ können keine Dateien geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Enter a name for the file.</source>
+        <translation>Einen Dateinamen eingeben.</translation>
+    </message>
+    <message>
+        <source>The name of the file must not contain &quot;/&quot;.</source>
+        <translation>Der Dateiname darf kein „/“ enthalten.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a folder. Enter another name.</source>
+        <translation>„%1“ ist ein Ordner. Einen anderen Namen eingeben.</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; exists already.
+Replace it ?</source>
+        <translation>Die Datei „%1“ ist bereits vorhanden.
+Soll sie ersetzt werden?</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::MainActions</name>
+    <message>
+        <source>&amp;New Project</source>
+        <translation>&amp;Neues Projekt</translation>
+    </message>
+    <message>
+        <source>Create new Project</source>
+        <translation>Neues Projekt anlegen</translation>
+    </message>
+    <message>
+        <source>&amp;Open Project</source>
+        <translation>Projekt ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>Open Project</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>Open Project File</source>
+        <translation>Projekt öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project</source>
+        <translation>Projekt &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Save Project</source>
+        <translation>Projekt speichern</translation>
+    </message>
+    <message>
+        <source>Save Project File</source>
+        <translation>Projekt speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Save Project as</source>
+        <translation>Projekt speichern &amp;unter</translation>
+    </message>
+    <message>
+        <source>Save Project as</source>
+        <translation>Projekt unter anderem Namen speichern</translation>
+    </message>
+    <message>
+        <source>Save Project File as</source>
+        <translation>Projekt speichern unter</translation>
+    </message>
+    <message>
+        <source>&amp;Open Data Folder</source>
+        <translation>&amp;Datenordner öffnen</translation>
+    </message>
+    <message>
+        <source>Open Data Folder</source>
+        <translation>Datenordner öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>Quit Application</source>
+        <translation>Programm beenden</translation>
+    </message>
+    <message>
+        <source>Export CSV File</source>
+        <translation>CSV-Datei exportieren</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Show Profile Information</source>
+        <translation>Profilinformationen zeigen</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Über VELIX</translation>
+    </message>
+    <message>
+        <source>Show License Information</source>
+        <translation>Lizenzhinweise zeigen</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::ReplayControls</name>
+    <message>
+        <source>Date and time (UTC)</source>
+        <translation>Datum und Uhrzeit (UTC)</translation>
+    </message>
+    <message>
+        <source>Time of the cursor</source>
+        <translation>Zeit am Cursor</translation>
+    </message>
+    <message>
+        <source>Replay Stop</source>
+        <translation>Wiedergabe beenden</translation>
+    </message>
+    <message>
+        <source>Position in the record</source>
+        <translation>Position in der Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Replay speed</source>
+        <translation>Wiedergabetempo</translation>
+    </message>
+    <message>
+        <source>Speed </source>
+        <translation>Tempo </translation>
+    </message>
+    <message>
+        <source>Replay Start</source>
+        <translation>Wiedergabe starten</translation>
+    </message>
+    <message>
+        <source>Replay Pause</source>
+        <translation>Wiedergabe anhalten</translation>
+    </message>
+    <message>
+        <source>Replay Run</source>
+        <translation>Wiedergabe fortsetzen</translation>
+    </message>
+    <message>
+        <source>Load a cycle, a flight or a file to replay it</source>
+        <translation>Zum Wiedergeben einen Zyklus, einen Flug oder eine Datei laden</translation>
+    </message>
+    <message>
+        <source>Start or pause the replay (Space)</source>
+        <translation>Wiedergabe starten oder anhalten (Leertaste)</translation>
+    </message>
+    <message>
+        <source>End the replay and return to the start of the record</source>
+        <translation>Wiedergabe beenden und zum Anfang der Aufzeichnung zurückkehren</translation>
+    </message>
+    <message>
+        <source>Position in the record (Ctrl+Left, Ctrl+Right: one second, with Shift: ten seconds)</source>
+        <translation>Position in der Aufzeichnung (Strg+Links, Strg+Rechts: eine Sekunde, mit Umschalt: zehn Sekunden)</translation>
+    </message>
+    <message>
+        <source>Replay speed, 1 to 100 times real time</source>
+        <translation>Wiedergabetempo, 1- bis 100-fache Echtzeit</translation>
+    </message>
+</context>
 </TS>
