@@ -1,0 +1,224 @@
+#include "tools/velix-card/CardCommand.h"
+#include "tests/support/CapturedDiagnostics.h"
+#include "tests/support/CardFolder.h"
+#include "tests/support/ProfileBuilder.h"
+
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <cstdio>
+#include <memory>
+
+namespace VELIX::Test {
+namespace {
+
+/// What a call wrote and with what status it ended.
+struct Outcome
+{
+    int status = -1;
+    std::string results;
+    std::string complaints;
+};
+
+class Command : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(ProfileBuilder()
+                        .conversion("m", "ft", 2, 0)
+                        .threshold("T", {{0, "green", "OK"}, {50, "red", "LIMIT"}})
+                        .device("EMU")
+                        .matrix(7, "Faults")
+                        .parameter(1, QStringLiteral("Height"), "FLOAT")
+                        .set("unitMetric", "m")
+                        .set("unitImperial", "ft")
+                        .set("precision", "1")
+                        .set("thresholdId", "T")
+                        .parameter(2, QStringLiteral("Label"), "ACHAR")
+                        .write(mProfile));
+        mCard.add("a.CAN", RecordBuilder()
+                               .id(1)
+                               .at(1)
+                               .floatValue(10)
+                               .at(2)
+                               .floatValue(60)
+                               .at(3)
+                               .floatValue(std::nanf(""))
+                               .id(2)
+                               .at(4)
+                               .ucharValue(0)
+                               .id(7)
+                               .at(1)
+                               .blongValue(0x80000001)
+                               .at(4)
+                               .blongValue(0));
+        mCard.add("b.CAN", RecordBuilder()
+                               .date(RecordBuilder::utc(2025, 6, 30, 12, 0, 0))
+                               .id(1)
+                               .at(5)
+                               .floatValue(1));
+    }
+    /// The words of a call after "velix-card".
+    Outcome call(const QString& words)
+    {
+        QStringList arguments = {QStringLiteral("velix-card")};
+        for (const QString& word : words.split(QLatin1Char(' '))) {
+            arguments << (word == QLatin1String("CARD")      ? mCard.path()
+                          : word == QLatin1String("PROFILE") ? mProfile
+                                                             : word);
+        }
+        const ParsedOptions parsed = parseCardOptions(arguments);
+        if (!parsed.options) {
+            return {parsed.status, {}, parsed.message.toStdString()};
+        }
+        const CapturedDiagnostics diagnostics;
+        const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::tmpfile(), &std::fclose);
+        ::testing::internal::CaptureStderr();
+        Outcome outcome;
+        outcome.status = CardCommand(*parsed.options, file.get()).run();
+        outcome.complaints = ::testing::internal::GetCapturedStderr();
+        std::rewind(file.get());
+        for (int c = std::fgetc(file.get()); c != EOF; c = std::fgetc(file.get())) {
+            outcome.results.push_back(static_cast<char>(c));
+        }
+        return outcome;
+    }
+    Outcome call(const char* words) { return call(QString::fromUtf8(words)); }
+    QJsonObject json(const char* words)
+    {
+        const Outcome outcome = call(words);
+        EXPECT_EQ(outcome.status, 0) << outcome.complaints;
+        return QJsonDocument::fromJson(QByteArray::fromStdString(outcome.results)).object();
+    }
+
+    QTemporaryDir mFolder;
+    QString mProfile = mFolder.filePath(QStringLiteral("Profile.xml"));
+    CardFolder mCard;
+};
+
+QJsonObject at(const QJsonObject& object, const char* key)
+{
+    return object.value(QLatin1String(key)).toObject();
+}
+
+TEST_F(Command, WrongUsageEndsWithTwoAndASentence)
+{
+    for (const char* words :
+         {"info", "CARD", "info CARD", "list CARD --profile PROFILE",
+          "info CARD more --profile PROFILE", "info CARD --profile PROFILE --cycle one",
+          "info CARD --profile PROFILE --cycle -1", "info CARD --profile PROFILE --flight 0",
+          "info CARD --profile PROFILE --cycle 1 --flight x",
+          "info CARD --profile PROFILE --cycle 1 --file a.CAN",
+          "info CARD --profile PROFILE --unit us", "info CARD --profile PROFILE --time now",
+          "info CARD --profile PROFILE --nonsense", "csv CARD --profile PROFILE",
+          "csv CARD --profile PROFILE --cycle 1 --resolution 50",
+          "csv CARD --profile PROFILE --cycle 1 --delimiter ;",
+          "csv CARD --profile PROFILE --cycle 1 --select EMU/None"}) {
+        const Outcome outcome = call(words);
+        EXPECT_EQ(outcome.status, 2) << words;
+        EXPECT_EQ(outcome.results, "") << words;
+        EXPECT_FALSE(outcome.complaints.empty()) << words;
+    }
+}
+
+TEST_F(Command, WhatCannotBeReadEndsWithOneAndNoOutput)
+{
+    const QString old = mFolder.filePath(QStringLiteral("old"));
+    for (const char* words :
+         {"info CARD --profile /no/such --output OLD",
+          "info /no/such --profile PROFILE --output OLD", "info CARD --profile CARD --output OLD",
+          "csv CARD --profile PROFILE --cycle 9 --output OLD",
+          "csv CARD --profile PROFILE --file x.CAN --output OLD",
+          "csv CARD --profile PROFILE --select No/Such --cycle 1 --output OLD"}) {
+        QFile file(old);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write("old");
+        file.close();
+        const Outcome outcome = call(QString::fromUtf8(words).replace(QLatin1String("OLD"), old));
+        EXPECT_EQ(outcome.status, QLatin1String(words).contains(QLatin1String("No/Such")) ? 2 : 1);
+        EXPECT_EQ(outcome.results, "");
+        EXPECT_EQ(std::count(outcome.complaints.begin(), outcome.complaints.end(), '\n'), 1)
+            << outcome.complaints;
+        EXPECT_EQ(QFileInfo(old).size(), 3) << words;
+    }
+    EXPECT_EQ(call("info CARD --profile PROFILE --output /no/such/file").status, 1);
+    EXPECT_EQ(call("info CARD --profile PROFILE --output CARD").status, 1);
+    EXPECT_EQ(call("info CARD --profile PROFILE --output /dev/full").status, 1);
+}
+
+TEST_F(Command, InfoListsTheCardAlone)
+{
+    const QJsonObject report = json("info CARD --profile PROFILE");
+    EXPECT_EQ(report.keys(), (QStringList{QStringLiteral("cycles"), QStringLiteral("files")}));
+    const QJsonObject file = at(at(report, "files"), "a.CAN");
+    EXPECT_EQ(file.size(), 13);
+    EXPECT_EQ(file.value(QLatin1String("dateTime")).toString(),
+              QStringLiteral("2025-06-30T11:59:56.000"));
+    EXPECT_TRUE(file.value(QLatin1String("dateInvalid")).toBool());
+    EXPECT_EQ(file.value(QLatin1String("sampleCount")).toInt(), 6);
+    const QJsonObject cycle = at(at(report, "cycles"), "1");
+    EXPECT_EQ(cycle.value(QLatin1String("name")).toString(), QStringLiteral("Cycle 1"));
+    EXPECT_EQ(cycle.value(QLatin1String("files")).toArray().size(), 2);
+}
+
+TEST_F(Command, InfoOnASelectionReportsWhatIsLoaded)
+{
+    const QJsonObject report = json(
+        "info CARD --profile PROFILE --unit imperial --file a.CAN --time 2.5 --time 0 --time 99");
+    const QJsonObject record = at(report, "record");
+    EXPECT_EQ(record.value(QLatin1String("indexSize")).toInt(), 6);
+    EXPECT_EQ(record.value(QLatin1String("ids")).toObject().keys(),
+              (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("7")}));
+    const QJsonArray limits = report.value(QLatin1String("limits")).toArray();
+    ASSERT_EQ(limits.size(), 1) << "no number is no event";
+    EXPECT_EQ(limits[0].toObject().value(QLatin1String("value")).toString(),
+              QStringLiteral("120.0 "));
+    EXPECT_EQ(limits[0].toObject().value(QLatin1String("color")).toString(),
+              QStringLiteral("#ffff0000"));
+    const QJsonObject values = at(report, "getValue");
+    EXPECT_EQ(QJsonDocument(values).toJson(QJsonDocument::Compact).toStdString(),
+              R"({"EMU/Height":[[2.5,120,2,"#ffff0000"],[0,20,0,"#ff008000"],[99,0,null,null]],)"
+              R"("EMU/Label":[[2.5,0,null,null],[0,0,null,null],[99,0,null,null]]})");
+    EXPECT_EQ(QJsonDocument(at(report, "faultWords")).toJson(QJsonDocument::Compact).toStdString(),
+              R"({"7":[[2.5,"80000001"],[0,"00000000"],[99,"00000000"]]})");
+}
+
+TEST_F(Command, MissingFlightsAndFilesAreWarnings)
+{
+    Outcome outcome = call("csv CARD --profile PROFILE --cycle 1 --flight 3");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.complaints, "Warning: cycle 1 has no flight 3, the whole cycle is loaded.\n");
+    EXPECT_NE(outcome.results.find("0:00:05.000;1.0\n"), std::string::npos);
+
+    outcome = call("csv CARD --profile PROFILE --file a.CAN --file none.CAN");
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.complaints, "Warning: The card has no file none.CAN.\n");
+    EXPECT_NE(outcome.results.find("0:00:01.000;10.0\n"), std::string::npos);
+}
+
+TEST_F(Command, CsvWritesTheTableOfTheChosenParameters)
+{
+    EXPECT_EQ(call("csv CARD --profile PROFILE --file b.CAN").results,
+              "Time;Height [m];Label\n0:00:05.000;1.0\n");
+    EXPECT_EQ(call("csv CARD --profile PROFILE --file b.CAN --unit imperial --delimiter tab "
+                   "--aligned --resolution 10")
+                  .results,
+              "Time\tHeight [ft]\tLabel\n0:00:05.000\t2.0\t\n");
+    EXPECT_EQ(call("csv CARD --profile PROFILE --file b.CAN --select EMU/Label").results,
+              "Time;Label\n");
+    const QString target = mFolder.filePath(QStringLiteral("out.csv"));
+    const Outcome outcome =
+        call(QStringLiteral("csv CARD --profile PROFILE --cycle 1 --output ") + target);
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.results, "");
+    QFile file(target);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().startsWith("Time;Height [m];Label\n0:00:01.000;10.0\n"));
+}
+
+} // namespace
+} // namespace VELIX::Test
