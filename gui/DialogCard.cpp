@@ -4,6 +4,7 @@
 #include "gui/CardTexts.h"
 #include "gui/CopyFilter.h"
 #include "gui/ImageHandler.h"
+#include "gui/TreeColumn.h"
 #include "gui/WidgetHint.h"
 
 #include <QHeaderView>
@@ -139,6 +140,7 @@ void DialogCard::updateInfoPowerCycles()
         items.append(item);
     }
     mTreeCycles->addTopLevelItems(items);
+    TreeColumn::fit(*mTreeCycles);
 }
 
 void DialogCard::updateInfoRaw()
@@ -207,6 +209,7 @@ void DialogCard::addFlights(unsigned int cycle)
     if (firstTime) {
         item->setExpanded(true);
     }
+    TreeColumn::fit(*mTreeCycles);
 }
 
 void DialogCard::slotSelect()

@@ -3,6 +3,7 @@
 #include "gui/CopyFilter.h"
 #include "gui/ImageHandler.h"
 #include "gui/Palette.h"
+#include "gui/TreeColumn.h"
 #include "gui/WidgetHint.h"
 #include "profile/Profile.h"
 
@@ -147,6 +148,7 @@ void DialogProfile::updateProfile(QTreeWidget* tree, ProfileInfo& info)
     for (QTreeWidgetItem* item : qAsConst(items)) {
         item->setExpanded(!closed.contains(item->data(0, kDeviceRole).toString()));
     }
+    TreeColumn::fit(*tree);
 }
 
 void DialogProfile::addParameter(QTreeWidgetItem* device, ProfileParameter& parameter)
@@ -175,6 +177,7 @@ void DialogProfile::updateUnits()
     forEachItem([this](QTreeWidgetItem& item, const ProfileParameter& parameter) {
         item.setText(0, parameter.label(mProfile.systemUnit(parameter)));
     });
+    TreeColumn::fit(*mTree);
 }
 
 void DialogProfile::updateProject()
