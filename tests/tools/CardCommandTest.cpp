@@ -55,7 +55,10 @@ protected:
                                .at(1)
                                .blongValue(0x80000001)
                                .at(4)
-                               .blongValue(0));
+                               .blongValue(0)
+                               .id(0x90000000)
+                               .source(0)
+                               .ucharValue(0));
         mCard.add("b.CAN", RecordBuilder()
                                .date(RecordBuilder::utc(2025, 6, 30, 12, 0, 0))
                                .id(1)
@@ -159,7 +162,7 @@ TEST_F(Command, InfoListsTheCardAlone)
     EXPECT_EQ(file.value(QLatin1String("dateTime")).toString(),
               QStringLiteral("2025-06-30T11:59:56.000"));
     EXPECT_TRUE(file.value(QLatin1String("dateInvalid")).toBool());
-    EXPECT_EQ(file.value(QLatin1String("sampleCount")).toInt(), 6);
+    EXPECT_EQ(file.value(QLatin1String("sampleCount")).toInt(), 7);
     const QJsonObject cycle = at(at(report, "cycles"), "1");
     EXPECT_EQ(cycle.value(QLatin1String("name")).toString(), QStringLiteral("Cycle 1"));
     EXPECT_EQ(cycle.value(QLatin1String("files")).toArray().size(), 2);
@@ -172,7 +175,9 @@ TEST_F(Command, InfoOnASelectionReportsWhatIsLoaded)
     const QJsonObject record = at(report, "record");
     EXPECT_EQ(record.value(QLatin1String("indexSize")).toInt(), 6);
     EXPECT_EQ(record.value(QLatin1String("ids")).toObject().keys(),
-              (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("7")}));
+              (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("2415919104"),
+                           QStringLiteral("7")}))
+        << "collective lists are left out";
     const QJsonArray limits = report.value(QLatin1String("limits")).toArray();
     ASSERT_EQ(limits.size(), 1) << "no number is no event";
     EXPECT_EQ(limits[0].toObject().value(QLatin1String("value")).toString(),

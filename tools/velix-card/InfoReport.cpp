@@ -91,7 +91,8 @@ QJsonObject loadedReport(const CardContainer& card)
     std::size_t indexSize = 0;
     for (const auto& [id, list] : card.recordData().ids()) {
         indexSize = std::max(indexSize, list.indexSize);
-        if (id < RecordData::kSource1Id && !list.entries.empty()) {
+        const bool collective = id == RecordData::kSource0Id || id == RecordData::kSource1Id;
+        if (!collective && !list.entries.empty()) {
             ids.insert(QString::number(id), static_cast<qint64>(list.entries.size()));
         }
     }
