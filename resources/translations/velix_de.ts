@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Debriefing of engine data cards</source>
-        <translation>Auswertung von Datenkarten der Triebwerksüberwachung</translation>
+        <translation>Auswertung von Datenkarten der Motorüberwachung</translation>
     </message>
     <message>
         <source>Built %1</source>
@@ -37,6 +37,10 @@
     <message>
         <source>Made with Qt %1, under the GNU Lesser General Public License, version 3</source>
         <translation>Erstellt mit Qt %1 unter der GNU Lesser General Public License, Version 3</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -95,11 +99,11 @@
     </message>
     <message>
         <source>Engine Serial Nr.</source>
-        <translation>Triebwerk-Seriennr.</translation>
+        <translation>Motor-Seriennr.</translation>
     </message>
     <message>
         <source>Engine Type</source>
-        <translation>Triebwerkstyp</translation>
+        <translation>Motortyp</translation>
     </message>
     <message>
         <source>Samples Total</source>
@@ -225,7 +229,7 @@
     </message>
     <message>
         <source>No parameter profile is installed. Without the profile of your engine, recorded messages cannot be turned into values.</source>
-        <translation>Es ist kein Parameterprofil installiert. Ohne das Profil des Triebwerks lassen sich aufgezeichnete Nachrichten nicht in Werte umrechnen.</translation>
+        <translation>Es ist kein Parameterprofil installiert. Ohne das Profil des Motors lassen sich aufgezeichnete Nachrichten nicht in Werte umrechnen.</translation>
     </message>
     <message>
         <source>Install a profile</source>
@@ -474,7 +478,7 @@ Soll die Datei ersetzt werden?</translation>
     </message>
     <message>
         <source>Confirm Selection</source>
-        <translation>Auswahl bestätigen</translation>
+        <translation>Bestätigen</translation>
     </message>
     <message>
         <source>No profile installed. Parameters come from a profile file.</source>
@@ -730,7 +734,7 @@ Soll sie ersetzt werden?</translation>
     </message>
     <message>
         <source>Replay Stop</source>
-        <translation>Wiedergabe beenden</translation>
+        <translation>Stopp</translation>
     </message>
     <message>
         <source>Position in the record</source>
@@ -746,15 +750,15 @@ Soll sie ersetzt werden?</translation>
     </message>
     <message>
         <source>Replay Start</source>
-        <translation>Wiedergabe starten</translation>
+        <translation>Starten</translation>
     </message>
     <message>
         <source>Replay Pause</source>
-        <translation>Wiedergabe anhalten</translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Replay Run</source>
-        <translation>Wiedergabe fortsetzen</translation>
+        <translation>Weiter</translation>
     </message>
     <message>
         <source>Load a cycle, a flight or a file to replay it</source>
