@@ -47,7 +47,7 @@ QString FuzzFolder::path(const char* name) const
 
 QString FuzzFolder::write(const char* name, const std::uint8_t* bytes, std::size_t size) const
 {
-    const QString target = path(name);
+    QString target = path(name);
     QFile file(target);
     const auto length = static_cast<qint64>(size);
     require(file.open(QIODevice::WriteOnly) &&
