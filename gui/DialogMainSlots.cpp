@@ -196,16 +196,19 @@ void DialogMain::load(const QString& text, const std::function<QString()>& job)
     const WaitCursor wait;
     mStatusBar->beginWork(text);
     setProgress(0);
+    const CardContainer& card = mContext.card;
+    const RecordData* before = &card.loadedData();
     mDialogData->releaseRecord();
     const QString name = job();
     mDialogData->updateRecord();
     setProgress(100);
     mStatusBar->endWork();
 
-    const CardContainer& card = mContext.card;
+    // A load that the card refused leaves what was loaded before.
+    const bool replaced = &card.loadedData() != before;
     if (!card.hasRecord()) {
         mStatusBar->showLoaded({});
-    } else if (!name.isEmpty()) { // else what was loaded before still is
+    } else if (replaced && !name.isEmpty()) {
         mStatusBar->showLoaded(LoadSummary::withCounts(name, card));
     }
     mStatusBar->showNotice(card.lastError());

@@ -180,6 +180,14 @@ TEST_F(DialogMainTest, SaysWhyALoadWasRefusedAndGoesOn)
     program.card.setMemoryLimit(0);
     ASSERT_TRUE(loadCycle(1));
     EXPECT_EQ(notice(), QString());
+
+    // A record that is loaded stays, and so does its name.
+    const QString name = loaded();
+    program.card.setMemoryLimit(1000);
+    cycles().setCurrentItem(cycles().topLevelItem(0));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !notice().isEmpty(); }, kLoadMs));
+    EXPECT_EQ(loaded(), name);
+    EXPECT_TRUE(action(eActionExportCsv).isEnabled());
 }
 
 TEST_F(DialogMainTest, ShowsProgressThatOthersReport)
