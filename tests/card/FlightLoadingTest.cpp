@@ -100,6 +100,15 @@ TEST_F(FlightLoading, AFlightThatIsNotThereLoadsTheWholeCycle)
     }
 }
 
+TEST_F(FlightLoading, ARefusedLoadChoosesNoFlightInTheOldData)
+{
+    mCard.loadCycle(1, -1);
+    mCard.setMemoryLimit(1);
+    EXPECT_EQ(mCard.loadCycle(1, 0), 1);
+    EXPECT_FALSE(mCard.lastError().isEmpty());
+    EXPECT_EQ(mCard.recordData().entries(kOther).size(), 601U);
+}
+
 TEST_F(FlightLoading, LoadingFilesDropsTheChosenFlight)
 {
     mCard.loadCycle(1, 0);

@@ -151,6 +151,19 @@ TEST_F(FlightPath, FiltersJumpsInTheOrderOfTime)
     EXPECT_NEAR(points.back().longitude, 11.0, kDegrees);
 }
 
+TEST_F(FlightPath, KnowsNothingOfTheRecordBefore)
+{
+    for (int i = 0; i < 6; ++i) {
+        position(i, -20.0, 80.0);
+    }
+    path();
+    mRecord = RecordBuilder();
+    position(0, 48.0, 11.0);
+    ASSERT_EQ(path().size(), 1U);
+    EXPECT_NEAR(path().front().latitude, 48.0, kDegrees);
+    EXPECT_NEAR(path().front().longitude, 11.0, kDegrees);
+}
+
 TEST_F(FlightPath, IsEmptyWithoutPositions)
 {
     EXPECT_TRUE(path().empty());

@@ -83,12 +83,12 @@ TEST_F(FlightStatistics, SumsUpATowFlight)
 
 TEST_F(FlightStatistics, OnlySamplesInsideTheSpanCount)
 {
-    add(eAlt, {{69.9, 5}, {70, 100}, {130, 200}, {230, 150}, {230.1, 900}});
+    add(eAlt, {{69.9, 5}, {70, 100}, {130, 200}, {230, 250}, {230.1, 900}});
     add(eSpeed, {{69, 500}, {70, 10}, {231, 500}});
     add(eFuelFlowA, {{60, 3600}, {70, 3600}, {71, 3600}, {231, 3600}});
     const FlightStatistic s = statistic(100, 200);
     EXPECT_EQ(s.minAlt, 100.0);
-    EXPECT_EQ(s.maxAlt, 200.0);
+    EXPECT_EQ(s.maxAlt, 250.0) << "boundaries included";
     EXPECT_EQ(s.maxSpeed, 10.0);
     EXPECT_NEAR(s.fuelA, 1.0, 1e-12) << "the first sample only sets the time";
 }

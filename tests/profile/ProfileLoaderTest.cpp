@@ -105,7 +105,7 @@ TEST(ProfileLoader, NamesResolveOnlyAgainstWhatStandsAbove)
     ASSERT_TRUE(ProfileBuilder::loadText(profile, document(R"(
         <Device name='D'><Parameter id='1' enumId='E' thresholdId='T' unitMetric='m'
             unitImperial='ft' dataType='FLOAT' startByte='4'/></Device>
-        <EnumList><Enum name='E'/></EnumList><EnumList><Enum name='E'/></EnumList>
+        <EnumList><Enum name='E'/><Enum name='E'><Value val='1' label='later'/></Enum></EnumList>
         <ThresholdList><Threshold name='T'/></ThresholdList>
         <UnitConversions><Unit unitMetric='m' unitImperial='ft' offset='7'/></UnitConversions>
         <Device name='D'><Parameter id='2' enumId='E' thresholdId='T'/></Device>)")));
@@ -113,7 +113,9 @@ TEST(ProfileLoader, NamesResolveOnlyAgainstWhatStandsAbove)
     ASSERT_EQ(devices.size(), 2U) << "devices of one name stay apart, in file order";
     EXPECT_EQ(devices[0].parameters.at(1).enumId, 0);
     EXPECT_EQ(devices[0].parameters.at(1).thresholdId, 0);
-    EXPECT_GT(devices[1].parameters.at(2).enumId, 0);
+    ASSERT_NE(profile.enumeration(devices[1].parameters.at(2)), nullptr);
+    EXPECT_EQ(profile.enumeration(devices[1].parameters.at(2))->values.size(), 1U)
+        << "of two of one name the later one";
     EXPECT_GT(devices[1].parameters.at(2).thresholdId, 0);
 
     // Conversions are looked up by their text when a value is shown, wherever they stand; one
