@@ -111,14 +111,13 @@ void CardContainer::calcCycles()
     }
 }
 
-bool CardContainer::fitsMemory(const std::list<QString>& names)
+bool CardContainer::fitsMemory(const std::list<QString>& names, std::uint64_t limit)
 {
     std::uint64_t entries = 0;
     for (const QString& path : names) {
         const auto found = mRecordFiles.find(name(path));
         entries += found == mRecordFiles.end() ? 0 : found->second.recordInfo().sampleCount;
     }
-    const std::uint64_t limit = mMemoryLimit != 0 ? mMemoryLimit : freeMemory() / 2;
     if (limit == 0 || entries * kBytesPerEntry <= limit) {
         return true;
     }
@@ -139,7 +138,8 @@ int CardContainer::loadFiles(const std::list<QString>& names)
 CardContainer::ELoad CardContainer::load(const std::list<QString>& names)
 {
     mLastError.clear();
-    if (!fitsMemory(names)) {
+    const std::uint64_t limit = mMemoryLimit != 0 ? mMemoryLimit : freeMemory() / 2;
+    if (!fitsMemory(names, limit)) {
         return ELoad::Refused; // what is loaded stays
     }
     mWorking.reset(); // free the old data before the new takes its room
@@ -151,7 +151,7 @@ CardContainer::ELoad CardContainer::load(const std::list<QString>& names)
     bool first = true;
     ELoad result = ELoad::Nothing;
     for (const QString& file : names) {
-        if (loadFile(file, first)) {
+        if (loadFile(file, first, limit)) {
             result = ELoad::Some;
         }
         first = false;
@@ -167,12 +167,12 @@ CardContainer::ELoad CardContainer::load(const std::list<QString>& names)
     return result;
 }
 
-bool CardContainer::loadFile(const QString& path, bool first)
+bool CardContainer::loadFile(const QString& path, bool first, std::uint64_t memoryLimit)
 {
     RecordFile& file = mRecordFiles[name(path)];
     const RecordInfo listed = file.recordInfo();
     const bool known = !listed.fileName.isEmpty();
-    const bool complete = known && file.readRecordData(*mLoaded);
+    const bool complete = known && file.readRecordData(*mLoaded, memoryLimit);
     file.setRecordInfo(listed); // the listing keeps the times of the file as a whole
     Diagnostics::print("load Files <%s>\n", path.toUtf8().constData());
     if (first) {

@@ -92,10 +92,10 @@ public:
 private:
     void listFiles(const QString& path);
     void repairDates();
-    bool fitsMemory(const std::list<QString>& names);
+    bool fitsMemory(const std::list<QString>& names, std::uint64_t limit);
     enum class ELoad { Refused, Nothing, Some };
     ELoad load(const std::list<QString>& names);
-    bool loadFile(const QString& path, bool first);
+    bool loadFile(const QString& path, bool first, std::uint64_t memoryLimit);
     void calcIndex();
 
     Profile& mProfile;

@@ -34,6 +34,7 @@ void* ChunkArena::allocate(std::size_t bytes)
     }
     void* memory = mNext;
     mNext += needed;
+    mUsed += needed;
     return memory;
 }
 

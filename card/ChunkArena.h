@@ -22,6 +22,8 @@ public:
         return static_cast<T*>(allocate(count * sizeof(T)));
     }
 
+    std::size_t used() const { return mUsed; } ///< bytes given out
+
 private:
     struct Free
     {
@@ -33,6 +35,7 @@ private:
     std::byte* mNext = nullptr;
     std::byte* mEnd = nullptr;
     std::size_t mBlockSize = 0;
+    std::size_t mUsed = 0;
 };
 
 } // namespace VELIX

@@ -21,6 +21,11 @@ public:
     enum class Kind { Owning, View };
 
     explicit EntryList(Kind kind = Kind::Owning) : mKind(kind) {}
+    EntryList(const EntryList&) = delete; // two lists would append into one chunk
+    EntryList& operator=(const EntryList&) = delete;
+    EntryList(EntryList&&) = default;
+    EntryList& operator=(EntryList&&) = default;
+    ~EntryList() = default;
 
     std::size_t size() const { return mSize; }
     bool empty() const { return mSize == 0; }
@@ -29,7 +34,7 @@ public:
     const RecordEntry& back() const { return (*this)[mSize - 1]; }
 
     /// Whether no entry is earlier than the one before it.
-    bool isSorted() const { return mSortedSize == mSize; }
+    bool isSorted() const { return mSorted; }
 
     /// Position of the first entry at or after a time (seconds); size() if there is none.
     /// The answer is that of a scan from the front, also for entries out of order.
@@ -50,12 +55,13 @@ public:
     Iterator end() const;
 
 private:
-    // Chunks hold 16, 32, ... 4096 entries and from then on always 4096: small lists stay small,
+    // Chunks hold 4, 8, ... 4096 entries and from then on always 4096: small lists stay small,
     // large ones waste little, and a position needs no search.
-    static constexpr std::size_t kFirst = 16;
+    static constexpr std::size_t kFirst = 4;
     static constexpr std::size_t kLargest = 4096;
-    static constexpr std::size_t kGrowing = 8; ///< chunks before the first of 4096
+    static constexpr std::size_t kGrowing = 10; ///< chunks before the first of 4096
     static constexpr std::size_t kGrowingSize = kLargest - kFirst;
+    static constexpr std::size_t kBlock = 16; ///< entries that a look-up by time walks over
 
     struct Place
     {
@@ -76,19 +82,21 @@ private:
     template <class T>
     T* slot(ChunkArena& arena);
     void noteTime(double time);
-    template <class Less>
-    std::size_t firstWhere(Less isBefore) const;
+    template <class Before>
+    std::size_t blockOf(double time, Before isBefore) const;
+    template <class Before>
+    std::size_t firstWhere(double time, Before isBefore) const;
 
     Kind mKind;
     std::size_t mSize = 0;
     std::vector<void*> mChunks;
     std::byte* mNext = nullptr; ///< where the next element goes
     std::byte* mChunkEnd = nullptr;
-    double mLatest = 0.0;        ///< greatest time so far, seconds
-    std::size_t mSortedSize = 0; ///< length of the part from the front that is in time order
-    /// Behind that part: positions of the entries later than everything before them. The first
-    /// entry at or after a time is always one of these or lies in the ordered part.
-    std::vector<std::uint32_t> mPeaks;
+    double mLatest = 0.0; ///< greatest time so far, seconds
+    bool mSorted = true;
+    /// Of each block of kBlock entries: the greatest time before it. It never falls, also for
+    /// entries out of order, and is small enough to be searched within the processor's cache.
+    std::vector<double> mLatestBefore;
 };
 
 /// Forward iterator that walks chunk by chunk.
@@ -148,14 +156,13 @@ T* EntryList::slot(ChunkArena& arena)
 
 inline void EntryList::noteTime(double time)
 {
-    const bool ordered = mSize == 0 || time >= mLatest;
-    if (mSortedSize == mSize && ordered) {
-        ++mSortedSize;
-    } else if (time > mLatest) {
-        mPeaks.push_back(static_cast<std::uint32_t>(mSize));
+    if (mSize % kBlock == 0) {
+        mLatestBefore.push_back(mLatest);
     }
-    if (ordered) {
+    if (mSize == 0 || time >= mLatest) {
         mLatest = time;
+    } else {
+        mSorted = false;
     }
     ++mSize;
 }

@@ -41,13 +41,20 @@ void FlightStatisticCalculator::walk(const char* role, const RecordFlight& fligh
                                      const std::function<bool(double, double)>& visit)
 {
     const ProfileParameter p = mProfile.getParameterFromVelixType(QString::fromLatin1(role));
-    for (const RecordEntry* entry :
-         mRecord.entries(static_cast<std::uint32_t>(p.id)).sortedByTime()) {
-        if (entry->time > flight.stopTime) {
-            return;
+    const EntryList& entries = mRecord.entries(static_cast<std::uint32_t>(p.id));
+    const auto goesOn = [&](const RecordEntry& entry) {
+        return entry.time <= flight.stopTime &&
+               visit(entry.time, mProfile.getDouble(entry, p, true));
+    };
+    if (entries.isSorted()) {
+        std::size_t i = entries.firstAtOrAfter(flight.startTime);
+        while (i < entries.size() && goesOn(entries[i])) {
+            ++i;
         }
-        if (entry->time >= flight.startTime &&
-            !visit(entry->time, mProfile.getDouble(*entry, p, true))) {
+        return;
+    }
+    for (const RecordEntry* entry : entries.sortedByTime()) {
+        if (entry->time >= flight.startTime && !goesOn(*entry)) {
             return;
         }
     }

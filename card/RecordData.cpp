@@ -89,6 +89,12 @@ void RecordData::finish(double indexStop)
     }
 }
 
+std::size_t RecordData::memory() const
+{
+    constexpr std::size_t kNode = 128; // of the map and of what the list keeps elsewhere
+    return mArena.used() + mIds.size() * (sizeof(IdMap::value_type) + kNode);
+}
+
 void RecordData::clear()
 {
     mIds.clear();

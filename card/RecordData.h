@@ -43,6 +43,9 @@ public:
     /// To be called after the last append: what is derived from all entries (`last` of each list,
     /// the seconds that look-ups cover for a stop time in seconds).
     void finish(double indexStop);
+    /// Bytes of memory that the entries and their lists take, roughly. Damaged files can give every
+    /// entry an identifier of its own, whose list takes more than the entry.
+    std::size_t memory() const;
     /// Forgets entries, events and the chosen flight.
     void clear();
 

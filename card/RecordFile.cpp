@@ -126,7 +126,7 @@ bool RecordFile::readRecordInfo(const QString& path)
     return true;
 }
 
-bool RecordFile::readRecordData(RecordData& data)
+bool RecordFile::readRecordData(RecordData& data, std::uint64_t memoryLimit)
 {
     RecordFieldReader in(QFile::encodeName(mInfo.fileName).constData());
     if (!in.isOpen()) {
@@ -137,7 +137,7 @@ bool RecordFile::readRecordData(RecordData& data)
     mCount = wholeEntries(in.size());
     mInfo.sampleCount = shownCount(mCount);
     readInfo(in, false);
-    return readData(in, data);
+    return readData(in, data, memoryLimit);
 }
 
 void RecordFile::readInfo(RecordFieldReader& in, bool setTimes)
@@ -179,7 +179,7 @@ void RecordFile::readInfo(RecordFieldReader& in, bool setTimes)
 
 // Decoded block by block while the bytes are in the processor's cache: a buffer for the whole file
 // would double the memory that a load touches first.
-bool RecordFile::readData(RecordFieldReader& in, RecordData& data)
+bool RecordFile::readData(RecordFieldReader& in, RecordData& data, std::uint64_t memoryLimit)
 try {
     std::vector<std::byte> buffer(static_cast<std::size_t>(std::min(mCount, kBlock) * kEntrySize));
     PercentReport progress(mCount);
@@ -202,6 +202,11 @@ try {
             Diagnostics::print("RecordFile::readRecordData: %s ends after %lld of %lld entries\n",
                                mInfo.fileName.toUtf8().constData(), static_cast<long long>(index),
                                static_cast<long long>(mCount));
+            return false;
+        }
+        if (memoryLimit != 0 && data.memory() > memoryLimit) {
+            Diagnostics::print("RecordFile::readRecordData: %s exceeds the memory limit\n",
+                               mInfo.fileName.toUtf8().constData());
             return false;
         }
     }

@@ -25,11 +25,12 @@ public:
     bool readRecordInfo(const QString& path);
     /// Appends all entries of the file to `data` and widens its and the file's time span. False if
     /// the file cannot be opened (`data` is unchanged) or memory runs out.
-    bool readRecordData(RecordData& data);
+    /// Also false, with the entries so far, once `data` takes more than memoryLimit bytes (0: any).
+    bool readRecordData(RecordData& data, std::uint64_t memoryLimit = 0);
 
 private:
     void readInfo(RecordFieldReader& in, bool setTimes);
-    bool readData(RecordFieldReader& in, RecordData& data);
+    bool readData(RecordFieldReader& in, RecordData& data, std::uint64_t memoryLimit);
 
     RecordInfo mInfo;
     std::int64_t mCount = 0; ///< whole entries in the file

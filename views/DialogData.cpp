@@ -174,7 +174,7 @@ void DialogData::updateRecord()
 {
     mRecord = mCard.hasRecord() ? &mCard.recordData() : nullptr;
     if (mRecord == nullptr) {
-        releaseRecord();
+        closeRecord();
         return;
     }
     mClock.setRecord(mRecord->startTime, mRecord->stopTime);
@@ -192,8 +192,13 @@ void DialogData::updateRecord()
 
 void DialogData::releaseRecord()
 {
-    mRecord = nullptr;
+    mRecord = nullptr; // a running replay waits for the next record
     mRoutes.updateRecord(nullptr);
+}
+
+void DialogData::closeRecord()
+{
+    releaseRecord();
     mReplayTimer.stop();
     mClock.rewind();
     mControls->setRecordOpen(false);
@@ -233,6 +238,9 @@ void DialogData::updateTime()
 
 void DialogData::slotTimeoutReplay()
 {
+    if (mRecord == nullptr) {
+        return;
+    }
     const bool beyondEnd = mClock.tick();
     updateTime();
     if (beyondEnd) {

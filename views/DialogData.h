@@ -71,6 +71,7 @@ private:
     void createSplitter();
     void createControls(bool emuOnly);
 
+    void closeRecord();
     void setCursor(ECursorSource source, double seconds);
     void updateTime();
     void updateDisplay();

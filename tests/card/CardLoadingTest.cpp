@@ -166,6 +166,23 @@ TEST_F(CardLoading, ALoadBeyondTheMemoryLimitIsRefusedAndKeepsWhatIsLoaded)
     EXPECT_EQ(load({"a.CAN", "b.CAN"}), 0) << "the sum counts";
 }
 
+TEST_F(CardLoading, ManyIdentifiersCountAgainstTheMemoryLimitToo)
+{
+    RecordBuilder record;
+    for (std::uint32_t id = 0; id < 100'000; ++id) { // a list takes more than its one entry
+        record.at(id * 0.001).id(id).ucharValue(1);
+    }
+    ASSERT_TRUE(record.write(mFolder.file("noise.CAN")));
+    mCard.readContainer(mFolder.path());
+    mCard.setMemoryLimit(20'000'000);
+    EXPECT_EQ(load({"noise.CAN"}), 1) << "what fits is kept";
+    EXPECT_LT(mCard.recordData().entryCount, 100'000U);
+    EXPECT_FALSE(mCard.lastError().isEmpty());
+    mCard.setMemoryLimit(0);
+    EXPECT_EQ(load({"noise.CAN"}), 1);
+    EXPECT_EQ(mCard.recordData().entryCount, 100'000U);
+}
+
 TEST_F(CardLoading, AZeroLengthFileLoadsAsAnEmptyRecord)
 {
     mFolder.add("c.CAN", QByteArray());

@@ -207,15 +207,29 @@ TEST_F(DialogDataTest, SpeedSliderAndBoxShowTheSameSpeed)
     EXPECT_EQ(find<QDoubleSpinBox>("boxSpeed")->value(), 3.5);
 }
 
-TEST_F(DialogDataTest, ReleasingTheRecordEndsTheReplay)
+TEST_F(DialogDataTest, RunningReplayGoesOnInTheNextRecord)
+{
+    load(100.0, 200.0);
+    QTest::mouseClick(replay(), Qt::LeftButton);
+    load(500.0, 600.0);
+    EXPECT_EQ(replay()->text(), QStringLiteral("Replay Pause"));
+    QTRY_VERIFY(window->cursorTime() > 500.0);
+    EXPECT_LT(window->cursorTime(), 600.0);
+}
+
+TEST_F(DialogDataTest, WithoutARecordTheReplayEnds)
 {
     load(100.0, 200.0);
     QTest::mouseClick(replay(), Qt::LeftButton);
     window->releaseRecord();
+    EXPECT_EQ(window->findChild<QTableWidget*>()->rowCount(), 0);
+    ASSERT_TRUE(RecordBuilder().write(folder.filePath(QStringLiteral("1.CAN"))));
+    ASSERT_TRUE(card.readContainer(folder.path()));
+    card.loadFiles({QStringLiteral("1.CAN")});
+    window->updateRecord();
     EXPECT_EQ(replay()->text(), QStringLiteral("Replay Start"));
     EXPECT_FALSE(replay()->isEnabled());
     EXPECT_EQ(displayed("displayTime"), "--:--:--.---");
-    EXPECT_EQ(window->findChild<QTableWidget*>()->rowCount(), 0);
 }
 
 TEST_F(DialogDataTest, KeysStepAndReplayWhereTheFocusHasNoUseForThem)
