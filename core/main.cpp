@@ -12,6 +12,7 @@
 #include "gui/StyleHandler.h"
 
 #include <QApplication>
+#include <QLocale>
 #include <QSurfaceFormat>
 #include <QTextCodec>
 #include <QTranslator>
@@ -85,6 +86,14 @@ void installTranslation(QTranslator& translator, const char* label, const QStrin
     }
 }
 
+/// Numbers in windows are written as the chosen language does it, not as the desktop's does.
+void useLanguageOfSettings()
+{
+    const std::string locale = Property::instance().getString("Locale", "us");
+    QLocale::setDefault(locale == "de" ? QLocale(QLocale::German, QLocale::Germany)
+                                       : QLocale(QLocale::English, QLocale::UnitedStates));
+}
+
 void loadStyle(QApplication& application)
 {
     std::string path;
@@ -115,6 +124,7 @@ int main(int argc, char** argv)
     kernel.setApplication(&application);
 
     loadSettings();
+    useLanguageOfSettings();
     QTranslator toolkitTexts;
     installTranslation(toolkitTexts, "QT", QStringLiteral("qt_"));
     QTranslator velixTexts;
