@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/tessel/LineProgram.h"
+#include "platform/tessel/VertexBuffer.h"
+
+namespace Tessel::OpenGL {
+
+/// Separate lines of one colour and width, such as a grid. The context rule of VertexBuffer holds.
+class Lines
+{
+public:
+    void addLine(float x1, float y1, float x2, float y2);
+    void clear() { mVertices.clear(); }
+
+    void setColor(const Color& color) { mColor = color; }
+    /// In pixels of the frame buffer.
+    void setWidth(float pixels) { mWidth = pixels; }
+    /// Smooth edges by blending; needless, and slow in software, on a multisampled frame buffer.
+    void setAntiAliasing(bool on) { mAntiAliasing = on; }
+
+    void render(LineProgram& program, const MatrixSet& matrices);
+    void release() { mVertices.release(); }
+
+private:
+    VertexBuffer mVertices;
+    Color mColor;
+    float mWidth = 1.0F;
+    bool mAntiAliasing = false;
+};
+
+} // namespace Tessel::OpenGL
