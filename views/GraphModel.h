@@ -1,0 +1,302 @@
+#pragma once
+
+#include "views/GraphTimeRange.h"
+#include "views/GraphTrace.h"
+#include "views/GraphYScale.h"
+
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace VELIX {
+
+/// All that a graph shows, without the showing: its traces, the visible range, cursor, markers and
+/// modes, and the rules by which they change. Graph widgets add drawing, timers and signals.
+///
+/// Times are seconds. Trace numbers beyond count() are ignored everywhere, as are times and limits
+/// that are not finite. Feeding: setTime(t), then putValue(i, value, hold) for every trace i with a
+/// sample at that time.
+class GraphModel
+{
+public:
+    enum eCursorMode : int {
+        CursorFloating = 0, ///< the cursor moves through the visible range
+        CursorCentre = 1,   ///< the visible range follows, the cursor stays in its middle
+        CursorEnd = 2       ///< the visible range follows, the cursor stays at its end
+    };
+    enum eGraphMode : int {
+        GraphManual = 0,
+        GraphAutomatic = 1 ///< the visible range ends at the current time
+    };
+    enum eDisplayMode : int {
+        DisplaySingle = 0, ///< all traces on one Y scale
+        DisplaySplit =
+            1 ///< each trace in a band with a scale of its own; so does any other value but 0
+    };
+
+    /// Red, green, blue, each 0 to 1.
+    using Colour = std::array<float, 3>;
+
+    /// A trace and how it is shown.
+    struct ParStruct
+    {
+        GraphTrace trace;
+        QString name = QStringLiteral("NoName");
+        QString unit = QStringLiteral("-"); ///< shown with the values
+        Colour colour = {1.0F, 0.0F, 0.0F};
+        QString colourKey;    ///< "GraphColor%d" of the trace number
+        int precision = 2;    ///< decimals of the readout
+        bool active = false;  ///< has a place in the graph and the legend
+        bool visible = true;  ///< false: hidden for the moment, with its place in the legend kept
+        bool samples = false; ///< draw the sample points
+        GraphYScale yScale;   ///< the trace's own scale, kept by calcFrame()
+        std::uint64_t newAt = 0; ///< internal: see GraphModel::hasNewValue
+    };
+
+    /// A labelled triangle at the upper edge of the plot.
+    struct TopMarker
+    {
+        unsigned int number = 0;
+        double time = 0.0; ///< seconds
+    };
+
+    static constexpr double secondsPerDay = 86400.0;
+    /// Number of the trace that stands for "none".
+    static constexpr unsigned int noTrace = ~0U;
+
+    GraphModel();
+
+    // --- traces
+
+    /// Makes @p count fresh traces; those that there were are forgotten.
+    void setMaxParameters(unsigned int count);
+    [[nodiscard]] unsigned int count() const
+    {
+        return static_cast<unsigned int>(mParameters.size());
+    }
+    /// @pre i < count()
+    [[nodiscard]] const ParStruct& parameter(unsigned int i) const { return mParameters[i]; }
+    void setParameterName(unsigned int i, const std::string& name);
+    void setParameterUnit(unsigned int i, const std::string& unit);
+    void setParameterColor(unsigned int i, float red, float green, float blue);
+    void setPrecision(unsigned int i, int decimals);
+    void setActive(unsigned int i, bool active);
+    void setVisible(unsigned int i, bool visible);
+    void activateSamples(unsigned int i, bool on);
+    [[nodiscard]] unsigned int nrActive() const;
+    /// Whether the trace is active and not hidden.
+    [[nodiscard]] bool isShown(unsigned int i) const;
+    /// Whether a shown trace has a sample.
+    [[nodiscard]] bool hasShownSamples() const;
+
+    /// The numbers of all traces in the order of display, from top to bottom.
+    [[nodiscard]] const std::vector<unsigned int>& displayOrder() const { return mDisplayOrder; }
+    /// Moves the trace at place @p from of the order of display to place @p to. Its number stays.
+    void moveParameter(unsigned int from, unsigned int to);
+
+    /// The trace that the cursor's Y value and the average refer to; noTrace without an active
+    /// trace. While none was selected, or the selected one is not shown any more, the first shown
+    /// trace is.
+    [[nodiscard]] unsigned int selectedTrace() const;
+    void setSelectedTrace(unsigned int i);
+
+    // --- feeding
+
+    /// The current time, limited to 0..86400. Moves the visible range in automatic mode, allows
+    /// samples, and rebuilds the frames if that is pending.
+    void setTime(double t);
+    [[nodiscard]] double currentTime() const { return mCurrentTime; }
+    /// A sample of trace @p i at the current time; ignored before the first setTime() after
+    /// construction or clear().
+    /// @param hold true: the last value repeated, false: a recorded sample
+    void putValue(unsigned int i, double value, bool hold);
+    /// Whether the trace got a value since the last setTime().
+    [[nodiscard]] bool hasNewValue(unsigned int i) const;
+    /// Drops all samples, frames and top markers. Appearance, modes and range stay.
+    void clear();
+    /// Returns range, Y range, modes, cursor, markers and autoscale to their defaults. Traces stay.
+    void reset();
+
+    // --- values
+
+    /// See GraphTrace::getValue. A gap gives true and a value that is not finite.
+    [[nodiscard]] bool getValue(unsigned int i, double t, double& v) const;
+    /// Times of the first and the latest sample; false and 0, 0 without samples.
+    bool getParameterRangeX(unsigned int i, double& first, double& last) const;
+    /// The lowest and the highest value; false and 0, 0 without finite samples.
+    bool getParameterRangeY(unsigned int i, double& low, double& high) const;
+    /// Mean of the selected trace's samples in the visible range; 0 when there are none.
+    [[nodiscard]] double getCurrentAverageValue() const;
+    /// Minimum, maximum and average between the markers, or in the visible range when they
+    /// coincide.
+    [[nodiscard]] GraphTrace::Statistics markerStatistics(unsigned int i) const;
+    /// Time of the earliest and of the latest sample of all traces, as of the last calcFrame();
+    /// false without samples.
+    bool dataExtent(double& first, double& last) const;
+
+    // --- the visible range
+
+    [[nodiscard]] const GraphTimeRange& range() const { return mRange; }
+    [[nodiscard]] double xmin() const { return mRange.xmin(); }
+    [[nodiscard]] double xmax() const { return mRange.xmax(); }
+    void setXmin(double xmin);
+    void setXmax(double xmax);
+    /// Sets both ends and rebuilds the frames once. Does not touch the modes.
+    void setRange(const GraphTimeRange& range);
+    /// Moves xmin and keeps the width.
+    void setT0(double t0);
+    /// Sets the width: from xmax in automatic mode, else from xmin. Starts the recomputation and
+    /// rebuilds once at once.
+    void setXrange(double width);
+    /// Shows what lies between the markers, at least 1e-6 s, in manual mode. Rebuilds as
+    /// setXrange() does.
+    void zoomToMarker();
+    /// A wheel step about the time @p pivot: @p in narrows the range to 0.9 of its width, else the
+    /// reverse. Starts the recomputation unless it runs, and rebuilds the frames.
+    void zoomStep(double pivot, bool in);
+    /// Moves the range that was visible when a drag began by @p seconds, in manual mode, and
+    /// rebuilds the frames.
+    void pan(const GraphTimeRange& atPress, double seconds);
+    /// Whether the current time is visible.
+    [[nodiscard]] bool inRange() const { return mRange.contains(mCurrentTime); }
+
+    /// Width of the plot in pixels, at least 1; 10 until it is set. Does not rebuild the frames:
+    /// call startRecalc().
+    void setPlotWidth(int pixels);
+    [[nodiscard]] int plotWidth() const { return mPlotWidth; }
+    [[nodiscard]] double secondsPerPixel() const;
+    /// Time at a pixel column, counted from the left edge of the plot, and the reverse.
+    [[nodiscard]] double timeAt(double pixel) const;
+    [[nodiscard]] double pixelAt(double time) const;
+
+    // --- frames
+
+    /// Rebuilds the frames of every active trace for the visible range and width.
+    void recalcFrameBuffer();
+    /// Prepares drawing: scales, extent of the data, and in automatic mode (unless offline) the
+    /// repetition of the last values at the current time.
+    void calcFrame();
+    /// The one scale of all shown traces in single mode, as of the last calcFrame().
+    [[nodiscard]] const GraphYScale& commonScale() const { return mCommonScale; }
+    /// The scale by which trace @p i is drawn in the display mode in force.
+    [[nodiscard]] const GraphYScale& scaleOf(unsigned int i) const;
+
+    /// One change of range or size is followed by four recomputations, recalcInterval apart, so
+    /// that the widget's final size and range are caught. startRecalc() arms them; the owner's
+    /// timer calls stepRecalc() each time.
+    static constexpr int recalcIntervalMs = 50;
+    void startRecalc();
+    /// Rebuilds the frames. @return whether the timer is to be started again
+    bool stepRecalc();
+    /// Whether a step is still to come.
+    [[nodiscard]] bool recalcRunning() const { return mRecalcRunning; }
+    [[nodiscard]] int recalcCountdown() const { return mRecalcCountdown; }
+
+    /// Changes with everything that can be seen, so that a widget repaints only when there is
+    /// something new.
+    [[nodiscard]] std::uint64_t revision() const { return mRevision; }
+    /// Whether the traces have moved on enough (0.7 pixels) for a new picture, @p elapsed seconds
+    /// after the last one.
+    [[nodiscard]] bool repaintDue(double elapsed) const
+    {
+        return elapsed > 0.7 * secondsPerPixel();
+    }
+
+    // --- cursor and markers
+
+    [[nodiscard]] double cursorTime() const { return mCursorTime; }
+    [[nodiscard]] double cursorValue() const { return mCursorValue; }
+    /// Stores the cursor and moves the range as the cursor mode says, rebuilding the frames if it
+    /// moved.
+    void setCursorPosition(double x);
+    /// The cursor's Y value, in the unit of the selected trace.
+    void setCursorValue(double y);
+
+    [[nodiscard]] double marker1() const { return mMarker1; }
+    [[nodiscard]] double marker2() const { return mMarker2; }
+    void setMarker(double marker1, double marker2);
+    /// Moves the nearer marker: marker 1 for a time left of the midpoint of both, else marker 2.
+    void setNearerMarker(double time);
+    /// Swaps the markers if marker 1 lies behind marker 2.
+    void sortMarkers();
+    [[nodiscard]] double markerDistance() const { return mMarker2 - mMarker1; }
+    void addTopMarker(unsigned int number, double time);
+    [[nodiscard]] const std::vector<TopMarker>& topMarkers() const { return mTopMarkers; }
+
+    // --- modes and look
+
+    [[nodiscard]] eCursorMode cursorMode() const { return mCursorMode; }
+    void setCursorMode(eCursorMode mode);
+    [[nodiscard]] eGraphMode graphMode() const { return mGraphMode; }
+    /// Also marks the frames for recomputation at the next setTime().
+    void setGraphMode(eGraphMode mode);
+    [[nodiscard]] eDisplayMode displayMode() const { return mDisplayMode; }
+    void setDisplayMode(eDisplayMode mode);
+    /// Offline: last values are not repeated at the current time.
+    void setOfflineMode(bool on);
+    [[nodiscard]] bool offlineMode() const { return mOffline; }
+
+    void setAutoScaleY(bool on);
+    [[nodiscard]] bool autoScaleY() const { return mAutoScaleY; }
+    /// Margin of the automatic scale as a fraction of the values' distance; 0.1 by default,
+    /// negative is ignored.
+    void setAutoScaleYSpread(double spread);
+    /// Fixes the scale at Ymin..Ymax even while autoscale is on.
+    void setYRangeOn(bool on);
+    [[nodiscard]] bool getYRangeOn() const { return mYRangeOn; }
+    void setYRange(double ymin, double ymax);
+    void setYmin(double ymin);
+    void setYmax(double ymax);
+    [[nodiscard]] double ymin() const { return mYmin; }
+    [[nodiscard]] double ymax() const { return mYmax; }
+
+private:
+    [[nodiscard]] ParStruct* find(unsigned int i);
+    void followCurrentTime();
+    void followCursor();
+    void repeatHeldValues();
+    void updateScales();
+    void updateExtent();
+    void rangeChanged();
+    void touch() { ++mRevision; }
+
+    std::vector<ParStruct> mParameters;
+    std::vector<unsigned int> mDisplayOrder;
+    unsigned int mSelected = noTrace;
+
+    GraphTimeRange mRange;
+    int mPlotWidth = 10;
+    double mCurrentTime = 0.0;
+    std::uint64_t mTimeStep = 0;
+    bool mSampling = false;
+    bool mRecalcPending = false;
+    bool mRecalcRunning = false;
+    int mRecalcCountdown = -1;
+    std::uint64_t mRevision = 0;
+
+    double mCursorTime = 0.0;
+    double mCursorValue = 0.0;
+    double mMarker1 = 0.0;
+    double mMarker2 = 0.0;
+    std::vector<TopMarker> mTopMarkers;
+
+    eCursorMode mCursorMode = CursorFloating;
+    eGraphMode mGraphMode = GraphManual;
+    eDisplayMode mDisplayMode = DisplaySingle;
+    bool mOffline = false;
+
+    bool mAutoScaleY = false;
+    double mSpread = GraphYScale::defaultSpread;
+    bool mYRangeOn = false;
+    double mYmin = -0.5;
+    double mYmax = 1.5;
+    GraphYScale mCommonScale;
+    bool mHasExtent = false;
+    double mExtentFirst = 0.0;
+    double mExtentLast = 0.0;
+};
+
+} // namespace VELIX
