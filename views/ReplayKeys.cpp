@@ -47,8 +47,11 @@ void ReplayKeys::setEnabled(bool enabled)
 bool ReplayKeys::usesSpace(const QWidget* widget)
 {
     if (const auto* list = qobject_cast<const QAbstractItemView*>(widget)) {
-        const Qt::ItemFlags flags = list->currentIndex().flags();
-        const bool checks = flags.testFlag(Qt::ItemIsUserCheckable);
+        const QModelIndex current = list->currentIndex();
+        const Qt::ItemFlags flags = current.flags();
+        // Items may be checked unless told otherwise; only those with a state have a box.
+        const bool checks =
+            flags.testFlag(Qt::ItemIsUserCheckable) && current.data(Qt::CheckStateRole).isValid();
         const bool edits = flags.testFlag(Qt::ItemIsEditable) &&
                            list->editTriggers() != QAbstractItemView::NoEditTriggers;
         return checks || edits;
