@@ -4,6 +4,7 @@
 #include "gui/CopyFilter.h"
 #include "gui/WidgetHint.h"
 #include "profile/Profile.h"
+#include "views/ColumnWidth.h"
 #include "views/ThresholdDelegate.h"
 
 #include <QEvent>
@@ -25,9 +26,6 @@ constexpr int kLeastRowHeight = 22;
 constexpr int kRowMargin = 6;
 constexpr int kCellMargin = 16;
 constexpr int kBold = 75;
-
-/// Rows whose texts decide how wide a column becomes. All 36,000 of an hour would take seconds.
-constexpr int kMeasuredRows = 24;
 
 } // namespace
 
@@ -295,25 +293,15 @@ void DialogDataTable::fitRows()
 
 void DialogDataTable::fitColumns()
 {
-    for (int column = 0; column < mTable->columnCount(); ++column) {
-        const int heading = mTable->horizontalHeader()->sectionSizeHint(column);
-        mTable->setColumnWidth(column, std::max(heading, textWidth(column) + kCellMargin));
-    }
-}
-
-/// Width of the widest text in a sample of rows.
-int DialogDataTable::textWidth(int column) const
-{
     const QFontMetrics metrics = mTable->fontMetrics();
-    const int rows = mTable->rowCount();
-    int width = 0;
-    for (int i = 0; i < std::min(rows, kMeasuredRows); ++i) {
-        const auto row = static_cast<int>(std::int64_t{i} * rows / std::min(rows, kMeasuredRows));
-        if (const QTableWidgetItem* item = mTable->item(row, column)) {
-            width = std::max(width, metrics.horizontalAdvance(item->text()));
+    for (int column = 0; column < mTable->columnCount(); ++column) {
+        int text = widestText(*mTable, column);
+        if (mMode == 0 && column > 0) {
+            text = std::max(text, widestLabel(mProfile, mColumns[column - 1]->parameter, metrics));
         }
+        const int heading = mTable->horizontalHeader()->sectionSizeHint(column);
+        mTable->setColumnWidth(column, std::max(heading, text + kCellMargin));
     }
-    return width;
 }
 
 void DialogDataTable::changeEvent(QEvent* event)

@@ -67,7 +67,6 @@ private:
     void fillCoordinates(int column, const TableColumn& context, const EntryList& entries);
     void fitRows();
     void fitColumns();
-    int textWidth(int column) const;
     void centreRow();
     void updateHint();
     const EntryList& entriesOf(const TableColumn& column) const;

@@ -3,6 +3,7 @@
 #include "gui/ImageHandler.h"
 #include "gui/Palette.h"
 #include "views/CursorTime.h"
+#include "views/PositionSlider.h"
 
 #include <QDateTime>
 #include <QDoubleSpinBox>
@@ -159,7 +160,7 @@ void ReplayControls::createButtons()
 
 void ReplayControls::createSliders()
 {
-    mPositionSlider = new QSlider(Qt::Horizontal);
+    mPositionSlider = new PositionSlider;
     mPositionSlider->setObjectName(QStringLiteral("sliderPosition"));
     mPositionSlider->setRange(0, CursorTime::kSliderSteps);
     mPositionSlider->setPageStep(CursorTime::kSliderSteps / 100);

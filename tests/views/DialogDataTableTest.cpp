@@ -24,6 +24,7 @@ using Test::RecordBuilder;
 constexpr int kOil = 500;
 constexpr int kSpeed = 501;
 constexpr int kLatitude = 502;
+constexpr int kLamp = 503;
 
 struct DialogDataTableTest : ::testing::Test
 {
@@ -180,6 +181,28 @@ TEST_F(DialogDataTableTest, TheCursorSelectsAndCentresItsRowInSilence)
     const QRect cell = table()->visualItemRect(table()->item(122, 0));
     EXPECT_NEAR(cell.center().y(), table()->viewport()->rect().center().y(), 2);
     EXPECT_EQ(moved.count(), 0);
+}
+
+TEST_F(DialogDataTableTest, ColumnsHoldTheTextsOfSlowParametersAndRareStates)
+{
+    builder.enumeration("Lamp", {{0, "Off"}, {1, "On because of an overheated gearbox"}});
+    builder.device("Lane B").parameter(kLamp, QStringLiteral("Lamp"), "BLONG");
+    builder.set("enumId", "Lamp").set("startBit", "0").set("endBit", "0");
+    ASSERT_TRUE(builder.load(profile));
+    select({kOil, kSpeed, kLamp});
+    RecordBuilder record;
+    for (int i = 0; i < 960; ++i) { // 24 x 40 rows, the slow ones never at a multiple of 40
+        record.at(i * 0.1).id(kSpeed).ushortValue(1);
+        if (i % 40 == 7) {
+            record.id(kOil).floatValue(-123456.0F).id(kLamp).blongValue(i == 487 ? 1 : 0);
+        }
+    }
+    show(record);
+    const QFontMetrics metrics = table()->fontMetrics();
+    for (const int column : {1, 3}) {
+        const QString text = table()->item(487, column)->text();
+        EXPECT_GT(table()->columnWidth(column), metrics.horizontalAdvance(text)) << column;
+    }
 }
 
 TEST_F(DialogDataTableTest, FollowingTheCursorKeepsTheColumnsInSight)

@@ -274,6 +274,18 @@ TEST_F(DialogDataTest, WidgetsThatUseTheSpaceBarKeepIt)
     EXPECT_FALSE(ReplayKeys::usesSpace(nullptr));
 }
 
+TEST_F(DialogDataTest, AClickOnThePositionSliderGoesThere)
+{
+    load(100.0, 200.0);
+    auto* slider = find<QSlider>("sliderPosition");
+    const double pixel = 100.0 / slider->width();
+    for (const double part : {0.75, 0.25}) {
+        const QPoint at(static_cast<int>(slider->width() * part), slider->height() / 2);
+        QTest::mouseClick(slider, Qt::LeftButton, Qt::NoModifier, at);
+        EXPECT_NEAR(window->cursorTime(), 100.0 + 100.0 * part, 10.0 * pixel);
+    }
+}
+
 TEST_F(DialogDataTest, MapButtonsDivideTheSpace)
 {
     auto* splitter = find<QSplitter>("splitter");
