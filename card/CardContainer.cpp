@@ -218,6 +218,8 @@ int CardContainer::loadCycle(std::uint32_t cycle, int flight)
         mWorking = RecordData::narrowed(mLoaded, chosen.startTime, chosen.stopTime);
         mWorking->flight = chosen;
         calcFlightPath();
+    } else {
+        mWorking->cycleFlights = flights;
     }
     return 1;
 }

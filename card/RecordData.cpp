@@ -108,6 +108,7 @@ void RecordData::clear()
     limits.clear();
     warnings.clear();
     flight = RecordFlight();
+    cycleFlights.clear();
 }
 
 std::shared_ptr<RecordData> RecordData::narrowed(std::shared_ptr<const RecordData> whole,

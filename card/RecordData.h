@@ -62,6 +62,7 @@ public:
     std::vector<RecordLimit> limits;     ///< by time
     std::vector<RecordWarning> warnings; ///< by time
     RecordFlight flight; ///< the chosen flight; its statistic is not valid if none was chosen
+    std::vector<RecordFlight> cycleFlights; ///< of a whole cycle; none for one flight or files
 
 private:
     RecordIdList& recentList(std::uint32_t id);

@@ -68,6 +68,9 @@ TEST_F(FlightLoading, AWholeCycleKeepsAllEntriesAndKnowsItsFlights)
     EXPECT_EQ(mCard.recordData().entries(kOther).size(), 601U);
     EXPECT_EQ(&mCard.recordData(), &mCard.loadedData()) << "shared, not copied";
     EXPECT_FALSE(mCard.recordData().flight.statistic.valid);
+    ASSERT_EQ(mCard.recordData().cycleFlights.size(), 2U);
+    EXPECT_EQ(mCard.recordData().cycleFlights[1].takeoffTime, 411.0);
+    EXPECT_TRUE(mCard.recordData().cycleFlights[1].statistic.valid);
     EXPECT_NE(mOutput.text().find("Flight 81.000000 -> 240.000000 <11:51:52>\n"
                                   "Flight 381.000000 -> 540.000000 <11:56:52>\n"),
               std::string::npos);
@@ -85,6 +88,7 @@ TEST_F(FlightLoading, AChosenFlightNarrowsTheWorkingData)
     EXPECT_EQ(working.stopTime, 540.0);
     EXPECT_TRUE(working.flight.statistic.valid);
     EXPECT_EQ(working.flight.takeoffTime, 411.0);
+    EXPECT_TRUE(working.cycleFlights.empty()) << "the others are not in this data";
     EXPECT_EQ(mCard.startTime(), 0.0);
     EXPECT_EQ(mCard.loadedData().entries(kOther).size(), 601U);
 
@@ -114,6 +118,7 @@ TEST_F(FlightLoading, LoadingFilesDropsTheChosenFlight)
     mCard.loadCycle(1, 0);
     mCard.loadFiles(CardFolder::names({"a.CAN"}));
     EXPECT_FALSE(mCard.recordData().flight.statistic.valid);
+    EXPECT_TRUE(mCard.recordData().cycleFlights.empty());
     EXPECT_EQ(mCard.recordData().entries(kOther).size(), 600U);
 }
 
