@@ -33,8 +33,7 @@ public:
     };
     enum eDisplayMode : int {
         DisplaySingle = 0, ///< all traces on one Y scale
-        DisplaySplit =
-            1 ///< each trace in a band with a scale of its own; so does any other value but 0
+        DisplaySplit = 1   ///< each trace in a band of its own; so does any value but 0
     };
 
     /// Red, green, blue, each 0 to 1.
@@ -63,15 +62,16 @@ public:
         double time = 0.0; ///< seconds
     };
 
-    static constexpr double secondsPerDay = 86400.0;
+    static constexpr double kSecondsPerDay = 86400.0;
     /// Number of the trace that stands for "none".
-    static constexpr unsigned int noTrace = ~0U;
+    static constexpr unsigned int kNoTrace = ~0U;
 
     GraphModel();
 
     // --- traces
 
-    /// Makes @p count fresh traces; those that there were are forgotten.
+    static constexpr unsigned int kMaxTraces = 1000;
+    /// Makes @p count fresh traces, kMaxTraces at most; those that there were are forgotten.
     void setMaxParameters(unsigned int count);
     [[nodiscard]] unsigned int count() const
     {
@@ -97,7 +97,7 @@ public:
     /// Moves the trace at place @p from of the order of display to place @p to. Its number stays.
     void moveParameter(unsigned int from, unsigned int to);
 
-    /// The trace that the cursor's Y value and the average refer to; noTrace without an active
+    /// The trace that the cursor's Y value and the average refer to; kNoTrace without an active
     /// trace. While none was selected, or the selected one is not shown any more, the first shown
     /// trace is.
     [[nodiscard]] unsigned int selectedTrace() const;
@@ -138,33 +138,32 @@ public:
     bool dataExtent(double& first, double& last) const;
 
     // --- the visible range
+    // Changes take effect on the frames at the next calcFrame(), unless said otherwise.
 
     [[nodiscard]] const GraphTimeRange& range() const { return mRange; }
     [[nodiscard]] double xmin() const { return mRange.xmin(); }
     [[nodiscard]] double xmax() const { return mRange.xmax(); }
     void setXmin(double xmin);
     void setXmax(double xmax);
-    /// Sets both ends and rebuilds the frames once. Does not touch the modes.
+    /// Sets both ends. Does not touch the modes.
     void setRange(const GraphTimeRange& range);
     /// Moves xmin and keeps the width.
     void setT0(double t0);
     /// Sets the width: from xmax in automatic mode, else from xmin. Starts the recomputation and
-    /// rebuilds once at once.
+    /// rebuilds the frames at once.
     void setXrange(double width);
     /// Shows what lies between the markers, at least 1e-6 s, in manual mode. Rebuilds as
     /// setXrange() does.
     void zoomToMarker();
     /// A wheel step about the time @p pivot: @p in narrows the range to 0.9 of its width, else the
-    /// reverse. Starts the recomputation unless it runs, and rebuilds the frames.
+    /// reverse. Starts the recomputation unless it runs.
     void zoomStep(double pivot, bool in);
-    /// Moves the range that was visible when a drag began by @p seconds, in manual mode, and
-    /// rebuilds the frames.
+    /// Moves the range that was visible when a drag began by @p seconds, in manual mode.
     void pan(const GraphTimeRange& atPress, double seconds);
     /// Whether the current time is visible.
     [[nodiscard]] bool inRange() const { return mRange.contains(mCurrentTime); }
 
-    /// Width of the plot in pixels, at least 1; 10 until it is set. Does not rebuild the frames:
-    /// call startRecalc().
+    /// Width of the plot in pixels, at least 1; 10 until it is set.
     void setPlotWidth(int pixels);
     [[nodiscard]] int plotWidth() const { return mPlotWidth; }
     [[nodiscard]] double secondsPerPixel() const;
@@ -174,21 +173,24 @@ public:
 
     // --- frames
 
-    /// Rebuilds the frames of every active trace for the visible range and width.
+    /// Rebuilds the frames of every active trace for the visible range and width, at once.
     void recalcFrameBuffer();
-    /// Prepares drawing: scales, extent of the data, and in automatic mode (unless offline) the
-    /// repetition of the last values at the current time.
+    /// Prepares drawing: frames that are out of date, scales, extent of the data, and in automatic
+    /// mode (unless offline) the repetition of the last values at the current time. A trace that
+    /// has samples beyond the current time is left alone.
     void calcFrame();
     /// The one scale of all shown traces in single mode, as of the last calcFrame().
     [[nodiscard]] const GraphYScale& commonScale() const { return mCommonScale; }
     /// The scale by which trace @p i is drawn in the display mode in force.
     [[nodiscard]] const GraphYScale& scaleOf(unsigned int i) const;
 
-    /// One change of range or size is followed by four recomputations, recalcInterval apart, so
-    /// that the widget's final size and range are caught. startRecalc() arms them; the owner's
+    /// One change of range or size is followed by four recomputations, so many milliseconds apart,
+    /// so that the widget's final size and range are caught. startRecalc() arms them; the owner's
     /// timer calls stepRecalc() each time.
-    static constexpr int recalcIntervalMs = 50;
+    static constexpr int kRecalcIntervalMs = 50;
     void startRecalc();
+    /// Arms the timer for a single recomputation, or for what is left of four.
+    void startRecalcTimer() { mRecalcRunning = true; }
     /// Rebuilds the frames. @return whether the timer is to be started again
     bool stepRecalc();
     /// Whether a step is still to come.
@@ -200,17 +202,13 @@ public:
     [[nodiscard]] std::uint64_t revision() const { return mRevision; }
     /// Whether the traces have moved on enough (0.7 pixels) for a new picture, @p elapsed seconds
     /// after the last one.
-    [[nodiscard]] bool repaintDue(double elapsed) const
-    {
-        return elapsed > 0.7 * secondsPerPixel();
-    }
+    [[nodiscard]] bool repaintDue(double elapsed) const;
 
     // --- cursor and markers
 
     [[nodiscard]] double cursorTime() const { return mCursorTime; }
     [[nodiscard]] double cursorValue() const { return mCursorValue; }
-    /// Stores the cursor and moves the range as the cursor mode says, rebuilding the frames if it
-    /// moved.
+    /// Stores the cursor and moves the range as the cursor mode says.
     void setCursorPosition(double x);
     /// The cursor's Y value, in the unit of the selected trace.
     void setCursorValue(double y);
@@ -255,24 +253,24 @@ public:
 
 private:
     [[nodiscard]] ParStruct* find(unsigned int i);
-    void followCurrentTime();
-    void followCursor();
+    void store(ParStruct& parameter, double value, bool hold);
     void repeatHeldValues();
     void updateScales();
     void updateExtent();
-    void rangeChanged();
+    void changeRange(const GraphTimeRange& range);
     void touch() { ++mRevision; }
 
     std::vector<ParStruct> mParameters;
     std::vector<unsigned int> mDisplayOrder;
-    unsigned int mSelected = noTrace;
+    unsigned int mSelected = kNoTrace;
 
     GraphTimeRange mRange;
     int mPlotWidth = 10;
     double mCurrentTime = 0.0;
     std::uint64_t mTimeStep = 0;
     bool mSampling = false;
-    bool mRecalcPending = false;
+    bool mRecalcPending = false; ///< rebuild at the next setTime()
+    bool mFramesStale = false;   ///< rebuild at the next calcFrame()
     bool mRecalcRunning = false;
     int mRecalcCountdown = -1;
     std::uint64_t mRevision = 0;
@@ -288,8 +286,8 @@ private:
     eDisplayMode mDisplayMode = DisplaySingle;
     bool mOffline = false;
 
-    bool mAutoScaleY = false;
-    double mSpread = GraphYScale::defaultSpread;
+    bool mAutoScaleY = true;
+    double mSpread = GraphYScale::kDefaultSpread;
     bool mYRangeOn = false;
     double mYmin = -0.5;
     double mYmax = 1.5;

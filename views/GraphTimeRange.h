@@ -5,13 +5,13 @@ namespace VELIX {
 /// The stretch of time that the graph shows, and what can be done to it. Times are seconds.
 ///
 /// Both ends are kept as they were set, also while they are the wrong way round between two calls
-/// that set one end each; what divides by the width uses span(), which is never below minSpan. Ends
-/// that are not finite are ignored.
+/// that set one end each; what divides by the width uses span(), which is never below kMinSpan.
+/// Ends that are not finite are ignored.
 class GraphTimeRange
 {
 public:
-    static constexpr double minSpan = 1e-6; ///< seconds
-    static constexpr double maxSpan =
+    static constexpr double kMinSpan = 1e-6; ///< seconds
+    static constexpr double kMaxSpan =
         1e9; ///< seconds; keeps endless zooming out within what can be computed
 
     GraphTimeRange() = default;
@@ -29,12 +29,12 @@ public:
     /// Moves the range so that it ends at @p t1.
     void moveEndTo(double t1);
     void centreOn(double time);
-    /// Sets the width in seconds, limited to minSpan..maxSpan, and keeps the start or the end where
-    /// it is.
+    /// Sets the width in seconds, limited to kMinSpan..kMaxSpan, and keeps the start or the end
+    /// where it is.
     void setSpanFromStart(double span);
     void setSpanFromEnd(double span);
     /// Multiplies the distance of both ends from @p pivot by @p factor.
-    /// @return false and no change when the width would leave minSpan..maxSpan
+    /// @return false and no change when the width would leave kMinSpan..kMaxSpan
     bool zoomAbout(double pivot, double factor);
 
     bool operator==(const GraphTimeRange& other) const = default;

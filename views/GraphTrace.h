@@ -56,16 +56,18 @@ public:
     };
 
     /// Most samples that a trace keeps.
-    static constexpr std::size_t maxEntries = 500'000'000;
+    static constexpr std::size_t kMaxEntries = 500'000'000;
 
-    explicit GraphTrace(std::size_t entryLimit = maxEntries);
+    explicit GraphTrace(std::size_t entryLimit = kMaxEntries);
 
     /// Stores a sample and adds it to the frames.
     /// A sample beyond the limit is not kept, but widens the range and reaches the frames like any
     /// other.
     /// @param time finite, in seconds, 0 to 86400 as GraphModel::setTime gives it
     /// @param frameSpan the seconds that one pixel column covers
-    void putValue(double time, double value, bool hold, double frameSpan);
+    /// @param xmax end of the visible range: what lies behind the first frame beyond it gets no
+    /// frames, so that those of a long record do not pile up outside the plot
+    void putValue(double time, double value, bool hold, double frameSpan, double xmax);
 
     /// Sample and hold: the value of the sample before the first one at or after @p t, or of that
     /// one itself when it is the very first. A sample exactly at @p t therefore yields its
@@ -118,7 +120,7 @@ public:
     [[nodiscard]] double lastValue() const { return mLastValue; }
 
 private:
-    /// What whole stretches of blockSize samples have in common, so that long walks can step over
+    /// What whole stretches of kBlockSize samples have in common, so that long walks can step over
     /// them.
     struct Block
     {
@@ -126,17 +128,18 @@ private:
         double latest = 0.0;   ///< largest time, seconds
         double minimum = 0.0;  ///< of the finite samples
         double maximum = 0.0;
-        double sum = 0.0;
+        long double sum = 0.0L; ///< wide enough for sums of the largest doubles
         std::uint32_t finiteCount = 0;
         bool allHold = true;
     };
-    static constexpr std::size_t blockSize = 256;
+    static constexpr std::size_t kBlockSize = 256;
 
     void growSecondIndex(double time);
     void addToBlock(const EntryType& entry);
     void widenRange(double value);
     void addToFrameBuffer(const EntryType& entry, double frameSpan);
-    [[nodiscard]] bool mergeBlock(std::size_t block, double xmax, double frameSpan);
+    [[nodiscard]] bool mergeBlock(std::size_t block, double frameSpan);
+    [[nodiscard]] std::size_t endOfBlock(std::size_t block) const;
 
     std::size_t mEntryLimit;
     std::deque<EntryType> mEntries;

@@ -5,7 +5,7 @@ namespace VELIX {
 /// The values at the bottom and at the top of a Y scale; maximum is always above minimum.
 struct GraphYScale
 {
-    static constexpr double defaultSpread = 0.1;
+    static constexpr double kDefaultSpread = 0.1;
 
     double minimum = -0.5;
     double maximum = 1.5;
@@ -13,7 +13,7 @@ struct GraphYScale
     /// The scale that shows values from @p low to @p high with a margin of @p spread times their
     /// distance at both ends, or of 0.0001 when they lie closer together than 0.001.
     [[nodiscard]] static GraphYScale autoscale(double low, double high,
-                                               double spread = defaultSpread);
+                                               double spread = kDefaultSpread);
 
     /// The scale between two values in any order; equal or nearly equal ones are drawn apart as
     /// autoscale() does.

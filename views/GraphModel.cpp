@@ -1,0 +1,604 @@
+#include "views/GraphModel.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+
+namespace VELIX {
+
+namespace {
+
+constexpr double kZoomFactor = 0.9;
+constexpr double kRepaintPixels = 0.7;
+/// Recomputations that follow the first one after startRecalc().
+constexpr int kMoreRecalcs = 3;
+
+constexpr std::array<GraphModel::Colour, 6> kDefaultColours = {{{1.0F, 0.0F, 0.0F},
+                                                                {0.0F, 0.7F, 0.0F},
+                                                                {0.0F, 0.0F, 0.7F},
+                                                                {0.5F, 0.5F, 0.0F},
+                                                                {0.0F, 0.5F, 0.5F},
+                                                                {0.5F, 0.0F, 0.5F}}};
+
+} // namespace
+
+GraphModel::GraphModel() = default;
+
+// --- traces
+
+void GraphModel::setMaxParameters(unsigned int count)
+{
+    mParameters = std::vector<ParStruct>(std::min(count, kMaxTraces));
+    for (std::size_t i = 0; i < mParameters.size(); ++i) {
+        mParameters[i].colour = kDefaultColours[i % kDefaultColours.size()];
+        mParameters[i].colourKey = QString::asprintf("GraphColor%d", static_cast<int>(i));
+    }
+    mDisplayOrder.resize(mParameters.size());
+    std::iota(mDisplayOrder.begin(), mDisplayOrder.end(), 0U);
+    mSelected = kNoTrace;
+    touch();
+}
+
+GraphModel::ParStruct* GraphModel::find(unsigned int i)
+{
+    if (i >= mParameters.size()) {
+        return nullptr;
+    }
+    touch();
+    return &mParameters[i];
+}
+
+void GraphModel::setParameterName(unsigned int i, const std::string& name)
+{
+    if (ParStruct* found = find(i)) {
+        found->name = QString::fromStdString(name);
+    }
+}
+
+void GraphModel::setParameterUnit(unsigned int i, const std::string& unit)
+{
+    if (ParStruct* found = find(i)) {
+        found->unit = QString::fromStdString(unit);
+    }
+}
+
+void GraphModel::setParameterColor(unsigned int i, float red, float green, float blue)
+{
+    if (ParStruct* found = find(i)) {
+        found->colour = {red, green, blue};
+    }
+}
+
+void GraphModel::setPrecision(unsigned int i, int decimals)
+{
+    constexpr int kMostDecimals = 17;
+    if (ParStruct* found = find(i)) {
+        found->precision = std::clamp(decimals, 0, kMostDecimals);
+    }
+}
+
+void GraphModel::setActive(unsigned int i, bool active)
+{
+    if (ParStruct* found = find(i)) {
+        mFramesStale = mFramesStale || (active && !found->active);
+        found->active = active;
+    }
+}
+
+void GraphModel::setVisible(unsigned int i, bool visible)
+{
+    if (ParStruct* found = find(i)) {
+        found->visible = visible;
+    }
+}
+
+void GraphModel::activateSamples(unsigned int i, bool on)
+{
+    if (ParStruct* found = find(i)) {
+        found->samples = on;
+    }
+}
+
+unsigned int GraphModel::nrActive() const
+{
+    return static_cast<unsigned int>(
+        std::count_if(mParameters.begin(), mParameters.end(),
+                      [](const ParStruct& parameter) { return parameter.active; }));
+}
+
+bool GraphModel::isShown(unsigned int i) const
+{
+    return i < mParameters.size() && mParameters[i].active && mParameters[i].visible;
+}
+
+bool GraphModel::hasShownSamples() const
+{
+    return std::any_of(mDisplayOrder.begin(), mDisplayOrder.end(), [this](unsigned int i) {
+        return isShown(i) && !mParameters[i].trace.isEmpty();
+    });
+}
+
+void GraphModel::moveParameter(unsigned int from, unsigned int to)
+{
+    if (from >= mDisplayOrder.size() || to >= mDisplayOrder.size()) {
+        return;
+    }
+    const unsigned int moved = mDisplayOrder[from];
+    mDisplayOrder.erase(mDisplayOrder.begin() + from);
+    mDisplayOrder.insert(mDisplayOrder.begin() + to, moved);
+    touch();
+}
+
+unsigned int GraphModel::selectedTrace() const
+{
+    if (isShown(mSelected)) {
+        return mSelected;
+    }
+    const auto shown = std::find_if(mDisplayOrder.begin(), mDisplayOrder.end(),
+                                    [this](unsigned int i) { return isShown(i); });
+    return shown == mDisplayOrder.end() ? kNoTrace : *shown;
+}
+
+void GraphModel::setSelectedTrace(unsigned int i)
+{
+    mSelected = i;
+    touch();
+}
+
+// --- feeding
+
+void GraphModel::setTime(double t)
+{
+    if (std::isnan(t)) {
+        return;
+    }
+    const double time = std::clamp(t, 0.0, kSecondsPerDay);
+    if (mGraphMode == GraphAutomatic) {
+        // Frames only grow at their end. When time runs backwards those of the past are missing.
+        mFramesStale = mFramesStale || time < mRange.xmax();
+        mRange.moveEndTo(time);
+    }
+    mCurrentTime = time;
+    mSampling = true;
+    ++mTimeStep;
+    touch();
+    if (mRecalcPending) {
+        recalcFrameBuffer();
+    }
+}
+
+void GraphModel::putValue(unsigned int i, double value, bool hold)
+{
+    if (i >= mParameters.size() || !mSampling) {
+        return;
+    }
+    store(mParameters[i], value, hold);
+    touch();
+}
+
+void GraphModel::store(ParStruct& parameter, double value, bool hold)
+{
+    parameter.trace.putValue(mCurrentTime, value, hold, secondsPerPixel(), mRange.xmax());
+    parameter.newAt = mTimeStep;
+}
+
+bool GraphModel::hasNewValue(unsigned int i) const
+{
+    return i < mParameters.size() && mParameters[i].newAt != 0 && mParameters[i].newAt == mTimeStep;
+}
+
+void GraphModel::clear()
+{
+    for (ParStruct& parameter : mParameters) {
+        parameter.trace.clear();
+        parameter.newAt = 0;
+    }
+    mTopMarkers.clear();
+    mHasExtent = false;
+    mSampling = false;
+    touch();
+}
+
+void GraphModel::reset()
+{
+    const GraphModel fresh;
+    changeRange(fresh.mRange);
+    mCursorTime = fresh.mCursorTime;
+    mCursorValue = fresh.mCursorValue;
+    mMarker1 = fresh.mMarker1;
+    mMarker2 = fresh.mMarker2;
+    mCursorMode = fresh.mCursorMode;
+    mGraphMode = fresh.mGraphMode;
+    mDisplayMode = fresh.mDisplayMode;
+    mAutoScaleY = fresh.mAutoScaleY;
+    mSpread = fresh.mSpread;
+    mYRangeOn = fresh.mYRangeOn;
+    mYmin = fresh.mYmin;
+    mYmax = fresh.mYmax;
+}
+
+// --- values
+
+bool GraphModel::getValue(unsigned int i, double t, double& v) const
+{
+    v = 0.0;
+    return i < mParameters.size() && mParameters[i].trace.getValue(t, v);
+}
+
+bool GraphModel::getParameterRangeX(unsigned int i, double& first, double& last) const
+{
+    const bool known = i < mParameters.size() && !mParameters[i].trace.isEmpty();
+    first = known ? mParameters[i].trace.firstTime() : 0.0;
+    last = known ? mParameters[i].trace.latestTime() : 0.0;
+    return known;
+}
+
+bool GraphModel::getParameterRangeY(unsigned int i, double& low, double& high) const
+{
+    const bool known = i < mParameters.size() && mParameters[i].trace.hasRange();
+    low = known ? mParameters[i].trace.minimum() : 0.0;
+    high = known ? mParameters[i].trace.maximum() : 0.0;
+    return known;
+}
+
+double GraphModel::getCurrentAverageValue() const
+{
+    const unsigned int i = selectedTrace();
+    return i == kNoTrace ? 0.0
+                         : mParameters[i].trace.statistics(mRange.xmin(), mRange.xmax()).average;
+}
+
+GraphTrace::Statistics GraphModel::markerStatistics(unsigned int i) const
+{
+    if (i >= mParameters.size()) {
+        return {};
+    }
+    const GraphTrace& trace = mParameters[i].trace;
+    return mMarker1 == mMarker2
+               ? trace.statistics(mRange.xmin(), mRange.xmax())
+               : trace.statistics(std::min(mMarker1, mMarker2), std::max(mMarker1, mMarker2));
+}
+
+bool GraphModel::dataExtent(double& first, double& last) const
+{
+    first = mHasExtent ? mExtentFirst : 0.0;
+    last = mHasExtent ? mExtentLast : 0.0;
+    return mHasExtent;
+}
+
+// --- the visible range
+
+void GraphModel::changeRange(const GraphTimeRange& range)
+{
+    mRange = range;
+    mFramesStale = true;
+    touch();
+}
+
+void GraphModel::setXmin(double xmin)
+{
+    GraphTimeRange range = mRange;
+    range.setXmin(xmin);
+    changeRange(range);
+}
+
+void GraphModel::setXmax(double xmax)
+{
+    GraphTimeRange range = mRange;
+    range.setXmax(xmax);
+    changeRange(range);
+}
+
+void GraphModel::setRange(const GraphTimeRange& range)
+{
+    changeRange(range);
+}
+
+void GraphModel::setT0(double t0)
+{
+    GraphTimeRange range = mRange;
+    range.moveStartTo(t0);
+    changeRange(range);
+}
+
+void GraphModel::setXrange(double width)
+{
+    if (std::isnan(width)) {
+        return;
+    }
+    GraphTimeRange range = mRange;
+    if (mGraphMode == GraphAutomatic) {
+        range.setSpanFromEnd(width);
+    } else {
+        range.setSpanFromStart(width);
+    }
+    changeRange(range);
+    startRecalc();
+    recalcFrameBuffer();
+}
+
+void GraphModel::zoomToMarker()
+{
+    mGraphMode = GraphManual;
+    changeRange({mMarker1, std::max(mMarker2, mMarker1 + GraphTimeRange::kMinSpan)});
+    startRecalc();
+    recalcFrameBuffer();
+}
+
+void GraphModel::zoomStep(double pivot, bool in)
+{
+    GraphTimeRange range = mRange;
+    if (!range.zoomAbout(pivot, in ? kZoomFactor : 1.0 / kZoomFactor)) {
+        return;
+    }
+    changeRange(range);
+    if (!mRecalcRunning) {
+        startRecalc();
+    }
+}
+
+void GraphModel::pan(const GraphTimeRange& atPress, double seconds)
+{
+    mGraphMode = GraphManual;
+    GraphTimeRange range = atPress;
+    range.moveStartTo(atPress.xmin() + seconds);
+    changeRange(range);
+}
+
+void GraphModel::setPlotWidth(int pixels)
+{
+    const int width = std::max(pixels, 1);
+    if (width != mPlotWidth) {
+        mPlotWidth = width;
+        changeRange(mRange);
+    }
+}
+
+double GraphModel::secondsPerPixel() const
+{
+    return mRange.span() / mPlotWidth;
+}
+
+double GraphModel::timeAt(double pixel) const
+{
+    return mRange.xmin() + pixel * secondsPerPixel();
+}
+
+double GraphModel::pixelAt(double time) const
+{
+    return (time - mRange.xmin()) / secondsPerPixel();
+}
+
+// --- frames
+
+void GraphModel::recalcFrameBuffer()
+{
+    for (ParStruct& parameter : mParameters) {
+        if (parameter.active) {
+            parameter.trace.recalcFrameBuffer(mRange.xmin(), mRange.xmax(), secondsPerPixel());
+        }
+    }
+    mRecalcPending = false;
+    mFramesStale = false;
+}
+
+void GraphModel::calcFrame()
+{
+    if (mFramesStale) {
+        recalcFrameBuffer();
+    }
+    updateScales();
+    updateExtent();
+    if (mGraphMode == GraphAutomatic) {
+        repeatHeldValues();
+        for (ParStruct& parameter : mParameters) {
+            parameter.trace.dropFramesBefore(mRange.xmin());
+        }
+    }
+}
+
+void GraphModel::updateScales()
+{
+    const GraphYScale fixed = GraphYScale::fixed(mYmin, mYmax);
+    const bool automatic = mAutoScaleY && !mYRangeOn;
+    double low = std::numeric_limits<double>::infinity();
+    double high = -low;
+    for (ParStruct& parameter : mParameters) {
+        const GraphTrace& trace = parameter.trace;
+        parameter.yScale = fixed;
+        if (automatic && trace.hasRange()) {
+            parameter.yScale = GraphYScale::autoscale(trace.minimum(), trace.maximum(), mSpread);
+            if (parameter.active && parameter.visible) {
+                low = std::min(low, trace.minimum());
+                high = std::max(high, trace.maximum());
+            }
+        }
+    }
+    mCommonScale = low <= high ? GraphYScale::autoscale(low, high, mSpread) : fixed;
+}
+
+void GraphModel::updateExtent()
+{
+    mHasExtent = false;
+    for (const ParStruct& parameter : mParameters) {
+        const GraphTrace& trace = parameter.trace;
+        if (!trace.isEmpty()) {
+            mExtentFirst =
+                mHasExtent ? std::min(mExtentFirst, trace.firstTime()) : trace.firstTime();
+            mExtentLast =
+                mHasExtent ? std::max(mExtentLast, trace.latestTime()) : trace.latestTime();
+            mHasExtent = true;
+        }
+    }
+}
+
+void GraphModel::repeatHeldValues()
+{
+    if (mOffline) {
+        return;
+    }
+    for (ParStruct& parameter : mParameters) {
+        const GraphTrace& trace = parameter.trace;
+        const bool behind = !trace.isEmpty() && trace.latestTime() <= mCurrentTime;
+        if (parameter.active && behind && parameter.newAt != mTimeStep) {
+            store(parameter, trace.lastValue(), true);
+        }
+    }
+}
+
+const GraphYScale& GraphModel::scaleOf(unsigned int i) const
+{
+    return mDisplayMode == DisplaySingle || i >= mParameters.size() ? mCommonScale
+                                                                    : mParameters[i].yScale;
+}
+
+void GraphModel::startRecalc()
+{
+    mRecalcCountdown = kMoreRecalcs;
+    mRecalcRunning = true;
+}
+
+bool GraphModel::stepRecalc()
+{
+    recalcFrameBuffer();
+    mRecalcRunning = mRecalcCountdown > 0;
+    mRecalcCountdown = std::max(mRecalcCountdown - 1, -1);
+    return mRecalcRunning;
+}
+
+bool GraphModel::repaintDue(double elapsed) const
+{
+    return elapsed > kRepaintPixels * secondsPerPixel();
+}
+
+// --- cursor and markers
+
+void GraphModel::setCursorPosition(double x)
+{
+    if (!std::isfinite(x)) {
+        return;
+    }
+    mCursorTime = x;
+    touch();
+    if (mCursorMode == CursorFloating) {
+        return;
+    }
+    GraphTimeRange range = mRange;
+    if (mCursorMode == CursorCentre) {
+        range.centreOn(x);
+    } else {
+        range.moveEndTo(x);
+    }
+    changeRange(range);
+}
+
+void GraphModel::setCursorValue(double y)
+{
+    if (std::isfinite(y)) {
+        mCursorValue = y;
+        touch();
+    }
+}
+
+void GraphModel::setMarker(double marker1, double marker2)
+{
+    if (std::isfinite(marker1) && std::isfinite(marker2)) {
+        mMarker1 = marker1;
+        mMarker2 = marker2;
+        touch();
+    }
+}
+
+void GraphModel::setNearerMarker(double time)
+{
+    const bool first = time < (mMarker1 + mMarker2) / 2.0;
+    setMarker(first ? time : mMarker1, first ? mMarker2 : time);
+}
+
+void GraphModel::sortMarkers()
+{
+    if (mMarker1 > mMarker2) {
+        std::swap(mMarker1, mMarker2);
+        touch();
+    }
+}
+
+void GraphModel::addTopMarker(unsigned int number, double time)
+{
+    if (std::isfinite(time)) {
+        mTopMarkers.push_back({number, time});
+        touch();
+    }
+}
+
+// --- modes and look
+
+void GraphModel::setCursorMode(eCursorMode mode)
+{
+    mCursorMode = mode;
+    touch();
+}
+
+void GraphModel::setGraphMode(eGraphMode mode)
+{
+    mGraphMode = mode;
+    mRecalcPending = true;
+    touch();
+}
+
+void GraphModel::setDisplayMode(eDisplayMode mode)
+{
+    mDisplayMode = mode;
+    touch();
+}
+
+void GraphModel::setOfflineMode(bool on)
+{
+    mOffline = on;
+    touch();
+}
+
+void GraphModel::setAutoScaleY(bool on)
+{
+    mAutoScaleY = on;
+    touch();
+}
+
+void GraphModel::setAutoScaleYSpread(double spread)
+{
+    if (std::isfinite(spread) && spread >= 0.0) {
+        mSpread = spread;
+        touch();
+    }
+}
+
+void GraphModel::setYRangeOn(bool on)
+{
+    mYRangeOn = on;
+    touch();
+}
+
+void GraphModel::setYRange(double ymin, double ymax)
+{
+    setYmin(ymin);
+    setYmax(ymax);
+}
+
+void GraphModel::setYmin(double ymin)
+{
+    if (std::isfinite(ymin)) {
+        mYmin = ymin;
+        touch();
+    }
+}
+
+void GraphModel::setYmax(double ymax)
+{
+    if (std::isfinite(ymax)) {
+        mYmax = ymax;
+        touch();
+    }
+}
+
+} // namespace VELIX
