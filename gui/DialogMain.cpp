@@ -1,6 +1,7 @@
 #include "gui/DialogMain.h"
 
 #include "core/DataHandler.h"
+#include "core/Diagnostics.h"
 #include "core/Progress.h"
 #include "core/Property.h"
 #include "export/DialogExportCsv.h"
@@ -135,6 +136,7 @@ void DialogMain::createActions()
 {
     mActions = new MainActions(this);
     connect(mActions->group(), &QActionGroup::triggered, this, &DialogMain::slotMenu);
+    connect(mActions->recentGroup(), &QActionGroup::triggered, this, &DialogMain::slotMenuRecent);
     connect(mDialogCard, &DialogCard::signalOpenCard, mActions->action(eActionOpenCard),
             &QAction::trigger);
     addAction(mActions->action(eActionQuit)); // its key works without a menu, too
@@ -235,6 +237,7 @@ void DialogMain::setProgress(int percent)
 
 void DialogMain::slotCheckStyle()
 {
+    Diagnostics::print("Slot Load Style <%s>\n", qUtf8Printable(mContext.styleFile));
     mContext.control.loadStyleFile(mContext.styleFile);
 }
 

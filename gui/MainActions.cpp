@@ -59,7 +59,8 @@ QString toolTip(const QAction& action)
 
 } // namespace
 
-MainActions::MainActions(QObject* parent) : QObject(parent), mGroup(new QActionGroup(this))
+MainActions::MainActions(QObject* parent)
+    : QObject(parent), mGroup(new QActionGroup(this)), mRecentGroup(new QActionGroup(this))
 {
     mGroup->setExclusive(false);
     const ImageHandler& images = ImageHandler::instance();

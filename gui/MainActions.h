@@ -43,12 +43,15 @@ public:
     const std::vector<QAction*>& menu(Menu menu) const;
     /// All actions belong to it; each carries its number as its data.
     QActionGroup* group() const { return mGroup; }
+    /// For entries of what was opened lately; empty so far.
+    QActionGroup* recentGroup() const { return mRecentGroup; }
 
     /// Disables an action with the reason in its tool tip, or enables it for an empty reason.
     void setUnavailable(int id, const QString& reason);
 
 private:
     QActionGroup* mGroup;
+    QActionGroup* mRecentGroup;
     std::map<int, QAction*> mActions;
     std::map<Menu, std::vector<QAction*>> mMenus;
 };

@@ -9,6 +9,7 @@
 #include "gui/QwtComboBox.h"
 #include "gui/WidgetHint.h"
 #include "tests/gui/TestProgram.h"
+#include "tests/support/CapturedDiagnostics.h"
 #include "views/DialogData.h"
 
 #include <gtest/gtest.h>
@@ -278,6 +279,7 @@ TEST_F(DialogMainTest, ANewProjectEmptiesTicksAndTable)
     EXPECT_EQ(program.selection(), QString());
     EXPECT_EQ(find<QTreeWidget>("treeParameters").topLevelItem(1)->child(0)->checkState(0),
               Qt::Unchecked);
+    EXPECT_FALSE(headings().contains(QStringLiteral("Oil Temp")));
 }
 
 TEST_F(DialogMainTest, InstallsAProfileFromTheEmptyPanel)
@@ -327,8 +329,10 @@ TEST_F(DialogMainTest, FollowsAStyleFileThatIsBeingEdited)
 {
     program.context.styleFile = QStringLiteral("my.css");
     start();
+    CapturedDiagnostics lines;
     EXPECT_TRUE(QTest::qWaitFor([this] { return program.control.styles.size() == 3; }, 2000));
     EXPECT_EQ(program.control.styles.removeAll(QStringLiteral("my.css")), 3);
+    EXPECT_EQ(lines.text(), "Slot Load Style <my.css>\nSlot Load Style <my.css>\n");
 }
 
 TEST_F(DialogMainTest, ADisplayOnlyWindowHasNoMenusAndPanels)
