@@ -102,10 +102,7 @@ int Project::readProject(const std::string& file)
     const QDomElement root = document.documentElement();
     setProfileData();
     forEachItem(root, kParameters, kParameter, [&](const QDomNamedNodeMap& attributes) {
-        const auto entry = mSelected.find(xml.xmlGetStdStringAttribute(attributes, kName, {}));
-        if (entry != mSelected.end()) {
-            entry->second = true;
-        }
+        mSelected[xml.xmlGetStdStringAttribute(attributes, kName, {})] = true;
     });
     restoreSelection();
 

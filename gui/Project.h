@@ -26,13 +26,13 @@ public:
     /// 0 if the file could not be written; an old file is kept then.
     int saveProject(const std::string& file);
     /// 0 if the file could not be read; the selection is kept then. Names that the profile does
-    /// not know are skipped.
+    /// not know wait for a variant or profile that does.
     int readProject(const std::string& file);
 
     /// To be called before the profile is loaded again, since loading forgets the selection.
     void rememberSelection();
-    /// To be called after that. A parameter that only another variant has comes back selected
-    /// when that variant does.
+    /// To be called after that. A parameter that only another variant has is selected again when
+    /// that variant is chosen.
     void restoreSelection();
 
     void setCanProperties(const std::map<std::string, std::string>& props);

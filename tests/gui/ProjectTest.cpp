@@ -177,6 +177,28 @@ TEST_F(ProjectTest, CarriesTheSelectionOverAReload)
     EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Oil, Lane B/Oil"));
 }
 
+TEST_F(ProjectTest, WhatOnlyAnotherVariantHasIsSelectedWithThatVariant)
+{
+    write(projectFile(), "<VelixProject><Parameters><Parameter name='Lane A/Fuel'/>"
+                         "<Parameter name='Lane B/Oil'/></Parameters></VelixProject>");
+    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Solo")));
+    ASSERT_EQ(project.readProject(projectFile()), 1);
+    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Fuel"));
+
+    project.rememberSelection();
+    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Twin")));
+    project.restoreSelection();
+    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Fuel, Lane B/Oil"));
+
+    // A new project forgets what is waiting, too.
+    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Solo")));
+    ASSERT_EQ(project.readProject(projectFile()), 1);
+    project.clear();
+    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Twin")));
+    project.restoreSelection();
+    EXPECT_EQ(selection(profile), QString());
+}
+
 TEST_F(ProjectTest, SurvivesAProfileThatCannotBeLoaded)
 {
     select({10, 30});
