@@ -6,6 +6,7 @@
 #include "gui/ImageHandler.h"
 #include "platform/tessel/Timer.h"
 #include "views/CursorTime.h"
+#include "views/DialogDataErrorMatrix.h"
 #include "views/DialogDataTable.h"
 #include "views/PageTabBar.h"
 #include "views/PlaceholderView.h"
@@ -62,7 +63,8 @@ void DialogData::createViews()
                                          "The Data tab lists the values over time."));
     mInstrument = placeholder("viewInstrument", tr("This version has no instrument panel yet. "
                                                    "The Data tab lists the values over time."));
-    mFaultMatrix = placeholder("viewFaultMatrix", tr("This version has no fault matrix yet."));
+    mFaultMatrix = new DialogDataErrorMatrix(mProfile, this);
+    mFaultMatrix->setObjectName(QStringLiteral("viewFaultMatrix"));
     mLimit = placeholder("viewLimit", tr("This version has no list of limit events yet. "
                                          "The Data tab shows them by colour."));
     mWarning = placeholder("viewWarning", tr("This version has no list of warning lamps yet."));
@@ -79,6 +81,8 @@ void DialogData::createViews()
     mRoutes.setView(EView::Map, *mMap);
     connect(mTable, &DialogDataTable::signalTime, this, &DialogData::slotTableTime);
     connect(mTable, &DialogDataTable::signalInstallProfile, this,
+            &DialogData::signalInstallProfile);
+    connect(mFaultMatrix, &DialogDataErrorMatrix::signalInstallProfile, this,
             &DialogData::signalInstallProfile);
     connect(mTable, &DialogDataTable::signalSelectParameters, this,
             &DialogData::signalSelectParameters);
@@ -217,6 +221,7 @@ void DialogData::updateProfile()
 
 void DialogData::loadProfile()
 {
+    mFaultMatrix->loadProfile();
     mFaultMatrix->updateRecord(mRecord);
     mFaultMatrix->setTime(mClock.cursor());
 }

@@ -15,6 +15,7 @@ class QTime;
 namespace VELIX {
 
 class CardContainer;
+class DialogDataErrorMatrix;
 class DialogDataTable;
 class PageTabBar;
 class PlaceholderView;
@@ -92,7 +93,7 @@ private:
     DialogDataTable* mTable = nullptr;
     PlaceholderView* mGraph = nullptr;
     PlaceholderView* mInstrument = nullptr;
-    PlaceholderView* mFaultMatrix = nullptr;
+    DialogDataErrorMatrix* mFaultMatrix = nullptr;
     PlaceholderView* mLimit = nullptr;
     PlaceholderView* mWarning = nullptr;
     PlaceholderView* mStatistic = nullptr;

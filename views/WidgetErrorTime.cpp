@@ -1,0 +1,163 @@
+#include "views/WidgetErrorTime.h"
+
+#include "gui/Palette.h"
+#include "views/CursorTime.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace VELIX {
+
+namespace {
+
+constexpr int kHeight = 30;
+constexpr int kNotePixels = 12;
+
+/// From top to bottom.
+constexpr int kBandTypes[] = {eErrorFault, eErrorWarning, eErrorInfo};
+constexpr int kBands = 3;
+
+QString lineOf(const ProfileParameter& parameter)
+{
+    switch (parameter.errorType) {
+    case eErrorFault:
+        return WidgetErrorTime::tr("Fault: %1").arg(parameter.name);
+    case eErrorWarning:
+        return WidgetErrorTime::tr("Warning: %1").arg(parameter.name);
+    case eErrorInfo:
+        return WidgetErrorTime::tr("Info: %1").arg(parameter.name);
+    default:
+        return parameter.name;
+    }
+}
+
+} // namespace
+
+WidgetErrorTime::WidgetErrorTime(QWidget* parent) : QWidget(parent)
+{
+    setFixedHeight(kHeight);
+    setAutoFillBackground(true);
+    QPalette ground = palette();
+    ground.setColor(QPalette::Window, Qt::white);
+    setPalette(ground);
+}
+
+void WidgetErrorTime::setData(const FaultMatrix& matrix)
+{
+    mMatrix = matrix;
+    mTimeline.setMatrix(matrix);
+    setAccessibleName(tr("Times of the errors of %1").arg(matrix.name));
+    forgetPicture();
+}
+
+void WidgetErrorTime::updateRecord(RecordData* record)
+{
+    mTimeline.setRecord(record);
+    forgetPicture();
+}
+
+void WidgetErrorTime::setTime(double seconds)
+{
+    const int before = cursorX();
+    mCursor = seconds;
+    if (cursorX() != before) {
+        repaint(); // at once: the bar has to keep up with the replay
+    }
+}
+
+QString WidgetErrorTime::tipText(int x) const
+{
+    if (!mTimeline.hasRecord()) {
+        return {};
+    }
+    if (!mTimeline.hasSamples()) {
+        return tr("The record has no messages of this matrix.");
+    }
+    const std::uint32_t word = mTimeline.wordAt(x, width());
+    QStringList lines(CursorTime::timeText(CursorTime::milliseconds(mTimeline.timeAt(x, width()))));
+    for (const int type : {eErrorFault, eErrorWarning, eErrorInfo, eErrorNone}) {
+        for (const auto& [bit, parameter] : mMatrix.bits) {
+            const bool set = bit >= 0 && bit < 32 && ((word >> bit) & 1) != 0;
+            if (set && parameter.errorType == type) {
+                lines.append(lineOf(parameter));
+            }
+        }
+    }
+    if (lines.size() == 1) {
+        lines.append(tr("No error set"));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+bool WidgetErrorTime::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const int x = help->pos().x();
+        // The next pixel has a text of its own. The first line is a time, so that no name from the
+        // profile can turn the text into rich text.
+        QToolTip::showText(help->globalPos(), tipText(x), this, QRect(x, 0, 1, height()));
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void WidgetErrorTime::resizeEvent(QResizeEvent*)
+{
+    forgetPicture();
+}
+
+void WidgetErrorTime::forgetPicture()
+{
+    mPicture = QPixmap();
+    update();
+}
+
+void WidgetErrorTime::paintEvent(QPaintEvent*)
+{
+    if (mPicture.isNull() || mPicture.devicePixelRatioF() != devicePixelRatioF()) {
+        drawPicture();
+    }
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, mPicture);
+    const int x = cursorX();
+    if (x >= 0 && x < width()) {
+        painter.fillRect(x, 0, 1, height(), Qt::black);
+    }
+}
+
+void WidgetErrorTime::drawPicture()
+{
+    const double ratio = devicePixelRatioF();
+    mPicture = QPixmap(size() * ratio);
+    mPicture.setDevicePixelRatio(ratio);
+    mPicture.fill(Qt::white);
+    QPainter painter(&mPicture);
+    drawBands(painter);
+    if (mTimeline.hasRecord() && !mTimeline.hasSamples()) {
+        QFont small = font();
+        small.setPixelSize(kNotePixels);
+        painter.setFont(small);
+        painter.setPen(Palette::light().mutedText); // the ground is white in every look
+        painter.drawText(rect(), Qt::AlignCenter, tipText(0));
+    }
+}
+
+void WidgetErrorTime::drawBands(QPainter& painter) const
+{
+    const int band = (height() + 1) / kBands;
+    for (int i = 0; i < kBands; ++i) {
+        const QColor color = errorColor(kBandTypes[i], true);
+        for (const FaultTimeline::Span& span : mTimeline.spans(kBandTypes[i], width())) {
+            painter.fillRect(span.left, i * band, span.width, band, color);
+        }
+    }
+    painter.setPen(QColor(200, 200, 200));
+    for (int i = 1; i < kBands; ++i) {
+        painter.drawLine(0, i * band, width() - 1, i * band);
+    }
+    painter.drawRect(0, 0, width() - 1, height() - 1);
+}
+
+} // namespace VELIX
