@@ -82,12 +82,13 @@ protected:
         box.setCurrentIndex(index);
         emit box.activated(index);
     }
+    /// The value table, among those of all views.
+    QTableWidget& table() { return *find<QWidget>("viewTable").findChild<QTableWidget*>(); }
     QString headings()
     {
-        const auto& table = find<QTableWidget>();
         QStringList texts;
-        for (int i = 0; i < table.columnCount(); ++i) {
-            texts.append(table.horizontalHeaderItem(i)->text());
+        for (int i = 0; i < table().columnCount(); ++i) {
+            texts.append(table().horizontalHeaderItem(i)->text());
         }
         return texts.join(QLatin1Char('|'));
     }
@@ -160,14 +161,14 @@ TEST_F(DialogMainTest, LoadsACycleAndThenAFlightOfIt)
     ASSERT_TRUE(loadCycle(0));
     EXPECT_EQ(loaded(), QStringLiteral("Cycle 1: 540 samples of 2 identifiers"));
     EXPECT_EQ(headings(), QStringLiteral("Time|Oil Temp [C]"));
-    EXPECT_EQ(find<QTableWidget>().rowCount(), 270);
+    EXPECT_EQ(table().rowCount(), 270);
     EXPECT_TRUE(action(eActionExportCsv).isEnabled());
     EXPECT_FALSE(find<QProgressBar>().isVisible());
 
     cycles().setCurrentItem(cycles().topLevelItem(0)->child(1));
     ASSERT_TRUE(QTest::qWaitFor(
         [this] { return loaded().startsWith(QStringLiteral("Cycle 1, flight 2")); }, kLoadMs));
-    EXPECT_LT(find<QTableWidget>().rowCount(), 270);
+    EXPECT_LT(table().rowCount(), 270);
     EXPECT_EQ(cycles().topLevelItem(0)->childCount(), 2);
 }
 

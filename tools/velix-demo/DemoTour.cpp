@@ -75,7 +75,8 @@ bool DemoTour::loadFlight(DialogMain& window)
                  QStringLiteral("The first flight was not loaded."))) {
         return false;
     }
-    const auto* table = window.findChild<QTableWidget*>();
+    const auto* view = window.findChild<QWidget*>(QStringLiteral("viewTable"));
+    const auto* table = view != nullptr ? view->findChild<QTableWidget*>() : nullptr;
     if (table == nullptr || table->rowCount() == 0 || table->columnCount() < 2) {
         return fail(QStringLiteral("The table is empty; does the project select parameters?"));
     }
