@@ -98,7 +98,7 @@ void DialogMain::createPanes()
     connect(mDialogProfile, &DialogProfile::signalChanged, this,
             qOverload<>(&DialogMain::slotProfileChanged));
 
-    mDialogData = new DialogData(mContext.profile, mContext.card, mContext.emuOnly);
+    mDialogData = new DialogData(mContext.profile, mContext.card, mDialogs, mContext.emuOnly);
     connect(mDialogData, &DialogData::signalSelectParameters, mDialogProfile,
             &DialogProfile::focusSearch);
 
@@ -208,6 +208,7 @@ void DialogMain::createStatusBar()
 {
     mStatusBar = new DialogStatusBar(this);
     setStatusBar(mStatusBar);
+    connect(mDialogData, &DialogData::signalNotice, mStatusBar, &DialogStatusBar::showNotice);
     Progress::setHook([this](int percent) { setProgress(percent); });
 }
 

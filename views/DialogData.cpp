@@ -1,13 +1,15 @@
 #include "views/DialogData.h"
 
 #include "card/CardContainer.h"
-#include "card/LimitFinder.h"
-#include "card/WarningFinder.h"
 #include "gui/ImageHandler.h"
+#include "gui/StandardDialogs.h"
 #include "platform/tessel/Timer.h"
 #include "views/CursorTime.h"
 #include "views/DialogDataErrorMatrix.h"
+#include "views/DialogDataLimit.h"
+#include "views/DialogDataStatistic.h"
 #include "views/DialogDataTable.h"
+#include "views/DialogDataWarning.h"
 #include "views/PageTabBar.h"
 #include "views/PlaceholderView.h"
 #include "views/ReplayControls.h"
@@ -33,9 +35,15 @@ enum EMapLayout { eMapHidden = 0, eMapBeside = 1, eMapBelow = 2 };
 } // namespace
 
 DialogData::DialogData(Profile& profile, CardContainer& card, bool emuOnly, QWidget* parent)
+    : DialogData(profile, card, StandardDialogs::instance(), emuOnly, parent)
+{}
+
+DialogData::DialogData(Profile& profile, CardContainer& card, DialogService& dialogs, bool emuOnly,
+                       QWidget* parent)
     : QWidget(parent),
       mProfile(profile),
       mCard(card),
+      mDialogs(dialogs),
       mClock([watch = Tessel::Misc::Timer()] { return watch.elapsed(); })
 {
     createViews();
@@ -65,10 +73,12 @@ void DialogData::createViews()
                                                    "The Data tab lists the values over time."));
     mFaultMatrix = new DialogDataErrorMatrix(mProfile, this);
     mFaultMatrix->setObjectName(QStringLiteral("viewFaultMatrix"));
-    mLimit = placeholder("viewLimit", tr("This version has no list of limit events yet. "
-                                         "The Data tab shows them by colour."));
-    mWarning = placeholder("viewWarning", tr("This version has no list of warning lamps yet."));
-    mStatistic = placeholder("viewStatistic", tr("This version has no tow statistic yet."));
+    mLimit = new DialogDataLimit(mProfile, mDialogs, this);
+    mLimit->setObjectName(QStringLiteral("viewLimit"));
+    mWarning = new DialogDataWarning(mProfile, mDialogs, this);
+    mWarning->setObjectName(QStringLiteral("viewWarning"));
+    mStatistic = new DialogDataStatistic(this);
+    mStatistic->setObjectName(QStringLiteral("viewStatistic"));
     mMap = placeholder("viewMap", tr("This version has no map yet."));
 
     mRoutes.setView(EView::Table, *mTable);
@@ -86,6 +96,10 @@ void DialogData::createViews()
             &DialogData::signalInstallProfile);
     connect(mTable, &DialogDataTable::signalSelectParameters, this,
             &DialogData::signalSelectParameters);
+    connect(mLimit, &DialogDataEvents::signalTime, this, &DialogData::slotLimitTime);
+    connect(mWarning, &DialogDataEvents::signalTime, this, &DialogData::slotWarningTime);
+    connect(mLimit, &DialogDataEvents::signalNotice, this, &DialogData::signalNotice);
+    connect(mWarning, &DialogDataEvents::signalNotice, this, &DialogData::signalNotice);
 }
 
 QBoxLayout* DialogData::createTabs()
@@ -183,9 +197,6 @@ void DialogData::updateRecord()
     }
     mClock.setRecord(mRecord->startTime, mRecord->stopTime);
     mRecord->cursorTime = mClock.cursor();
-    // Exports read the events; without list views that find them, the window has to.
-    mRecord->limits = findLimits(*mRecord, mProfile);
-    mRecord->warnings = findWarnings(*mRecord, mProfile);
     mControls->setRecordOpen(true);
     mControls->showReplay(mClock);
     mKeys->setEnabled(true);
@@ -203,6 +214,8 @@ void DialogData::releaseRecord()
 void DialogData::closeRecord()
 {
     releaseRecord();
+    mLimit->clear(); // lists wait for a next record with what they show
+    mWarning->clear();
     mReplayTimer.stop();
     mClock.rewind();
     mControls->setRecordOpen(false);
@@ -212,9 +225,6 @@ void DialogData::closeRecord()
 
 void DialogData::updateProfile()
 {
-    if (mRecord != nullptr) {
-        mRecord->limits = findLimits(*mRecord, mProfile); // the lamps stay as they were
-    }
     mRoutes.updateProfile();
     mRoutes.setTime(ECursorSource::Reload, mClock.cursor());
 }

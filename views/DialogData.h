@@ -16,7 +16,11 @@ namespace VELIX {
 
 class CardContainer;
 class DialogDataErrorMatrix;
+class DialogDataLimit;
+class DialogDataStatistic;
 class DialogDataTable;
+class DialogDataWarning;
+class DialogService;
 class PageTabBar;
 class PlaceholderView;
 class Profile;
@@ -32,6 +36,9 @@ class DialogData : public QWidget
 public:
     /// emuOnly: hides what only someone at a desk needs (time of day, position, time editor).
     DialogData(Profile& profile, CardContainer& card, bool emuOnly, QWidget* parent = nullptr);
+    /// The same with an own answer to what the views ask the user.
+    DialogData(Profile& profile, CardContainer& card, DialogService& dialogs, bool emuOnly,
+               QWidget* parent = nullptr);
 
     /// The card holds another record, or none: the cursor goes to its start.
     void updateRecord();
@@ -50,6 +57,8 @@ signals:
     /// The user followed a link of a view that lacks something.
     void signalInstallProfile();
     void signalSelectParameters();
+    /// A view has a result or failure to tell in words.
+    void signalNotice(const QString& sentence);
 
 private slots:
     void slotTimeoutReplay();
@@ -80,6 +89,7 @@ private:
 
     Profile& mProfile;
     CardContainer& mCard;
+    DialogService& mDialogs;
     ReplayClock mClock;
     CursorRoutes mRoutes;
     RecordData* mRecord = nullptr; ///< the card's working data; null without a record
@@ -94,9 +104,9 @@ private:
     PlaceholderView* mGraph = nullptr;
     PlaceholderView* mInstrument = nullptr;
     DialogDataErrorMatrix* mFaultMatrix = nullptr;
-    PlaceholderView* mLimit = nullptr;
-    PlaceholderView* mWarning = nullptr;
-    PlaceholderView* mStatistic = nullptr;
+    DialogDataLimit* mLimit = nullptr;
+    DialogDataWarning* mWarning = nullptr;
+    DialogDataStatistic* mStatistic = nullptr;
     PlaceholderView* mMap = nullptr;
     ReplayControls* mControls = nullptr;
 };

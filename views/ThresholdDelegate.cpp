@@ -22,7 +22,9 @@ void ThresholdDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     if (ground.isValid()) {
         QRect stripe = option.rect;
         stripe.setWidth(kStripeWidth);
-        painter->fillRect(stripe, ground.value<QBrush>());
+        QColor color = ground.value<QBrush>().color();
+        color.setAlpha(255); // a tint would be lost on the ground of the selection
+        painter->fillRect(stripe, color);
     }
 }
 

@@ -5,7 +5,9 @@
 #include "profile/Profile.h"
 #include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
+#include "views/DialogDataLimit.h"
 #include "views/DialogDataTable.h"
+#include "views/DialogDataWarning.h"
 #include "views/ReplayKeys.h"
 
 #include <gtest/gtest.h>
@@ -75,9 +77,15 @@ struct DialogDataTest : ::testing::Test
         return find<QLCDNumber>(name)->accessibleDescription().toStdString();
     }
     QToolButton* replay() { return find<QToolButton>("buttonReplay"); }
+    template <class View>
+    QTableWidget* tableOf()
+    {
+        return window->findChild<View*>()->template findChild<QTableWidget*>();
+    }
+    template <class View = DialogDataTable>
     int tableRow()
     {
-        return window->findChild<QTableWidget*>()->selectionModel()->currentIndex().row();
+        return tableOf<View>()->selectionModel()->currentIndex().row();
     }
     void call(const char* slot, double time)
     {
@@ -170,6 +178,41 @@ TEST_F(DialogDataTest, ViewsMoveTheCursorAndTheOthersFollow)
     EXPECT_EQ(window->cursorTime(), static_cast<double>(150.1F));
 }
 
+TEST_F(DialogDataTest, TheListsFollowAndMoveTheCursor)
+{
+    load(100.0, 200.0); // a warning at 150 s
+    auto* limits = tableOf<DialogDataLimit>();
+    ASSERT_EQ(limits->rowCount(), 1);
+    EXPECT_EQ(tableRow<DialogDataLimit>(), 0);
+    limits->clearSelection();
+    EXPECT_EQ(window->cursorTime(), 100.0);
+    limits->selectRow(0);
+    EXPECT_EQ(window->cursorTime(), 150.0);
+    EXPECT_EQ(tableRow(), 50);
+    emit window->findChild<DialogDataWarning*>()->signalTime(120.0);
+    EXPECT_EQ(tableRow(), 20);
+}
+
+TEST_F(DialogDataTest, WithoutARecordTheListsAreEmptied)
+{
+    load(100.0, 200.0);
+    window->releaseRecord();
+    EXPECT_EQ(tableOf<DialogDataLimit>()->rowCount(), 1) << "until the next record is there";
+    ASSERT_TRUE(RecordBuilder().write(folder.filePath(QStringLiteral("1.CAN"))));
+    ASSERT_TRUE(card.readContainer(folder.path()));
+    card.loadFiles({QStringLiteral("1.CAN")});
+    window->updateRecord();
+    EXPECT_EQ(tableOf<DialogDataLimit>()->rowCount(), 0);
+}
+
+TEST_F(DialogDataTest, ViewsTellWhatWentWrong)
+{
+    const QSignalSpy notices(window.get(), &DialogData::signalNotice);
+    emit window->findChild<DialogDataLimit*>()->signalNotice(QStringLiteral("full"));
+    emit window->findChild<DialogDataWarning*>()->signalNotice(QStringLiteral("gone"));
+    EXPECT_EQ(notices.count(), 2);
+}
+
 TEST_F(DialogDataTest, ReplayRunsPausesAndReturnsToTheStart)
 {
     load(100.0, 200.0);
@@ -222,7 +265,7 @@ TEST_F(DialogDataTest, WithoutARecordTheReplayEnds)
     load(100.0, 200.0);
     QTest::mouseClick(replay(), Qt::LeftButton);
     window->releaseRecord();
-    EXPECT_EQ(window->findChild<QTableWidget*>()->rowCount(), 0);
+    EXPECT_EQ(tableOf<DialogDataTable>()->rowCount(), 0);
     ASSERT_TRUE(RecordBuilder().write(folder.filePath(QStringLiteral("1.CAN"))));
     ASSERT_TRUE(card.readContainer(folder.path()));
     card.loadFiles({QStringLiteral("1.CAN")});
@@ -235,7 +278,7 @@ TEST_F(DialogDataTest, WithoutARecordTheReplayEnds)
 TEST_F(DialogDataTest, KeysStepAndReplayWhereTheFocusHasNoUseForThem)
 {
     load(100.0, 200.0);
-    auto* table = window->findChild<QTableWidget*>();
+    auto* table = tableOf<DialogDataTable>();
     table->setFocus();
     QTest::keyClick(table, Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(window->cursorTime(), 101.0);
