@@ -157,18 +157,6 @@
         <translation>Diese Version hat noch keine Fehlermatrix.</translation>
     </message>
     <message>
-        <source>This version has no list of limit events yet. The Data tab shows them by colour.</source>
-        <translation>Diese Version hat noch keine Liste der Grenzwertereignisse. Der Reiter „Daten“ zeigt sie farbig.</translation>
-    </message>
-    <message>
-        <source>This version has no list of warning lamps yet.</source>
-        <translation>Diese Version hat noch keine Liste der Warnlampen.</translation>
-    </message>
-    <message>
-        <source>This version has no tow statistic yet.</source>
-        <translation>Diese Version hat noch keine Schleppstatistik.</translation>
-    </message>
-    <message>
         <source>This version has no map yet.</source>
         <translation>Diese Version hat noch keine Landkarte.</translation>
     </message>
@@ -214,6 +202,159 @@
     </message>
 </context>
 <context>
+    <name>VELIX::DialogDataEvents</name>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Save as CSV ...</source>
+        <translation>Als CSV speichern ...</translation>
+    </message>
+    <message>
+        <source>Show in graph</source>
+        <translation>Im Graphen zeigen</translation>
+    </message>
+    <message>
+        <source>No record loaded. Open the folder of a data card and choose a cycle, a flight or a file.</source>
+        <translation>Keine Aufzeichnung geladen. Ordner einer Datenkarte öffnen und einen Zyklus, einen Flug oder eine Datei auswählen.</translation>
+    </message>
+    <message>
+        <source>Save List</source>
+        <translation>Liste speichern</translation>
+    </message>
+    <message>
+        <source>CSV files (*.csv)</source>
+        <translation>CSV-Dateien (*.csv)</translation>
+    </message>
+    <message>
+        <source>The list was saved as %1.</source>
+        <translation>Die Liste wurde als %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>The list could not be saved as %1: %2</source>
+        <translation>Die Liste konnte nicht als %1 gespeichert werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogDataLimit</name>
+    <message>
+        <source>Warning/Limit Exceed</source>
+        <translation>Überschrittene Warn-/Grenzwerte</translation>
+    </message>
+    <message>
+        <source>No limit or warning exceeded in this record.</source>
+        <translation>In dieser Aufzeichnung wurde kein Grenz- oder Warnwert überschritten.</translation>
+    </message>
+    <message>
+        <source>No parameter profile is installed, so limits cannot be judged.</source>
+        <translation>Es ist kein Parameterprofil installiert, daher lassen sich Grenzwerte nicht beurteilen.</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogDataStatistic</name>
+    <message>
+        <source>Tow Statistic</source>
+        <translation>Schleppstatistik</translation>
+    </message>
+    <message>
+        <source>Flight Time</source>
+        <translation>Flugzeit</translation>
+    </message>
+    <message>
+        <source>Total Fuel Lane A</source>
+        <translation>Kraftstoff gesamt Kanal A</translation>
+    </message>
+    <message>
+        <source>Total Fuel Lane B</source>
+        <translation>Kraftstoff gesamt Kanal B</translation>
+    </message>
+    <message>
+        <source>Total Fuel</source>
+        <translation>Kraftstoff gesamt</translation>
+    </message>
+    <message>
+        <source>Minimum Alt</source>
+        <translation>Minimale Höhe</translation>
+    </message>
+    <message>
+        <source>Maximum Alt</source>
+        <translation>Maximale Höhe</translation>
+    </message>
+    <message>
+        <source>Total Climb</source>
+        <translation>Höhengewinn</translation>
+    </message>
+    <message>
+        <source>Average Climb Rate</source>
+        <translation>Mittlere Steigrate</translation>
+    </message>
+    <message>
+        <source>Average Descend Rate</source>
+        <translation>Mittlere Sinkrate</translation>
+    </message>
+    <message>
+        <source>Max Ground Speed</source>
+        <translation>Maximale Geschwindigkeit über Grund</translation>
+    </message>
+    <message>
+        <source>Time / 100m</source>
+        <translation>Zeit / 100m</translation>
+    </message>
+    <message>
+        <source>Fuel / 100m</source>
+        <translation>Kraftstoff / 100m</translation>
+    </message>
+    <message>
+        <source>Take Off Distance</source>
+        <translation>Startstrecke</translation>
+    </message>
+    <message>
+        <source>Take Off Distance 15m</source>
+        <translation>Startstrecke 15m</translation>
+    </message>
+    <message>
+        <source>No flight selected</source>
+        <translation>Kein Flug ausgewählt</translation>
+    </message>
+    <message>
+        <source>The flights of this cycle. Choose one in the list of cycles to see all of its figures.</source>
+        <translation>Die Flüge dieses Zyklus. Einen davon in der Liste der Zyklen auswählen, um alle seine Werte zu sehen.</translation>
+    </message>
+    <message>
+        <source>Flight</source>
+        <translation>Flug</translation>
+    </message>
+    <message>
+        <source>Take-off</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Landing</source>
+        <translation>Landung</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Fuel</source>
+        <translation>Kraftstoff</translation>
+    </message>
+    <message>
+        <source>Climb</source>
+        <translation>Höhengewinn</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Summe</translation>
+    </message>
+</context>
+<context>
     <name>VELIX::DialogDataTable</name>
     <message>
         <source>Values of the record</source>
@@ -250,6 +391,21 @@
     <message>
         <source>The record has no samples of the selected parameters. Select other parameters or choose another record.</source>
         <translation>Die Aufzeichnung enthält keine Messwerte der ausgewählten Parameter. Andere Parameter oder eine andere Aufzeichnung auswählen.</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogDataWarning</name>
+    <message>
+        <source>Warning Lamps</source>
+        <translation>Warnlampen</translation>
+    </message>
+    <message>
+        <source>No warning lamp was lit in this record.</source>
+        <translation>In dieser Aufzeichnung leuchtete keine Warnlampe.</translation>
+    </message>
+    <message>
+        <source>No parameter profile was installed when this record was loaded, so its warning lamps are not known. Load the record again once a profile is installed.</source>
+        <translation>Beim Laden dieser Aufzeichnung war kein Parameterprofil installiert, daher sind ihre Warnlampen nicht bekannt. Nach dem Installieren eines Profils die Aufzeichnung erneut laden.</translation>
     </message>
 </context>
 <context>
