@@ -1,5 +1,6 @@
 #include "card/LimitFinder.h"
 
+#include "card/DecodingOrder.h"
 #include "card/EventText.h"
 #include "card/RecordData.h"
 #include "profile/Profile.h"
@@ -22,7 +23,7 @@ void findLimitsOf(const ProfileDevice& device, const ProfileParameter& p, const 
     }
     profile.resetCoordinates();
     int previous = eThresholdLimit; // the first sample never starts an event
-    for (const RecordEntry& entry : entries) {
+    inDecodingOrder(entries, p, [&](const RecordEntry& entry) {
         const TextValue value = profile.textValue(entry, p);
         int state = eThresholdOk;
         QColor color;
@@ -37,7 +38,7 @@ void findLimitsOf(const ProfileDevice& device, const ProfileParameter& p, const 
             }
         }
         previous = state;
-    }
+    });
 }
 
 } // namespace

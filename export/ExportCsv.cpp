@@ -1,5 +1,6 @@
 #include "export/ExportCsv.h"
 
+#include "card/DecodingOrder.h"
 #include "card/RecordData.h"
 #include "core/Diagnostics.h"
 #include "export/OutputFile.h"
@@ -58,11 +59,11 @@ Column fillColumn(const RecordData& record, const ProfileParameter& p, int resol
     column.header = profile.columnLabel(p).toStdString();
     column.cells.reserve(entries.size());
     profile.resetCoordinates();
-    for (const RecordEntry& entry : entries) {
+    inDecodingOrder(entries, p, [&](const RecordEntry& entry) {
         const std::size_t begin = column.texts.size();
         profile.appendDataString(entry, p, column.texts);
         column.cells.push_back({tickOf(entry.time, resolution), begin, column.texts.size()});
-    }
+    });
     const auto earlier = [](const Column::Cell& a, const Column::Cell& b) {
         return a.tick < b.tick;
     };

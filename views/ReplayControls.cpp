@@ -50,8 +50,10 @@ QLCDNumber* createDisplay(const QString& placeholder, const QString& name)
 /// A display keeps no text that could be read aloud, so it is described by it as well.
 void showText(QLCDNumber* display, const QString& text)
 {
-    display->display(text);
-    display->setAccessibleDescription(text);
+    if (display->accessibleDescription() != text) {
+        display->display(text);
+        display->setAccessibleDescription(text);
+    }
 }
 
 QToolButton* createReplayButton(const QString& icon)

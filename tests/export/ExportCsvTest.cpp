@@ -181,6 +181,13 @@ TEST_F(CsvTable, PositionsPassTheJumpFilterAfreshInEveryExport)
     mRecord = RecordBuilder();
     mRecord.id(1).at(1).floatValue(1000.0F);
     EXPECT_NE(table().find("0:00:01.000;10.0\n"), std::string::npos) << "another record";
+    mRecord = RecordBuilder();
+    for (const double time : {0.0, 1.0, 2.0, 3.0, 4.0, 6.0, 5.0}) {
+        const float value = time == 6.0 ? 4803.0F : time == 5.0 ? 1000.0F : 4800.0F;
+        mRecord.id(1).at(time).floatValue(value);
+    }
+    EXPECT_NE(table().find("0:00:05.000;48.0\n"), std::string::npos)
+        << "judged by the one before it in time, not in the file";
 }
 
 /// Takes a number of bytes and then refuses, like a full disk.

@@ -8,6 +8,7 @@
 #include <QJsonDocument>
 #include <QSet>
 
+#include <algorithm>
 #include <list>
 #include <utility>
 
@@ -44,11 +45,26 @@ CardCommand::Status CardCommand::open()
         tell(QStringLiteral("%1 is not a usable parameter profile.").arg(mOptions.profile));
         return Status::Failed;
     }
+    warnOfUnknownVariant();
     if (!mCard.readContainer(mOptions.card)) {
         tell(QStringLiteral("There is no card folder %1.").arg(mOptions.card));
         return Status::Failed;
     }
     return Status::Done;
+}
+
+// An unknown name is no error: it takes the elements that no variant is named for.
+void CardCommand::warnOfUnknownVariant()
+{
+    mProfile.loadVariants(mOptions.profile);
+    const auto& variants = mProfile.variants();
+    const bool known =
+        mOptions.variant.isEmpty() || variants.empty() ||
+        std::any_of(variants.begin(), variants.end(),
+                    [this](const ProfileVariant& v) { return v.name == mOptions.variant; });
+    if (!known) {
+        tell(QStringLiteral("Warning: the profile lists no variant %1.").arg(mOptions.variant));
+    }
 }
 
 CardCommand::Status CardCommand::select()

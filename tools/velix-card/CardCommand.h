@@ -26,6 +26,7 @@ private:
     enum class Status { Done = 0, Failed = 1, WrongUsage = 2 };
 
     Status open();
+    void warnOfUnknownVariant();
     Status select();
     Status load();
     void warnOfMissingFlight() const;
