@@ -1,0 +1,68 @@
+#pragma once
+
+#include "views/GraphTrace.h"
+#include "views/GraphYScale.h"
+
+#include <QRectF>
+
+#include <cstddef>
+#include <deque>
+#include <vector>
+
+namespace VELIX {
+
+/// A point of a line in pixels of the frame buffer, y downwards.
+struct GraphVertex
+{
+    float x = 0.0F;
+    float y = 0.0F;
+};
+
+/// The frames of one trace as line strips in pixels, ready to be drawn.
+class GraphCurve
+{
+public:
+    /// Where a trace is drawn: the area (pixels of the frame buffer) shows the times from start to
+    /// stop (seconds) and the values of the scale.
+    struct Target
+    {
+        QRectF area;
+        double start = 0.0;
+        double stop = 1.0;
+        GraphYScale scale;
+    };
+
+    /// Replaces the strips. Lines that leave the area are cut a little outside of it, so that
+    /// coordinates stay small enough for single precision however far the range is zoomed in.
+    void build(const std::deque<GraphTrace::FrameType>& frames, const Target& target);
+
+    [[nodiscard]] const std::vector<GraphVertex>& vertices() const { return mVertices; }
+    [[nodiscard]] std::size_t stripCount() const { return mStarts.size(); }
+    /// First vertex of a strip, and the number of its vertices.
+    [[nodiscard]] int stripStart(std::size_t strip) const { return mStarts[strip]; }
+    [[nodiscard]] int stripSize(std::size_t strip) const;
+
+private:
+    struct Point
+    {
+        double x = 0.0;
+        double y = 0.0;
+    };
+
+    void addFrame(const GraphTrace::FrameType& frame, const Target& target);
+    void lineTo(const Point& point);
+    void moveTo(const Point& point);
+    void startStrip();
+    void push(const Point& point);
+
+    std::vector<GraphVertex> mVertices;
+    std::vector<int> mStarts;
+    Point mLast;
+    bool mConnected = false;
+    double mLeft = 0.0;
+    double mRight = 0.0;
+    double mTop = 0.0;
+    double mBottom = 0.0;
+};
+
+} // namespace VELIX

@@ -1,0 +1,49 @@
+#include "views/GraphLook.h"
+
+#include "gui/Palette.h"
+
+namespace VELIX {
+
+namespace {
+
+constexpr double kReadable = 4.5;
+
+} // namespace
+
+QColor GraphLook::plotText() const
+{
+    const QColor white(Qt::white);
+    const QColor black(Qt::black);
+    return Palette::contrast(white, back) >= Palette::contrast(black, back) ? white : black;
+}
+
+QColor GraphLook::cursor() const
+{
+    const QColor dark = Palette::dark().accent;
+    const QColor light = Palette::light().accent;
+    return Palette::contrast(dark, back) >= Palette::contrast(light, back) ? dark : light;
+}
+
+QColor GraphLook::mix(const QColor& from, const QColor& to, double part)
+{
+    const auto between = [part](int a, int b) { return qRound(a + (b - a) * part); };
+    return {between(from.red(), to.red()), between(from.green(), to.green()),
+            between(from.blue(), to.blue())};
+}
+
+QColor GraphLook::readable(const QColor& colour, const QColor& ground)
+{
+    GraphLook on;
+    on.back = ground;
+    const QColor end = on.plotText();
+    constexpr int kSteps = 16;
+    for (int step = 0; step < kSteps; ++step) {
+        const QColor tried = mix(colour, end, static_cast<double>(step) / kSteps);
+        if (Palette::contrast(tried, ground) >= kReadable) {
+            return tried;
+        }
+    }
+    return end;
+}
+
+} // namespace VELIX

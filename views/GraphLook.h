@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QColor>
+
+namespace VELIX {
+
+/// Colours of the graph and which of its parts are shown.
+struct GraphLook
+{
+    QColor back = QColor(0x00, 0x00, 0x00); ///< ground of the plot
+    QColor grid = QColor(0xff, 0x66, 0x66);
+    QColor label = QColor(0x00, 0x00, 0x00);     ///< texts around the plot
+    QColor labelBack = QColor(0xbb, 0xbb, 0xbb); ///< their ground
+    bool gridOn = true;
+    bool cursorOn = true;
+    bool legendOn = true;
+
+    /// Lines of the ticks, and of their subdivisions: weaker than any trace.
+    [[nodiscard]] QColor majorGrid() const { return mix(back, grid, 0.45); }
+    [[nodiscard]] QColor minorGrid() const { return mix(back, grid, 0.18); }
+    /// Between the bands of the split display.
+    [[nodiscard]] QColor separator() const { return mix(back, plotText(), 0.55); }
+    /// Cursor line and readout; blue that shows on the plot's ground.
+    [[nodiscard]] QColor cursor() const;
+    /// Black or white, whichever is easier to read on the plot's ground.
+    [[nodiscard]] QColor plotText() const;
+    /// Readable, but weaker than plotText().
+    [[nodiscard]] QColor plotMutedText() const { return mix(back, plotText(), 0.68); }
+
+    /// A colour on the way from one (0) to another (1).
+    [[nodiscard]] static QColor mix(const QColor& from, const QColor& to, double part);
+    /// A trace's colour, moved towards black or white until texts in it are readable on a ground.
+    [[nodiscard]] static QColor readable(const QColor& colour, const QColor& ground);
+};
+
+} // namespace VELIX

@@ -1,0 +1,464 @@
+#include "views/GraphOverlay.h"
+
+#include "gui/Palette.h"
+#include "views/GraphModel.h"
+#include "views/GraphTexts.h"
+
+#include <QCoreApplication>
+#include <QPainterPath>
+
+#include <algorithm>
+
+namespace VELIX {
+
+namespace {
+
+constexpr int kPadding = 4; ///< between a text and the edge of its ground
+constexpr int kSwatch = 10;
+constexpr int kTriangle = 5; ///< half the width of a top marker
+constexpr int kGroundAlpha = 205;
+constexpr int kMarkedAlpha = 22;
+
+} // namespace
+
+GraphOverlay::GraphOverlay(QPainter& painter, const GraphModel& model, const GraphScene& scene,
+                           const GraphLook& look, const GraphPointer& pointer)
+    : mPainter(painter),
+      mModel(model),
+      mScene(scene),
+      mLook(look),
+      mPointer(pointer),
+      mMetrics(scene.font),
+      mSplit(model.displayMode() != GraphModel::DisplaySingle)
+{}
+
+void GraphOverlay::paint()
+{
+    mPainter.setFont(mScene.font);
+    paintTimeAxis();
+    paintLegend();
+    const QString hint = GraphTexts::hint(mModel);
+    if (!hint.isEmpty()) {
+        paintHint(hint);
+        return;
+    }
+    paintValueAxes();
+    paintHandles();
+    mPainter.setClipRect(mScene.layout.plot());
+    paintBandNames();
+    paintMarkers();
+    paintTopMarkers();
+    paintCursor();
+    paintHover();
+    paintDrop();
+    paintDistance();
+    mPainter.setClipping(false);
+    if (mLook.cursorOn) {
+        paintTimeTag(mModel.cursorTime(), mLook.cursor());
+    }
+    if (mPointer.hovering) {
+        paintTimeTag(mScene.layout.timeAt(mPointer.mouse.x(), mModel.xmin(), mModel.xmax()),
+                     mLook.label);
+    }
+}
+
+// --- around the plot
+
+void GraphOverlay::paintTimeAxis()
+{
+    const QRect& axis = mScene.layout.timeAxis();
+    mPainter.setPen(mLook.label);
+    for (const GraphTick& tick : mScene.timeTicks) {
+        if (tick.label.isEmpty()) {
+            continue;
+        }
+        const int width = textWidth(tick.label);
+        const int left = std::clamp(axis.left() + qRound(tick.position) - width / 2, 0,
+                                    std::max(0, axis.right() - width));
+        mPainter.drawText(QPoint(left, axis.top() + mMetrics.ascent()), tick.label);
+    }
+}
+
+void GraphOverlay::paintValueAxes()
+{
+    const QRect& axis = mScene.layout.valueAxis();
+    mPainter.setPen(mLook.label);
+    const int half = mMetrics.height() / 2;
+    for (std::size_t band = 0; band < mScene.valueTicks.size(); ++band) {
+        const QRect place = mScene.bandOf(band);
+        for (const GraphTick& tick : mScene.valueTicks[band]) {
+            const int y = place.bottom() + 1 - qRound(tick.position);
+            // A label at the edge of a band would stand in the next one.
+            const bool fits = y - half >= place.top() - 1 && y + half <= place.bottom() + 2;
+            if (tick.label.isEmpty() || (mSplit && !fits)) {
+                continue;
+            }
+            mPainter.drawText(QRect(axis.left(), y - half, axis.width(), mMetrics.height()),
+                              Qt::AlignRight | Qt::AlignVCenter, tick.label);
+        }
+    }
+}
+
+void GraphOverlay::paintHandles()
+{
+    mPainter.setRenderHint(QPainter::Antialiasing);
+    for (std::size_t place = 0; place < mScene.shown.size(); ++place) {
+        const QRect handle = mScene.layout.handle(static_cast<int>(place));
+        mPainter.setPen(Qt::NoPen);
+        mPainter.setBrush(colourOf(mScene.shown[place]));
+        mPainter.drawRoundedRect(handle, 2, 2);
+        if (handle.height() < 8) {
+            continue;
+        }
+        // Three dots, as on everything that can be dragged.
+        mPainter.setBrush(QColor(255, 255, 255, 200));
+        for (int dot = -1; dot <= 1; ++dot) {
+            mPainter.drawEllipse(QPointF(QRectF(handle).center()) + QPointF(0.0, 4.0 * dot), 1.0,
+                                 1.0);
+        }
+    }
+    mPainter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void GraphOverlay::paintDrop()
+{
+    if (mPointer.draggedTrace < 0 || mPointer.dropPlace < 0) {
+        return;
+    }
+    const QRect plot = mScene.layout.plot();
+    const QRect handle = mScene.layout.handle(mPointer.dropPlace);
+    const QRect target = mSplit ? mScene.layout.band(mPointer.dropPlace)
+                                : QRect(plot.left(), handle.top(), plot.width(), handle.height());
+    QColor ground = mLook.cursor();
+    ground.setAlpha(60);
+    mPainter.fillRect(target, ground);
+}
+
+void GraphOverlay::paintLegend()
+{
+    const GraphLayout& parts = mScene.layout;
+    if (parts.legendKind() == GraphLayout::Legend::None) {
+        return;
+    }
+    if (const QRect header = parts.legendHeader(); !header.isEmpty()) {
+        mPainter.setFont(mScene.fixedFont);
+        mPainter.setPen(GraphLook::mix(mLook.labelBack, mLook.label, 0.75));
+        const bool beside = parts.legendKind() == GraphLayout::Legend::NamesAndValues;
+        const QString columns = GraphTexts::legendHeader(mPointer.markersOn);
+        if (beside) {
+            const QFontMetrics fixed(mScene.fixedFont);
+            mPainter.drawText(header.adjusted(header.width() - parts.legendValuesWidth(), 0, 0, 0),
+                              Qt::AlignLeft | Qt::AlignVCenter, columns);
+        } else {
+            mPainter.drawText(header.adjusted(2 * kSwatch, 0, 0, 0),
+                              Qt::AlignLeft | Qt::AlignVCenter, columns);
+        }
+        mPainter.setFont(mScene.font);
+    }
+    for (int row = 0; row < parts.legendShown(); ++row) {
+        paintLegendEntry(row, parts.legendEntry(row));
+    }
+    const int others = static_cast<int>(mScene.listed.size()) - parts.legendShown();
+    if (others > 0) {
+        mPainter.setPen(mLook.label);
+        mPainter.drawText(
+            parts.legendEntry(parts.legendShown()).adjusted(2 * kSwatch, 0, 0, 0),
+            Qt::AlignLeft | Qt::AlignVCenter,
+            QCoreApplication::translate("GraphOverlay", "+ %n more", nullptr, others));
+    }
+}
+
+void GraphOverlay::paintLegendEntry(int row, const QRect& place)
+{
+    const unsigned int trace = mScene.listed[static_cast<std::size_t>(row)];
+    const GraphModel::ParStruct& parameter = mModel.parameter(trace);
+    const bool shown = mModel.isShown(trace);
+    const QFontMetrics fixed(mScene.fixedFont);
+    const int line = std::max(mMetrics.height(), fixed.height());
+    const bool selected = shown && mScene.shown.size() > 1 && mModel.selectedTrace() == trace;
+
+    const QRect swatch(place.left(), place.top() + (line - kSwatch) / 2, kSwatch, kSwatch);
+    if (selected) {
+        mPainter.fillRect(place, GraphLook::mix(mLook.labelBack, mLook.cursor(), 0.25));
+    }
+    mPainter.setPen(colourOf(trace));
+    mPainter.setBrush(shown ? QBrush(colourOf(trace)) : QBrush(Qt::NoBrush));
+    mPainter.drawRect(swatch.adjusted(1, 0, 0, -1));
+
+    mPainter.setPen(shown ? mLook.label : GraphLook::mix(mLook.labelBack, mLook.label, 0.45));
+    QRect name(place.left() + 2 * kSwatch, place.top(), place.width() - 2 * kSwatch, line);
+    const GraphLayout::Legend kind = mScene.layout.legendKind();
+    if (kind != GraphLayout::Legend::Names) {
+        const QString values = GraphTexts::legendValues(mModel, trace, mPointer.markersOn);
+        QRect at = name;
+        if (kind == GraphLayout::Legend::NamesAboveValues) {
+            at.translate(0, line - 1);
+        } else {
+            const int width = mScene.layout.legendValuesWidth();
+            at.setLeft(place.right() + 1 - width);
+            name.setRight(at.left() - kPadding);
+        }
+        mPainter.setFont(mScene.fixedFont);
+        mPainter.drawText(at, Qt::AlignLeft | Qt::AlignVCenter, values);
+        mPainter.setFont(mScene.font);
+    }
+    mPainter.drawText(name, Qt::AlignLeft | Qt::AlignVCenter,
+                      mMetrics.elidedText(parameter.name, Qt::ElideRight, name.width()));
+}
+
+void GraphOverlay::paintTimeTag(double time, const QColor& colour)
+{
+    const QRect& axis = mScene.layout.timeAxis();
+    const double x = xOf(time);
+    if (!inPlot(x)) {
+        return;
+    }
+    const double perPixel = (mModel.xmax() - mModel.xmin()) / std::max(axis.width(), 1);
+    const QString text = GraphTexts::cursorTime(time, perPixel);
+    const int width = textWidth(text) + 2 * kPadding;
+    const int left = std::clamp(qRound(x) - width / 2, 0, std::max(0, axis.right() + 8 - width));
+    const QRect tag(left, axis.top() - 2, width, axis.height() + 4);
+    mPainter.fillRect(tag, colour);
+    mPainter.setPen(Palette::textOn(colour));
+    mPainter.drawText(tag, Qt::AlignCenter, text);
+}
+
+void GraphOverlay::paintHint(const QString& text)
+{
+    const QRect area = mScene.layout.plot().adjusted(8, 8, -8, -8);
+    mPainter.setPen(mLook.plotMutedText());
+    mPainter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, text);
+}
+
+// --- inside the plot
+
+bool GraphOverlay::bandsHoldText() const
+{
+    return mSplit && !mScene.shown.empty() &&
+           mScene.layout.plot().height() / static_cast<int>(mScene.shown.size()) >=
+               mMetrics.height();
+}
+
+void GraphOverlay::paintBandNames()
+{
+    if (!bandsHoldText()) {
+        return;
+    }
+    for (std::size_t place = 0; place < mScene.shown.size(); ++place) {
+        const unsigned int trace = mScene.shown[place];
+        const QRect band = mScene.bandOf(place);
+        const QString name =
+            mMetrics.elidedText(mModel.parameter(trace).name, Qt::ElideRight, band.width() / 2);
+        const QRect ground(band.left(), band.top() + 1, textWidth(name) + 2 * kPadding,
+                           mMetrics.height() - 1);
+        QColor back = mLook.back;
+        back.setAlpha(kGroundAlpha);
+        mPainter.fillRect(ground, back);
+        mPainter.setPen(GraphLook::readable(colourOf(trace), mLook.back));
+        mPainter.drawText(ground.adjusted(kPadding, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                          name);
+    }
+}
+
+void GraphOverlay::paintMarkers()
+{
+    if (!mPointer.markersOn) {
+        return;
+    }
+    const QRect plot = mScene.layout.plot();
+    const double from =
+        std::max(xOf(std::min(mModel.marker1(), mModel.marker2())), 1.0 * plot.left());
+    const double to =
+        std::min(xOf(std::max(mModel.marker1(), mModel.marker2())), plot.right() + 1.0);
+    if (to > from) {
+        QColor ground = mLook.plotText();
+        ground.setAlpha(kMarkedAlpha);
+        mPainter.fillRect(QRectF(from, plot.top(), to - from, plot.height()), ground);
+    }
+    // The flags point outwards, so that they do not hide each other.
+    const bool sorted = mModel.marker1() <= mModel.marker2();
+    paintFlag(QStringLiteral("1"), mModel.marker1(), sorted);
+    paintFlag(QStringLiteral("2"), mModel.marker2(), !sorted);
+}
+
+void GraphOverlay::paintFlag(const QString& text, double time, bool leftOfLine)
+{
+    const double x = xOf(time);
+    if (!inPlot(x)) {
+        return;
+    }
+    const QRect plot = mScene.layout.plot();
+    const int width = textWidth(text) + 2 * kPadding;
+    const QRect flag(leftOfLine ? qRound(x) - width : qRound(x) + 1,
+                     plot.bottom() + 1 - mMetrics.height(), width, mMetrics.height());
+    mPainter.fillRect(flag, mLook.plotText());
+    mPainter.setPen(mLook.back);
+    mPainter.drawText(flag, Qt::AlignCenter, text);
+}
+
+void GraphOverlay::paintTopMarkers()
+{
+    const QRect plot = mScene.layout.plot();
+    mPainter.setRenderHint(QPainter::Antialiasing);
+    for (const GraphModel::TopMarker& marker : mModel.topMarkers()) {
+        const double x = xOf(marker.time);
+        if (!inPlot(x)) {
+            continue;
+        }
+        const bool known = marker.number < mModel.count();
+        const QColor colour =
+            known ? GraphLook::readable(colourOf(marker.number), mLook.back) : mLook.plotText();
+        QPainterPath triangle(QPointF(x - kTriangle, plot.top()));
+        triangle.lineTo(x + kTriangle, plot.top());
+        triangle.lineTo(x, plot.top() + 1.6 * kTriangle);
+        triangle.closeSubpath();
+        mPainter.fillPath(triangle, colour);
+        const QString name = known ? mModel.parameter(marker.number).name : QString();
+        paintNote(QPoint(qRound(x), plot.top() + mMetrics.height() / 2),
+                  {GraphTexts::timed(name, marker.time), colour}, plot);
+    }
+    mPainter.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void GraphOverlay::paintCursor()
+{
+    if (!mLook.cursorOn) {
+        return;
+    }
+    std::vector<Note> notes;
+    for (const unsigned int trace : mScene.shown) {
+        notes.push_back({GraphTexts::readout(mModel, trace, mModel.cursorTime()),
+                         GraphLook::readable(colourOf(trace), mLook.back)});
+    }
+    if (!mPointer.hovering) {
+        paintReadouts(mModel.cursorTime(), mScene.layout.plot().center().y(), notes);
+    }
+}
+
+void GraphOverlay::paintHover()
+{
+    if (!mPointer.hovering) {
+        return;
+    }
+    const double time = mScene.layout.timeAt(mPointer.mouse.x(), mModel.xmin(), mModel.xmax());
+    const bool named = !bandsHoldText();
+    std::vector<Note> notes;
+    for (const unsigned int trace : mScene.shown) {
+        QString text = GraphTexts::hover(mModel, trace, time);
+        if (named) {
+            text.prepend(mModel.parameter(trace).name + QStringLiteral("  "));
+        }
+        notes.push_back({text, GraphLook::readable(colourOf(trace), mLook.back)});
+    }
+    paintReadouts(time, mPointer.mouse.y(), notes);
+}
+
+void GraphOverlay::paintReadouts(double time, int y, const std::vector<Note>& notes)
+{
+    const double x = xOf(time);
+    if (!inPlot(x)) {
+        return;
+    }
+    if (!bandsHoldText()) {
+        paintBox(QPoint(qRound(x), y), notes);
+        return;
+    }
+    for (std::size_t place = 0; place < notes.size(); ++place) {
+        const QRect band = mScene.bandOf(place).adjusted(0, 1, 0, 0);
+        paintNote(QPoint(qRound(x), band.center().y()), notes[place], band);
+    }
+}
+
+void GraphOverlay::paintNote(const QPoint& anchor, const Note& note, const QRect& area)
+{
+    const QSize size(textWidth(note.text) + 2 * kPadding,
+                     std::min(mMetrics.height(), area.height()));
+    const QRect place = GraphLayout::placeBeside(anchor, size, area);
+    QColor ground = mLook.back;
+    ground.setAlpha(kGroundAlpha);
+    mPainter.fillRect(place, ground);
+    mPainter.setPen(note.colour);
+    mPainter.drawText(place, Qt::AlignCenter, note.text);
+}
+
+void GraphOverlay::paintBox(const QPoint& anchor, const std::vector<Note>& notes)
+{
+    const QRect area = mScene.layout.plot().adjusted(kPadding, kPadding, -kPadding, -kPadding);
+    const int line = mMetrics.height();
+    const int fitting = std::max(0, (area.height() - 2 * kPadding) / line);
+    const int count = static_cast<int>(notes.size());
+    // The last line counts what does not fit.
+    const int shown = count <= fitting ? count : std::max(0, fitting - 1);
+    QStringList lines;
+    int width = 0;
+    for (int i = 0; i < shown; ++i) {
+        lines.append(notes[static_cast<std::size_t>(i)].text);
+    }
+    if (shown < count) {
+        lines.append(
+            QCoreApplication::translate("GraphOverlay", "+ %n more", nullptr, count - shown));
+    }
+    for (const QString& text : qAsConst(lines)) {
+        width = std::max(width, textWidth(text));
+    }
+    const QSize size(width + 2 * kPadding, static_cast<int>(lines.size()) * line + 2 * kPadding);
+    const QRect box = GraphLayout::placeBeside(anchor, size, area);
+    QColor ground = mLook.back;
+    ground.setAlpha(kGroundAlpha);
+    mPainter.fillRect(box, ground);
+    mPainter.setPen(mLook.separator());
+    mPainter.setBrush(Qt::NoBrush);
+    mPainter.drawRect(box.adjusted(0, 0, -1, -1));
+    for (int i = 0; i < static_cast<int>(lines.size()); ++i) {
+        mPainter.setPen(i < shown ? notes[static_cast<std::size_t>(i)].colour
+                                  : mLook.plotMutedText());
+        const QRect place(box.left() + kPadding, box.top() + kPadding + i * line,
+                          box.width() - 2 * kPadding, line);
+        mPainter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter, lines[i]);
+    }
+}
+
+void GraphOverlay::paintDistance()
+{
+    if (!mPointer.distance || !mPointer.markersOn) {
+        return;
+    }
+    const QRect plot = mScene.layout.plot();
+    const double middle = (xOf(mModel.marker1()) + xOf(mModel.marker2())) / 2.0;
+    const QString text = GraphTexts::distance(mModel.markerDistance());
+    const int width = textWidth(text) + 4 * kPadding;
+    const int left = qRound(std::clamp(middle - width / 2.0, 1.0 * plot.left(),
+                                       std::max(1.0 * plot.left(), plot.right() + 1.0 - width)));
+    const QRect tag(left, plot.bottom() - 2 * mMetrics.height() - kPadding, width,
+                    mMetrics.height() + 2);
+    mPainter.fillRect(tag, mLook.plotText());
+    mPainter.setPen(mLook.back);
+    mPainter.drawText(tag, Qt::AlignCenter, text);
+}
+
+// --- helpers
+
+double GraphOverlay::xOf(double time) const
+{
+    return mScene.layout.xOf(time, mModel.xmin(), mModel.xmax());
+}
+
+bool GraphOverlay::inPlot(double x) const
+{
+    const QRect plot = mScene.layout.plot();
+    return x >= plot.left() && x <= plot.right() + 1.0;
+}
+
+QColor GraphOverlay::colourOf(unsigned int trace) const
+{
+    const GraphModel::Colour& colour = mModel.parameter(trace).colour;
+    return QColor::fromRgbF(static_cast<double>(colour[0]), static_cast<double>(colour[1]),
+                            static_cast<double>(colour[2]));
+}
+
+int GraphOverlay::textWidth(const QString& text) const
+{
+    return mMetrics.horizontalAdvance(text);
+}
+
+} // namespace VELIX

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "views/GraphLook.h"
+#include "views/GraphPointer.h"
+#include "views/GraphScene.h"
+
+#include <QPainter>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace VELIX {
+
+class GraphModel;
+
+/// Everything in a graph that is not a line: labels of the axes, legend, drag handles, readouts,
+/// markers' flags. Painted over the lines, in logical pixels.
+class GraphOverlay
+{
+public:
+    GraphOverlay(QPainter& painter, const GraphModel& model, const GraphScene& scene,
+                 const GraphLook& look, const GraphPointer& pointer);
+
+    void paint();
+
+private:
+    /// A text beside a line in the plot.
+    struct Note
+    {
+        QString text;
+        QColor colour;
+    };
+
+    void paintTimeAxis();
+    void paintValueAxes();
+    void paintBandNames();
+    void paintHandles();
+    void paintDrop();
+    void paintLegend();
+    void paintLegendEntry(int row, const QRect& place);
+    void paintMarkers();
+    void paintFlag(const QString& text, double time, bool leftOfLine);
+    void paintTopMarkers();
+    void paintCursor();
+    void paintHover();
+    void paintDistance();
+    void paintHint(const QString& text);
+
+    /// Readouts of all traces at a time, beside that time's line: in the bands where they are high
+    /// enough, else together in a box at a height.
+    void paintReadouts(double time, int y, const std::vector<Note>& notes);
+    void paintNote(const QPoint& anchor, const Note& note, const QRect& area);
+    void paintBox(const QPoint& anchor, const std::vector<Note>& notes);
+    void paintTimeTag(double time, const QColor& colour);
+    [[nodiscard]] double xOf(double time) const;
+    [[nodiscard]] bool inPlot(double x) const;
+    [[nodiscard]] QColor colourOf(unsigned int trace) const;
+    [[nodiscard]] int textWidth(const QString& text) const;
+    [[nodiscard]] bool bandsHoldText() const;
+
+    QPainter& mPainter;
+    const GraphModel& mModel;
+    const GraphScene& mScene;
+    const GraphLook& mLook;
+    const GraphPointer& mPointer;
+    QFontMetrics mMetrics;
+    bool mSplit;
+};
+
+} // namespace VELIX

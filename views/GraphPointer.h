@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QPoint>
+
+namespace VELIX {
+
+/// What mouse and keyboard show in a graph for the moment.
+struct GraphPointer
+{
+    QPoint mouse;              ///< logical pixels of the widget
+    bool hovering = false;     ///< the mouse is over the plot, with no button down
+    bool cursorActive = false; ///< the cursor was just moved by a key
+    bool markersOn = false;
+    bool distance = false; ///< the distance of the markers is shown
+    int draggedTrace = -1; ///< place of the trace that is being moved; -1: none
+    int dropPlace = -1;    ///< where it would go
+};
+
+} // namespace VELIX

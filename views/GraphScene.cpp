@@ -1,0 +1,123 @@
+#include "views/GraphScene.h"
+
+#include "views/GraphModel.h"
+#include "views/GraphTexts.h"
+
+#include <QFontDatabase>
+#include <QFontMetrics>
+
+#include <algorithm>
+
+namespace VELIX {
+
+namespace {
+
+/// Widths are rounded up to this, so that the plot does not move with every digit.
+constexpr int kWidthStep = 8;
+constexpr int kLeastAxisWidth = 24;
+constexpr int kMostNameWidth = 160;
+
+int roundedUp(int width)
+{
+    return (width + kWidthStep - 1) / kWidthStep * kWidthStep;
+}
+
+void fillTicks(GraphScene& scene, const GraphModel& model, const QFontMetrics& metrics)
+{
+    scene.valueTicks.clear();
+    for (int band = 0; band < scene.layout.bandCount(); ++band) {
+        const bool single = scene.layout.bandAt(0) < 0;
+        if (single && scene.shown.empty()) {
+            break;
+        }
+        const unsigned int trace = scene.shown[static_cast<std::size_t>(band)];
+        const GraphYScale& scale = single ? model.commonScale() : model.scaleOf(trace);
+        scene.valueTicks.push_back(GraphTicks::valueTicks(
+            scale.minimum, scale.maximum, scene.layout.band(band).height(), metrics.height()));
+    }
+}
+
+int axisWidth(const GraphScene& scene, const QFontMetrics& metrics)
+{
+    int width = kLeastAxisWidth;
+    for (const std::vector<GraphTick>& ticks : scene.valueTicks) {
+        for (const GraphTick& tick : ticks) {
+            if (!tick.label.isEmpty()) {
+                width = std::max(width, metrics.horizontalAdvance(tick.label));
+            }
+        }
+    }
+    return roundedUp(width);
+}
+
+QFont fixedFontLike(const QFont& font)
+{
+    QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    if (font.pixelSize() > 0) {
+        fixed.setPixelSize(font.pixelSize());
+    } else {
+        fixed.setPointSizeF(font.pointSizeF());
+    }
+    return fixed;
+}
+
+} // namespace
+
+GraphScene GraphScene::make(const GraphModel& model, const GraphLook& look, const QSize& size,
+                            const QFont& font)
+{
+    GraphScene scene;
+    scene.font = font;
+    scene.fixedFont = fixedFontLike(font);
+    const QFontMetrics metrics(font);
+    const QFontMetrics fixed(scene.fixedFont);
+
+    GraphLayoutInput input;
+    input.size = size;
+    input.lineHeight = std::max(metrics.height(), fixed.height());
+    input.legend = look.legendOn;
+    input.split = model.displayMode() != GraphModel::DisplaySingle;
+    input.nameWidth = 0;
+    for (const unsigned int trace : model.displayOrder()) {
+        const GraphModel::ParStruct& parameter = model.parameter(trace);
+        if (!parameter.active) {
+            continue;
+        }
+        scene.listed.push_back(trace);
+        if (model.isShown(trace)) {
+            scene.shown.push_back(trace);
+        }
+        input.nameWidth = std::max(input.nameWidth, metrics.horizontalAdvance(parameter.name));
+        input.valuesWidth =
+            std::max(input.valuesWidth,
+                     fixed.horizontalAdvance(GraphTexts::legendValues(model, trace, false)));
+    }
+    input.nameWidth = std::min(roundedUp(input.nameWidth), kMostNameWidth);
+    input.valuesWidth = roundedUp(input.valuesWidth);
+    input.traces = static_cast<int>(scene.shown.size());
+    input.legendRows = static_cast<int>(scene.listed.size());
+
+    // The labels of the value axes need the plot's height only, which no width changes.
+    input.axisWidth = 0;
+    scene.layout = GraphLayout(input);
+    if (scene.layout.empty()) {
+        return scene;
+    }
+    fillTicks(scene, model, metrics);
+    input.axisWidth = axisWidth(scene, metrics);
+    scene.layout = GraphLayout(input);
+    if (!scene.layout.empty()) {
+        scene.timeTicks = GraphTicks::timeTicks(
+            model.xmin(), model.xmax(), scene.layout.plot().width(),
+            [&metrics](const QString& label) { return metrics.horizontalAdvance(label); });
+    }
+    return scene;
+}
+
+int GraphScene::placeOf(unsigned int trace) const
+{
+    const auto found = std::find(shown.begin(), shown.end(), trace);
+    return found == shown.end() ? -1 : static_cast<int>(found - shown.begin());
+}
+
+} // namespace VELIX
