@@ -14,139 +14,20 @@ constexpr double kRepaintPixels = 0.7;
 /// Recomputations that follow the first one after startRecalc().
 constexpr int kMoreRecalcs = 3;
 
-constexpr std::array<GraphModel::Colour, 6> kDefaultColours = {{{1.0F, 0.0F, 0.0F},
-                                                                {0.0F, 0.7F, 0.0F},
-                                                                {0.0F, 0.0F, 0.7F},
-                                                                {0.5F, 0.5F, 0.0F},
-                                                                {0.0F, 0.5F, 0.5F},
-                                                                {0.5F, 0.0F, 0.5F}}};
-
 } // namespace
 
 GraphModel::GraphModel() = default;
 
-// --- traces
-
-void GraphModel::setMaxParameters(unsigned int count)
-{
-    mParameters = std::vector<ParStruct>(std::min(count, kMaxTraces));
-    for (std::size_t i = 0; i < mParameters.size(); ++i) {
-        mParameters[i].colour = kDefaultColours[i % kDefaultColours.size()];
-        mParameters[i].colourKey = QString::asprintf("GraphColor%d", static_cast<int>(i));
-    }
-    mDisplayOrder.resize(mParameters.size());
-    std::iota(mDisplayOrder.begin(), mDisplayOrder.end(), 0U);
-    mSelected = kNoTrace;
-    touch();
-}
-
-GraphModel::ParStruct* GraphModel::find(unsigned int i)
-{
-    if (i >= mParameters.size()) {
-        return nullptr;
-    }
-    touch();
-    return &mParameters[i];
-}
-
-void GraphModel::setParameterName(unsigned int i, const std::string& name)
-{
-    if (ParStruct* found = find(i)) {
-        found->name = QString::fromStdString(name);
-    }
-}
-
-void GraphModel::setParameterUnit(unsigned int i, const std::string& unit)
-{
-    if (ParStruct* found = find(i)) {
-        found->unit = QString::fromStdString(unit);
-    }
-}
-
-void GraphModel::setParameterColor(unsigned int i, float red, float green, float blue)
-{
-    if (ParStruct* found = find(i)) {
-        found->colour = {red, green, blue};
-    }
-}
-
-void GraphModel::setPrecision(unsigned int i, int decimals)
-{
-    constexpr int kMostDecimals = 17;
-    if (ParStruct* found = find(i)) {
-        found->precision = std::clamp(decimals, 0, kMostDecimals);
-    }
-}
+// --- feeding
 
 void GraphModel::setActive(unsigned int i, bool active)
 {
-    if (ParStruct* found = find(i)) {
-        mFramesStale = mFramesStale || (active && !found->active);
-        found->active = active;
+    if (i < parameters().size()) {
+        mFramesStale = mFramesStale || (active && !parameters()[i].active);
+        parameters()[i].active = active;
+        touch();
     }
 }
-
-void GraphModel::setVisible(unsigned int i, bool visible)
-{
-    if (ParStruct* found = find(i)) {
-        found->visible = visible;
-    }
-}
-
-void GraphModel::activateSamples(unsigned int i, bool on)
-{
-    if (ParStruct* found = find(i)) {
-        found->samples = on;
-    }
-}
-
-unsigned int GraphModel::nrActive() const
-{
-    return static_cast<unsigned int>(
-        std::count_if(mParameters.begin(), mParameters.end(),
-                      [](const ParStruct& parameter) { return parameter.active; }));
-}
-
-bool GraphModel::isShown(unsigned int i) const
-{
-    return i < mParameters.size() && mParameters[i].active && mParameters[i].visible;
-}
-
-bool GraphModel::hasShownSamples() const
-{
-    return std::any_of(mDisplayOrder.begin(), mDisplayOrder.end(), [this](unsigned int i) {
-        return isShown(i) && !mParameters[i].trace.isEmpty();
-    });
-}
-
-void GraphModel::moveParameter(unsigned int from, unsigned int to)
-{
-    if (from >= mDisplayOrder.size() || to >= mDisplayOrder.size()) {
-        return;
-    }
-    const unsigned int moved = mDisplayOrder[from];
-    mDisplayOrder.erase(mDisplayOrder.begin() + from);
-    mDisplayOrder.insert(mDisplayOrder.begin() + to, moved);
-    touch();
-}
-
-unsigned int GraphModel::selectedTrace() const
-{
-    if (isShown(mSelected)) {
-        return mSelected;
-    }
-    const auto shown = std::find_if(mDisplayOrder.begin(), mDisplayOrder.end(),
-                                    [this](unsigned int i) { return isShown(i); });
-    return shown == mDisplayOrder.end() ? kNoTrace : *shown;
-}
-
-void GraphModel::setSelectedTrace(unsigned int i)
-{
-    mSelected = i;
-    touch();
-}
-
-// --- feeding
 
 void GraphModel::setTime(double t)
 {
@@ -170,10 +51,10 @@ void GraphModel::setTime(double t)
 
 void GraphModel::putValue(unsigned int i, double value, bool hold)
 {
-    if (i >= mParameters.size() || !mSampling) {
+    if (i >= parameters().size() || !mSampling) {
         return;
     }
-    store(mParameters[i], value, hold);
+    store(parameters()[i], value, hold);
     touch();
 }
 
@@ -185,12 +66,13 @@ void GraphModel::store(ParStruct& parameter, double value, bool hold)
 
 bool GraphModel::hasNewValue(unsigned int i) const
 {
-    return i < mParameters.size() && mParameters[i].newAt != 0 && mParameters[i].newAt == mTimeStep;
+    return i < parameters().size() && parameters()[i].newAt != 0 &&
+           parameters()[i].newAt == mTimeStep;
 }
 
 void GraphModel::clear()
 {
-    for (ParStruct& parameter : mParameters) {
+    for (ParStruct& parameter : parameters()) {
         parameter.trace.clear();
         parameter.newAt = 0;
     }
@@ -220,41 +102,19 @@ void GraphModel::reset()
 
 // --- values
 
-bool GraphModel::getValue(unsigned int i, double t, double& v) const
-{
-    v = 0.0;
-    return i < mParameters.size() && mParameters[i].trace.getValue(t, v);
-}
-
-bool GraphModel::getParameterRangeX(unsigned int i, double& first, double& last) const
-{
-    const bool known = i < mParameters.size() && !mParameters[i].trace.isEmpty();
-    first = known ? mParameters[i].trace.firstTime() : 0.0;
-    last = known ? mParameters[i].trace.latestTime() : 0.0;
-    return known;
-}
-
-bool GraphModel::getParameterRangeY(unsigned int i, double& low, double& high) const
-{
-    const bool known = i < mParameters.size() && mParameters[i].trace.hasRange();
-    low = known ? mParameters[i].trace.minimum() : 0.0;
-    high = known ? mParameters[i].trace.maximum() : 0.0;
-    return known;
-}
-
 double GraphModel::getCurrentAverageValue() const
 {
     const unsigned int i = selectedTrace();
     return i == kNoTrace ? 0.0
-                         : mParameters[i].trace.statistics(mRange.xmin(), mRange.xmax()).average;
+                         : parameters()[i].trace.statistics(mRange.xmin(), mRange.xmax()).average;
 }
 
 GraphTrace::Statistics GraphModel::markerStatistics(unsigned int i) const
 {
-    if (i >= mParameters.size()) {
+    if (i >= parameters().size()) {
         return {};
     }
-    const GraphTrace& trace = mParameters[i].trace;
+    const GraphTrace& trace = parameters()[i].trace;
     return mMarker1 == mMarker2
                ? trace.statistics(mRange.xmin(), mRange.xmax())
                : trace.statistics(std::min(mMarker1, mMarker2), std::max(mMarker1, mMarker2));
@@ -374,7 +234,7 @@ double GraphModel::pixelAt(double time) const
 
 void GraphModel::recalcFrameBuffer()
 {
-    for (ParStruct& parameter : mParameters) {
+    for (ParStruct& parameter : parameters()) {
         if (parameter.active) {
             parameter.trace.recalcFrameBuffer(mRange.xmin(), mRange.xmax(), secondsPerPixel());
         }
@@ -392,7 +252,7 @@ void GraphModel::calcFrame()
     updateExtent();
     if (mGraphMode == GraphAutomatic) {
         repeatHeldValues();
-        for (ParStruct& parameter : mParameters) {
+        for (ParStruct& parameter : parameters()) {
             parameter.trace.dropFramesBefore(mRange.xmin());
         }
     }
@@ -404,7 +264,7 @@ void GraphModel::updateScales()
     const bool automatic = mAutoScaleY && !mYRangeOn;
     double low = std::numeric_limits<double>::infinity();
     double high = -low;
-    for (ParStruct& parameter : mParameters) {
+    for (ParStruct& parameter : parameters()) {
         const GraphTrace& trace = parameter.trace;
         parameter.yScale = fixed;
         if (automatic && trace.hasRange()) {
@@ -421,7 +281,7 @@ void GraphModel::updateScales()
 void GraphModel::updateExtent()
 {
     mHasExtent = false;
-    for (const ParStruct& parameter : mParameters) {
+    for (const ParStruct& parameter : parameters()) {
         const GraphTrace& trace = parameter.trace;
         if (!trace.isEmpty()) {
             mExtentFirst =
@@ -438,7 +298,7 @@ void GraphModel::repeatHeldValues()
     if (mOffline) {
         return;
     }
-    for (ParStruct& parameter : mParameters) {
+    for (ParStruct& parameter : parameters()) {
         const GraphTrace& trace = parameter.trace;
         const bool behind = !trace.isEmpty() && trace.latestTime() <= mCurrentTime;
         if (parameter.active && behind && parameter.newAt != mTimeStep) {
@@ -449,8 +309,8 @@ void GraphModel::repeatHeldValues()
 
 const GraphYScale& GraphModel::scaleOf(unsigned int i) const
 {
-    return mDisplayMode == DisplaySingle || i >= mParameters.size() ? mCommonScale
-                                                                    : mParameters[i].yScale;
+    return mDisplayMode == DisplaySingle || i >= parameters().size() ? mCommonScale
+                                                                     : parameters()[i].yScale;
 }
 
 void GraphModel::startRecalc()

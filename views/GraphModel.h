@@ -2,13 +2,10 @@
 
 #include "views/GraphTimeRange.h"
 #include "views/GraphTrace.h"
+#include "views/GraphTraceSet.h"
 #include "views/GraphYScale.h"
 
-#include <QString>
-
-#include <array>
 #include <cstdint>
-#include <string>
 #include <vector>
 
 namespace VELIX {
@@ -19,7 +16,7 @@ namespace VELIX {
 /// Times are seconds. Trace numbers beyond count() are ignored everywhere, as are times and limits
 /// that are not finite. Feeding: setTime(t), then putValue(i, value, hold) for every trace i with a
 /// sample at that time.
-class GraphModel
+class GraphModel : public GraphTraceSet
 {
 public:
     enum eCursorMode : int {
@@ -36,25 +33,6 @@ public:
         DisplaySplit = 1   ///< each trace in a band of its own; so does any value but 0
     };
 
-    /// Red, green, blue, each 0 to 1.
-    using Colour = std::array<float, 3>;
-
-    /// A trace and how it is shown.
-    struct ParStruct
-    {
-        GraphTrace trace;
-        QString name = QStringLiteral("NoName");
-        QString unit = QStringLiteral("-"); ///< shown with the values
-        Colour colour = {1.0F, 0.0F, 0.0F};
-        QString colourKey;    ///< "GraphColor%d" of the trace number
-        int precision = 2;    ///< decimals of the readout
-        bool active = false;  ///< has a place in the graph and the legend
-        bool visible = true;  ///< false: hidden for the moment, with its place in the legend kept
-        bool samples = false; ///< draw the sample points
-        GraphYScale yScale;   ///< the trace's own scale, kept by calcFrame()
-        std::uint64_t newAt = 0; ///< internal: see GraphModel::hasNewValue
-    };
-
     /// A labelled triangle at the upper edge of the plot.
     struct TopMarker
     {
@@ -63,47 +41,13 @@ public:
     };
 
     static constexpr double kSecondsPerDay = 86400.0;
-    /// Number of the trace that stands for "none".
-    static constexpr unsigned int kNoTrace = ~0U;
 
     GraphModel();
 
-    // --- traces
-
-    static constexpr unsigned int kMaxTraces = 1000;
-    /// Makes @p count fresh traces, kMaxTraces at most; those that there were are forgotten.
-    void setMaxParameters(unsigned int count);
-    [[nodiscard]] unsigned int count() const
-    {
-        return static_cast<unsigned int>(mParameters.size());
-    }
-    /// @pre i < count()
-    [[nodiscard]] const ParStruct& parameter(unsigned int i) const { return mParameters[i]; }
-    void setParameterName(unsigned int i, const std::string& name);
-    void setParameterUnit(unsigned int i, const std::string& unit);
-    void setParameterColor(unsigned int i, float red, float green, float blue);
-    void setPrecision(unsigned int i, int decimals);
-    void setActive(unsigned int i, bool active);
-    void setVisible(unsigned int i, bool visible);
-    void activateSamples(unsigned int i, bool on);
-    [[nodiscard]] unsigned int nrActive() const;
-    /// Whether the trace is active and not hidden.
-    [[nodiscard]] bool isShown(unsigned int i) const;
-    /// Whether a shown trace has a sample.
-    [[nodiscard]] bool hasShownSamples() const;
-
-    /// The numbers of all traces in the order of display, from top to bottom.
-    [[nodiscard]] const std::vector<unsigned int>& displayOrder() const { return mDisplayOrder; }
-    /// Moves the trace at place @p from of the order of display to place @p to. Its number stays.
-    void moveParameter(unsigned int from, unsigned int to);
-
-    /// The trace that the cursor's Y value and the average refer to; kNoTrace without an active
-    /// trace. While none was selected, or the selected one is not shown any more, the first shown
-    /// trace is.
-    [[nodiscard]] unsigned int selectedTrace() const;
-    void setSelectedTrace(unsigned int i);
-
     // --- feeding
+
+    /// Gives the trace a place in the graph and the legend, or takes it away. Samples stay.
+    void setActive(unsigned int i, bool active);
 
     /// The current time, limited to 0..86400. Moves the visible range in automatic mode, allows
     /// samples, and rebuilds the frames if that is pending.
@@ -122,12 +66,6 @@ public:
 
     // --- values
 
-    /// See GraphTrace::getValue. A gap gives true and a value that is not finite.
-    [[nodiscard]] bool getValue(unsigned int i, double t, double& v) const;
-    /// Times of the first and the latest sample; false and 0, 0 without samples.
-    bool getParameterRangeX(unsigned int i, double& first, double& last) const;
-    /// The lowest and the highest value; false and 0, 0 without finite samples.
-    bool getParameterRangeY(unsigned int i, double& low, double& high) const;
     /// Mean of the selected trace's samples in the visible range; 0 when there are none.
     [[nodiscard]] double getCurrentAverageValue() const;
     /// Minimum, maximum and average between the markers, or in the visible range when they
@@ -197,9 +135,6 @@ public:
     [[nodiscard]] bool recalcRunning() const { return mRecalcRunning; }
     [[nodiscard]] int recalcCountdown() const { return mRecalcCountdown; }
 
-    /// Changes with everything that can be seen, so that a widget repaints only when there is
-    /// something new.
-    [[nodiscard]] std::uint64_t revision() const { return mRevision; }
     /// Whether the traces have moved on enough (0.7 pixels) for a new picture, @p elapsed seconds
     /// after the last one.
     [[nodiscard]] bool repaintDue(double elapsed) const;
@@ -252,17 +187,11 @@ public:
     [[nodiscard]] double ymax() const { return mYmax; }
 
 private:
-    [[nodiscard]] ParStruct* find(unsigned int i);
     void store(ParStruct& parameter, double value, bool hold);
     void repeatHeldValues();
     void updateScales();
     void updateExtent();
     void changeRange(const GraphTimeRange& range);
-    void touch() { ++mRevision; }
-
-    std::vector<ParStruct> mParameters;
-    std::vector<unsigned int> mDisplayOrder;
-    unsigned int mSelected = kNoTrace;
 
     GraphTimeRange mRange;
     int mPlotWidth = 10;
@@ -273,7 +202,6 @@ private:
     bool mFramesStale = false;   ///< rebuild at the next calcFrame()
     bool mRecalcRunning = false;
     int mRecalcCountdown = -1;
-    std::uint64_t mRevision = 0;
 
     double mCursorTime = 0.0;
     double mCursorValue = 0.0;

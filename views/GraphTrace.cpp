@@ -112,11 +112,11 @@ bool GraphTrace::getValue(double t, double& v) const
     return true;
 }
 
-void GraphTrace::addToFrameBuffer(const EntryType& entry, double frameSpan)
+bool GraphTrace::addToFrameBuffer(const EntryType& entry, double frameSpan)
 {
     if (!std::isfinite(entry.value)) {
         mGapPending = true;
-        return;
+        return true;
     }
     if (mFrames.empty() || entry.time - mFrames.back().startTime > frameSpan) {
         FrameType& frame = mFrames.emplace_back();
@@ -126,7 +126,7 @@ void GraphTrace::addToFrameBuffer(const EntryType& entry, double frameSpan)
         frame.hold = entry.hold;
         frame.gapBefore = mGapPending;
         mGapPending = false;
-        return;
+        return true;
     }
     // A gap narrower than a pixel column cannot be seen.
     mGapPending = false;
@@ -135,12 +135,13 @@ void GraphTrace::addToFrameBuffer(const EntryType& entry, double frameSpan)
     if (frame.state == 2) {
         frame.slotB = entry.value;
         frame.state = 3;
-        return;
+        return false;
     }
     frame.lastValue = entry.value;
     frame.slotA = std::min(frame.slotA, entry.value);
     frame.slotB = std::max(frame.slotB, entry.value);
     frame.state = 4;
+    return false;
 }
 
 /// Adds a whole block to the last frame, if that gives what adding its samples one by one would.
@@ -175,13 +176,12 @@ void GraphTrace::recalcFrameBuffer(double xmin, double xmax, double frameSpan)
         if (at % kBlockSize != 0 || !mergeBlock(block, frameSpan)) {
             const auto to = mEntries.begin() + static_cast<std::ptrdiff_t>(end);
             for (auto it = mEntries.begin() + static_cast<std::ptrdiff_t>(at); it != to; ++it) {
-                addToFrameBuffer(*it, frameSpan);
+                if (addToFrameBuffer(*it, frameSpan) && mInOrder && it->time > xmax) {
+                    return;
+                }
             }
         }
         at = end;
-        if (mInOrder && !mFrames.empty() && mFrames.back().startTime > xmax) {
-            return;
-        }
     }
 }
 

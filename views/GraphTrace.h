@@ -137,7 +137,8 @@ private:
     void growSecondIndex(double time);
     void addToBlock(const EntryType& entry);
     void widenRange(double value);
-    void addToFrameBuffer(const EntryType& entry, double frameSpan);
+    /// @return false when the sample joined the last frame
+    bool addToFrameBuffer(const EntryType& entry, double frameSpan);
     [[nodiscard]] bool mergeBlock(std::size_t block, double frameSpan);
     [[nodiscard]] std::size_t endOfBlock(std::size_t block) const;
 
