@@ -1,0 +1,124 @@
+#include "views/GraphCommandBar.h"
+
+#include "gui/ImageHandler.h"
+
+#include <QAction>
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QToolButton>
+
+namespace VELIX {
+
+namespace {
+
+constexpr int kIconSize = 24;
+constexpr int kGap = 4;
+constexpr int kGroupGap = 16;
+
+/// The tip, with the key in brackets.
+QString tipOf(const QAction& action)
+{
+    return QStringLiteral("%1 (%2)").arg(action.text(),
+                                         action.shortcut().toString(QKeySequence::NativeText));
+}
+
+} // namespace
+
+GraphCommandBar::GraphCommandBar(QWidget* parent) : QWidget(parent), mGroup(new QButtonGroup(this))
+{
+    mGroup->setExclusive(false); // the modes are checked as the graph is, not by each other
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(kGap, kGap, kGap, kGap);
+    row->setSpacing(kGap);
+    createCommands(row);
+    row->addStretch(1);
+    createActions(row);
+    createSnapshotMenu();
+}
+
+bool GraphCommandBar::isChecked(EGraphCommand command) const
+{
+    return mGroup->button(command)->isChecked();
+}
+
+void GraphCommandBar::setChecked(EGraphCommand command, bool checked)
+{
+    mGroup->button(command)->setChecked(checked);
+}
+
+QToolButton* GraphCommandBar::addButton(QBoxLayout* row, const QString& tip)
+{
+    auto* button = new QToolButton;
+    button->setAutoRaise(true);
+    button->setIconSize({kIconSize, kIconSize});
+    button->setToolTip(tip);
+    button->setAccessibleName(tip);
+    button->setFocusPolicy(Qt::TabFocus); // a click leaves the keys to the graph
+    row->addWidget(button);
+    return button;
+}
+
+void GraphCommandBar::createCommands(QBoxLayout* row)
+{
+    const auto add = [&](EGraphCommand id, const char* icon, const QString& tip, bool checkable) {
+        QToolButton* button = addButton(row, tip);
+        button->setObjectName(QStringLiteral("buttonGraph%1").arg(id));
+        button->setIcon(ImageHandler::instance().icon(QLatin1String(icon)));
+        button->setCheckable(checkable);
+        mGroup->addButton(button, id);
+        return button;
+    };
+    add(eGraphZoomIn, "zoom-in", tr("Zoom In"), false);
+    add(eGraphZoomOut, "zoom-out", tr("Zoom Out"), false);
+    add(eGraphZoomAll, "zoom-fit", tr("Zoom 1:1"), false);
+    add(eGraphZoomMarker, "zoom-marker", tr("Zoom Marker"), false);
+    add(eGraphClear, "clear", tr("Clear All"), false);
+    row->addSpacing(kGroupGap);
+    QToolButton* automatic = add(eGraphAuto, "graph-auto", tr("Automatic Mode"), true);
+    automatic->setText(tr("Auto"));
+    automatic->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    add(eGraphSplit, "graph-split", tr("Split Mode"), true);
+    add(eGraphSingle, "graph-single", tr("Single Graph Mode"), true);
+    add(eGraphReset, "graph-reset", tr("Reset all to default"), false);
+    row->addSpacing(kGroupGap);
+    add(eGraphSetup, "preferences", tr("Setup"), false);
+    add(eGraphSnapshot, "snapshot", tr("Snapshot"), false);
+}
+
+void GraphCommandBar::createActions(QBoxLayout* row)
+{
+    const auto add = [&](const char* name, const char* icon, const QString& text,
+                         const QKeySequence& key) {
+        auto* action = new QAction(ImageHandler::instance().icon(QLatin1String(icon)), text, this);
+        action->setObjectName(QLatin1String(name));
+        action->setShortcut(key);
+        // The view above holds the action, so that its key works only while the graph is shown.
+        action->setShortcutContext(Qt::WindowShortcut);
+        QToolButton* button = addButton(row, {});
+        button->setDefaultAction(action);
+        action->setToolTip(key.isEmpty() ? text : tipOf(*action));
+        button->setAccessibleName(text);
+        return action;
+    };
+    mBack = add("actionGraphBack", "history-back", tr("Previous visible range"),
+                QKeySequence(QStringLiteral("Alt+Left")));
+    mForward = add("actionGraphForward", "history-forward", tr("Next visible range"),
+                   QKeySequence(QStringLiteral("Alt+Right")));
+    row->addSpacing(kGroupGap);
+    mStatistic = add("actionGraphStatistic", "graph-statistic",
+                     tr("Minimum, maximum and average between the markers"), {});
+    mStatistic->setCheckable(true);
+}
+
+void GraphCommandBar::createSnapshotMenu()
+{
+    auto* button = qobject_cast<QToolButton*>(mGroup->button(eGraphSnapshot));
+    auto* menu = new QMenu(button);
+    mSave = menu->addAction(tr("Save Snapshot ..."));
+    mCopy = menu->addAction(tr("Copy to Clipboard"));
+    button->setMenu(menu);
+    button->setPopupMode(QToolButton::MenuButtonPopup);
+}
+
+} // namespace VELIX

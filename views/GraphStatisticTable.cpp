@@ -1,0 +1,158 @@
+#include "views/GraphStatisticTable.h"
+
+#include "gui/CopyFilter.h"
+#include "views/GraphModel.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPainter>
+#include <QTableWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace VELIX {
+
+namespace {
+
+enum EColumn { eName, eMinimum, eMaximum, eAverage, eUnit, eColumnCount };
+
+constexpr int kGap = 4;
+constexpr int kLeastRowHeight = 22;
+constexpr int kRowMargin = 6;
+constexpr int kMostRows = 5; ///< rows that need no scrolling; the graph has the space
+constexpr int kSwatch = 12;
+
+QIcon swatchOf(const GraphModel::Colour& colour)
+{
+    QPixmap swatch(kSwatch, kSwatch);
+    swatch.fill(QColor::fromRgbF(static_cast<double>(colour[0]), static_cast<double>(colour[1]),
+                                 static_cast<double>(colour[2])));
+    return QIcon(swatch);
+}
+
+} // namespace
+
+GraphStatisticTable::GraphStatisticTable(QWidget* parent)
+    : QWidget(parent), mHeading(new QLabel(this)), mTable(new QTableWidget(0, eColumnCount, this))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, kGap, 0, 0);
+    layout->setSpacing(kGap);
+    layout->addWidget(mHeading);
+    layout->addWidget(mTable);
+    mHeading->setProperty("role", QStringLiteral("muted")); // the style sheet colours it
+    mHeading->setContentsMargins(2 * kGap, 0, 2 * kGap, 0);
+    createTable();
+    fitHeight();
+}
+
+void GraphStatisticTable::createTable()
+{
+    mTable->setObjectName(QStringLiteral("tableStatistic"));
+    mTable->setAccessibleName(tr("Minimum, maximum and average of the traces"));
+    mTable->setHorizontalHeaderLabels(
+        {tr("Parameter"), tr("Minimum"), tr("Maximum"), tr("Average"), tr("Unit")});
+    mTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    mTable->setSelectionBehavior(QAbstractItemView::SelectRows);
+    mTable->setTabKeyNavigation(false);
+    mTable->setWordWrap(false);
+    mTable->setIconSize({kSwatch, kSwatch});
+    mTable->verticalHeader()->hide();
+    mTable->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    mTable->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    QHeaderView* header = mTable->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setSectionResizeMode(QHeaderView::Stretch);
+    header->setSectionResizeMode(eUnit, QHeaderView::ResizeToContents);
+    for (const int column : {eMinimum, eMaximum, eAverage}) {
+        mTable->horizontalHeaderItem(column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    CopyFilter::install(mTable);
+}
+
+QString GraphStatisticTable::heading() const
+{
+    return mHeading->text();
+}
+
+void GraphStatisticTable::update(const GraphModel& model)
+{
+    if (model.revision() == mRevision) {
+        return;
+    }
+    mRevision = model.revision();
+    showSpan(model);
+    int row = 0;
+    mTable->setRowCount(static_cast<int>(model.nrActive()));
+    for (const unsigned int trace : model.displayOrder()) {
+        if (model.parameter(trace).active) {
+            showRow(row++, model, trace);
+        }
+    }
+    fitHeight();
+}
+
+void GraphStatisticTable::showSpan(const GraphModel& model)
+{
+    const bool marked = model.marker1() != model.marker2();
+    const double from = marked ? std::min(model.marker1(), model.marker2()) : model.xmin();
+    const double to = marked ? std::max(model.marker1(), model.marker2()) : model.xmax();
+    const QString text = marked ? tr("Between the markers: %1 s to %2 s, %3 s")
+                                : tr("In the visible range: %1 s to %2 s, %3 s");
+    const auto seconds = [](double value) { return QString::number(value, 'f', 2); };
+    mHeading->setText(text.arg(seconds(from), seconds(to), seconds(to - from)));
+}
+
+void GraphStatisticTable::showRow(int row, const GraphModel& model, unsigned int trace)
+{
+    const GraphModel::ParStruct& parameter = model.parameter(trace);
+    const GraphTrace::Statistics values = model.markerStatistics(trace);
+    const auto number = [&](double value) {
+        return values.count == 0 ? QStringLiteral("---")
+                                 : QString::number(value, 'f', parameter.precision);
+    };
+    setCell(row, eName, parameter.name);
+    mTable->item(row, eName)->setIcon(swatchOf(parameter.colour));
+    setCell(row, eMinimum, number(values.minimum));
+    setCell(row, eMaximum, number(values.maximum));
+    setCell(row, eAverage, number(values.average));
+    setCell(row, eUnit, parameter.unit);
+}
+
+void GraphStatisticTable::setCell(int row, int column, const QString& text)
+{
+    QTableWidgetItem* item = mTable->item(row, column);
+    if (item == nullptr) {
+        item = new QTableWidgetItem;
+        const bool isNumber = column != eName && column != eUnit;
+        item->setTextAlignment((isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        mTable->setItem(row, column, item);
+    }
+    if (item->text() != text) {
+        item->setText(text);
+    }
+}
+
+void GraphStatisticTable::fitHeight()
+{
+    const int rowHeight = std::max(kLeastRowHeight, mTable->fontMetrics().height() + kRowMargin);
+    mTable->verticalHeader()->setMinimumSectionSize(rowHeight);
+    mTable->verticalHeader()->setDefaultSectionSize(rowHeight);
+    const int rows = std::clamp(mTable->rowCount(), 1, kMostRows);
+    mTable->setFixedHeight(mTable->horizontalHeader()->sizeHint().height() + rows * rowHeight +
+                           2 * mTable->frameWidth());
+}
+
+void GraphStatisticTable::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        // The table hears of a new font after its parent.
+        QMetaObject::invokeMethod(
+            this, [this] { fitHeight(); }, Qt::QueuedConnection);
+    }
+}
+
+} // namespace VELIX
