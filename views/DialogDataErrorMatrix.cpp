@@ -13,6 +13,7 @@ namespace VELIX {
 namespace {
 
 constexpr int kLivePeriod = 50; // ms
+constexpr int kMargin = 4;
 constexpr int kGap = 8;
 
 } // namespace
@@ -29,7 +30,7 @@ DialogDataErrorMatrix::DialogDataErrorMatrix(Profile& profile, QWidget* parent)
     connect(mHint, &WidgetHint::signalLink, this, &DialogDataErrorMatrix::signalInstallProfile);
 
     auto* panels = new QVBoxLayout(mContainer);
-    panels->setContentsMargins(0, 0, 0, 0);
+    panels->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     panels->setSpacing(kGap);
     mScrollArea->setWidget(mContainer);
     mScrollArea->setWidgetResizable(true);

@@ -153,11 +153,14 @@ void WidgetErrorTime::drawBands(QPainter& painter) const
             painter.fillRect(span.left, i * band, span.width, band, color);
         }
     }
-    painter.setPen(QColor(200, 200, 200));
-    for (int i = 1; i < kBands; ++i) {
-        painter.drawLine(0, i * band, width() - 1, i * band);
+    // Filled, not drawn: on fine displays a pen would straddle the edge.
+    const QColor grey(200, 200, 200);
+    for (const int y : {0, band, 2 * band, height() - 1}) {
+        painter.fillRect(0, y, width(), 1, grey);
     }
-    painter.drawRect(0, 0, width() - 1, height() - 1);
+    for (const int x : {0, width() - 1}) {
+        painter.fillRect(x, 0, 1, height(), grey);
+    }
 }
 
 } // namespace VELIX

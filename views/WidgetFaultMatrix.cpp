@@ -100,8 +100,9 @@ void WidgetFaultMatrix::createTable()
     mTable->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     mTable->setTabKeyNavigation(false);
     mTable->setStyleSheet(QStringLiteral("selection-background-color: rgba(100, 100, 255, 255);"));
-    // A border would take pixels that the columns share out; the panel frames the table.
-    setStyleSheet(QStringLiteral("QTableWidget { border: none; }"));
+    // A border would take pixels that the columns share out, and those that are left over at the
+    // right belong to the panel, which frames the table.
+    setStyleSheet(QStringLiteral("QTableWidget { border: none; background: transparent; }"));
     mTable->setFrameShape(QFrame::NoFrame);
     mTable->setFixedHeight(kTableHeight);
     mTable->verticalHeader()->hide();
@@ -112,7 +113,7 @@ void WidgetFaultMatrix::createTable()
     QFont font = header->font();
     font.setPixelSize(kHeaderPixels);
     header->setFont(font);
-    header->setStyleSheet(QStringLiteral("QHeaderView { font-size: %1px; }"
+    header->setStyleSheet(QStringLiteral("QHeaderView { font-size: %1px; background: transparent; }"
                                          "QHeaderView::section { padding: 0; font-size: %1px; }")
                               .arg(kHeaderPixels));
     header->setHighlightSections(false);
