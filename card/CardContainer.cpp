@@ -9,7 +9,6 @@
 #include "core/Timer.h"
 #include "profile/Profile.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLocale>
@@ -100,8 +99,7 @@ void CardContainer::calcCycles()
         if (file.recordInfo().dateInvalid) {
             ++number;
             RecordCycle& opened = mCycles[number];
-            opened.name =
-                QCoreApplication::translate("VELIX::CardContainer", "Cycle %1").arg(number);
+            opened.name = tr("Cycle %1").arg(number);
             opened.dateTime = file.recordInfo().dateTime;
             opened.files.clear();
         }
@@ -121,13 +119,31 @@ bool CardContainer::fitsMemory(const std::list<QString>& names, std::uint64_t li
     if (limit == 0 || entries * kBytesPerEntry <= limit) {
         return true;
     }
-    mLastError = QCoreApplication::translate("VELIX::CardContainer",
-                                             "The selection holds %1 samples, more than half of "
-                                             "the free memory can take. Select fewer files.")
+    mLastError = tr("The selection holds %1 samples, more than half of "
+                    "the free memory can take. Select fewer files.")
                      .arg(QLocale().toString(static_cast<qulonglong>(entries)));
     Diagnostics::print("CardContainer::loadFiles: %llu entries exceed the memory limit\n",
                        static_cast<unsigned long long>(entries));
     return false;
+}
+
+// A card that was pulled out must not cost the record that is shown. Names that the card never
+// listed are no sign of that: they load nothing, as ever.
+bool CardContainer::canOpenAny(const std::list<QString>& names)
+{
+    bool anyListed = false;
+    for (const QString& path : names) {
+        const auto found = mRecordFiles.find(name(path));
+        if (found != mRecordFiles.end() && !found->second.recordInfo().fileName.isEmpty()) {
+            anyListed = true;
+            RecordData none;
+            if (QFileInfo(found->second.recordInfo().fileName).isReadable()) {
+                return true;
+            }
+            found->second.readRecordData(none); // says what is wrong with the file
+        }
+    }
+    return !anyListed;
 }
 
 int CardContainer::loadFiles(const std::list<QString>& names)
@@ -141,6 +157,10 @@ CardContainer::ELoad CardContainer::load(const std::list<QString>& names)
     const std::uint64_t limit = mMemoryLimit != 0 ? mMemoryLimit : freeMemory() / 2;
     if (!fitsMemory(names, limit)) {
         return ELoad::Refused; // what is loaded stays
+    }
+    if (!canOpenAny(names)) {
+        mLastError = tr("None of the selected files can be opened. Is the card in its reader?");
+        return ELoad::Refused;
     }
     mWorking.reset(); // free the old data before the new takes its room
     mLoaded = std::make_shared<RecordData>();
@@ -182,10 +202,8 @@ bool CardContainer::loadFile(const QString& path, bool first, std::uint64_t memo
     }
     mStopTime = listed.stopTime;
     if (!complete) {
-        const QString text =
-            known ? QCoreApplication::translate("VELIX::CardContainer",
-                                                "The file %1 could not be read completely.")
-                  : QCoreApplication::translate("VELIX::CardContainer", "The card has no file %1.");
+        const QString text = known ? tr("The file %1 could not be read completely.")
+                                   : tr("The card has no file %1.");
         mLastError = text.arg(name(path));
     }
     return complete;

@@ -6,6 +6,7 @@
 #include "card/RecordFile.h"
 
 #include <QColor>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QString>
 
@@ -25,6 +26,8 @@ struct ProfileParameter;
 /// Decodes with the profile that it is made with. instance() is the card of the running program.
 class CardContainer
 {
+    Q_DECLARE_TR_FUNCTIONS(VELIX::CardContainer)
+
 public:
     struct Sample
     {
@@ -93,6 +96,7 @@ private:
     void listFiles(const QString& path);
     void repairDates();
     bool fitsMemory(const std::list<QString>& names, std::uint64_t limit);
+    bool canOpenAny(const std::list<QString>& names);
     enum class ELoad { Refused, Nothing, Some };
     ELoad load(const std::list<QString>& names);
     bool loadFile(const QString& path, bool first, std::uint64_t memoryLimit);

@@ -217,11 +217,11 @@ int ExportCsv::exportData(const RecordData& record, const CsvExportOptions& opti
 {
     const QString path = QString::fromStdString(options.directory) + QLatin1Char('/') +
                          QString::fromStdString(options.fileName);
-    const QString failure =
+    mLastError =
         writeOutputFile(path, [&](QIODevice& out) { return writeTable(record, options, out); });
-    if (!failure.isEmpty()) {
+    if (!mLastError.isEmpty()) {
         Diagnostics::print("could not write file <%s>: %s\n", path.toUtf8().constData(),
-                           failure.toUtf8().constData());
+                           mLastError.toUtf8().constData());
         return 0;
     }
     return 1;

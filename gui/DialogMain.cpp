@@ -98,7 +98,8 @@ void DialogMain::createPanes()
     connect(mDialogProfile, &DialogProfile::signalChanged, this,
             qOverload<>(&DialogMain::slotProfileChanged));
 
-    mDialogData = new DialogData(mContext.profile, mContext.card, mDialogs, mContext.emuOnly);
+    mDialogData = new DialogData(mContext.profile, mContext.card, mContext.settings, mDialogs,
+                                 mContext.emuOnly);
     connect(mDialogData, &DialogData::signalSelectParameters, mDialogProfile,
             &DialogProfile::focusSearch);
 

@@ -75,6 +75,7 @@ private:
     void exportCsv();
     void reloadCard();
     bool loadRecords(const QString& path);
+    void showLoaded();
     void load(const QString& text, const std::function<QString()>& job);
     void finishProjectAction(bool done);
     void showSelection();
@@ -87,7 +88,15 @@ private:
     void cleanup();
     QString setting(const char* key) const;
 
+    /// What the views show, and the folder of the card that it is from.
+    struct Loaded
+    {
+        QString text;
+        QString card;
+    };
+
     AppContext mContext;
+    Loaded mLoaded;
     DialogService& mDialogs;
     ExportCsv mExportCsv;
     ProfileSettings mProfileSettings;

@@ -130,6 +130,7 @@ void DialogMain::openCard()
         return;
     }
     mStatusBar->showNotice({});
+    showLoaded();
     mContext.settings.setString(kLastPath, path.toStdString());
     mContext.settings.writeXmlFile();
     updateTitle();
@@ -166,6 +167,7 @@ void DialogMain::exportCsv()
         written = mExportCsv.exportData(mContext.card.recordData(), options);
     }
     if (written == 0) {
+        mStatusBar->showNotice(mExportCsv.lastError());
         mDialogs.critical(this, tr("VELIX Viewer Warning"), tr("Exporting CSV file failed !"));
         return;
     }
@@ -207,12 +209,21 @@ void DialogMain::load(const QString& text, const std::function<QString()>& job)
     // A load that the card refused leaves what was loaded before.
     const bool replaced = &card.loadedData() != before;
     if (!card.hasRecord()) {
-        mStatusBar->showLoaded({});
+        mLoaded = {};
     } else if (replaced && !name.isEmpty()) {
-        mStatusBar->showLoaded(LoadSummary::withCounts(name, card));
+        mLoaded = {LoadSummary::withCounts(name, card), card.name()};
     }
+    showLoaded();
     mStatusBar->showNotice(card.lastError());
     updateEnabled();
+}
+
+/// Another card may have been opened since; then the views still show the one before.
+void DialogMain::showLoaded()
+{
+    const bool otherCard = !mLoaded.text.isEmpty() && mLoaded.card != mContext.card.name();
+    mStatusBar->showLoaded(otherCard ? tr("%1 of card %2").arg(mLoaded.text, mLoaded.card)
+                                     : mLoaded.text);
 }
 
 void DialogMain::slotCanChanged()
@@ -309,7 +320,9 @@ void DialogMain::slotVelixMode(int /*mode*/)
 void DialogMain::slotTimeout()
 {
     reloadCard();
-    mProjects.readLast();
+    if (!mProjects.readLast()) {
+        mStatusBar->showNotice(mProjects.lastError());
+    }
     showSelection();
     updateProfiles();
     updateTitle();

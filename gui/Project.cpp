@@ -100,6 +100,7 @@ int Project::readProject(const std::string& file)
         return 0;
     }
     const QDomElement root = document.documentElement();
+    mIsProjectFile = root.nodeName() == kRoot;
     setProfileData();
     forEachItem(root, kParameters, kParameter, [&](const QDomNamedNodeMap& attributes) {
         mSelected[xml.xmlGetStdStringAttribute(attributes, kName, {})] = true;

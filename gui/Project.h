@@ -28,6 +28,8 @@ public:
     /// 0 if the file could not be read; the selection is kept then. Names that the profile does
     /// not know wait for a variant or profile that does.
     int readProject(const std::string& file);
+    /// Whether the file read last calls itself a project; reading takes any XML file.
+    bool isProjectFile() const { return mIsProjectFile; }
 
     /// To be called before the profile is loaded again, since loading forgets the selection.
     void rememberSelection();
@@ -40,6 +42,7 @@ public:
 
 private:
     Profile& mProfile;
+    bool mIsProjectFile = false;
     std::map<std::string, bool> mSelected; ///< by full name of the parameter, UTF-8
     std::map<std::string, std::string> mCanProperties;
 };

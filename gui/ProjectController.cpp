@@ -5,6 +5,7 @@
 #include "gui/Project.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace VELIX {
@@ -34,7 +35,20 @@ void ProjectController::start(const QString& runFile)
 
 bool ProjectController::readLast()
 {
-    return mProject.readProject(lastPath().toStdString()) != 0;
+    const QString file = lastPath();
+    if (mProject.readProject(file.toStdString()) != 0) {
+        return true;
+    }
+    // The run will write this file anew: what could not be read is kept beside it.
+    const QString kept = file + QStringLiteral(".broken");
+    if (QFileInfo(file).isFile() && isSamePath(file, mRunFile)) {
+        QFile::remove(kept);
+        if (QFile::rename(file, kept)) {
+            mLastError =
+                tr("The project of the last run could not be read. It is kept as %1.").arg(kept);
+        }
+    }
+    return false;
 }
 
 void ProjectController::setModified()
@@ -69,7 +83,13 @@ bool ProjectController::openProject()
         mLastError = tr("%1 could not be read as a project.").arg(file);
         return false;
     }
-    mFile = file;
+    if (mProject.isProjectFile()) {
+        mFile = file;
+    } else {
+        // Saving must not replace a profile, or whatever else this file is, by a project.
+        mFile = mRunFile;
+        mLastError = tr("%1 is not a VELIX project. Saving will not write to it.").arg(file);
+    }
     mModified = false;
     mRunFileOutdated = !isSamePath(file, mRunFile);
     remember(file);

@@ -127,7 +127,7 @@ TEST_F(CardLoading, TheListingKeepsWhatTheHeadersSaid)
 TEST_F(CardLoading, FilesThatVanishOrShrinkAreReported)
 {
     QFile::remove(mFolder.file("a.CAN"));
-    EXPECT_EQ(load({"a.CAN"}), 0);
+    EXPECT_EQ(load({"a.CAN", "b.CAN"}), 1);
     EXPECT_EQ(mCard.lastError(), QStringLiteral("The file a.CAN could not be read completely."));
 
     RecordBuilder longer;
@@ -164,6 +164,18 @@ TEST_F(CardLoading, ALoadBeyondTheMemoryLimitIsRefusedAndKeepsWhatIsLoaded)
     EXPECT_TRUE(mCard.lastError().isEmpty());
     mCard.setMemoryLimit(100);
     EXPECT_EQ(load({"a.CAN", "b.CAN"}), 0) << "the sum counts";
+}
+
+TEST_F(CardLoading, ACardThatWasPulledOutKeepsWhatIsLoaded)
+{
+    ASSERT_EQ(load({"a.CAN"}), 1);
+    QFile::remove(mFolder.file("a.CAN"));
+    QFile::remove(mFolder.file("b.CAN"));
+    CapturedDiagnostics output;
+    EXPECT_EQ(load({"b.CAN"}), 0);
+    EXPECT_EQ(times(), (Times{1, 2}));
+    EXPECT_FALSE(mCard.lastError().isEmpty());
+    EXPECT_NE(output.text().find("RecordFile::readRecordData: Could not open"), std::string::npos);
 }
 
 TEST_F(CardLoading, ManyIdentifiersCountAgainstTheMemoryLimitToo)

@@ -53,6 +53,34 @@ TEST_F(ProjectControllerTest, EveryRunStartsOnItsOwnFile)
     EXPECT_FALSE(controller.readLast());
 }
 
+TEST_F(ProjectControllerTest, AFileThatIsNoProjectNeverBecomesTheOneOfSave)
+{
+    const QString profile = file("Profile.xml");
+    ASSERT_TRUE(demoProfile().write(profile));
+    const QByteArray before = TestProgram::read(profile);
+    program.dialogs.file = profile;
+    EXPECT_TRUE(controller.openProject());
+    EXPECT_EQ(controller.file(), runFile());
+    EXPECT_FALSE(controller.lastError().isEmpty());
+    choose(kSpeedId);
+    EXPECT_TRUE(controller.saveProject(false));
+    EXPECT_EQ(TestProgram::read(profile), before);
+}
+
+TEST_F(ProjectControllerTest, KeepsARunFileThatItCannotRead)
+{
+    QFile broken(runFile());
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+    broken.write("<VelixProject><Para");
+    broken.close();
+    EXPECT_FALSE(controller.readLast());
+    EXPECT_FALSE(controller.lastError().isEmpty());
+    choose(kSpeedId);
+    controller.saveOnQuit();
+    EXPECT_TRUE(holds(runFile(), kSpeed));
+    EXPECT_TRUE(holds(runFile() + QStringLiteral(".broken"), "<Para"));
+}
+
 TEST_F(ProjectControllerTest, SavesWithoutAskingAndAsksForANewName)
 {
     choose(kSpeedId);

@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QTemporaryDir>
 
 #include <initializer_list>
@@ -16,6 +17,9 @@ using namespace VELIX;
 using VELIX::Test::ProfileBuilder;
 
 namespace {
+
+/// Attributes are written in the order of a hash; the program fixes its seed, as it does here.
+const bool kSeeded = (qSetGlobalQHashSeed(0), true);
 
 ProfileBuilder twoDevices()
 {
