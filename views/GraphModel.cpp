@@ -36,8 +36,8 @@ void GraphModel::setTime(double t)
     }
     const double time = std::clamp(t, 0.0, kSecondsPerDay);
     if (mGraphMode == GraphAutomatic) {
-        // Frames only grow at their end. When time runs backwards those of the past are missing.
-        mFramesStale = mFramesStale || time < mRange.xmax();
+        // Frames grow with new samples only: those of older ones that come into view are missing.
+        mFramesStale = mFramesStale || time < mRange.xmax() || mLatestTime > mRange.xmax();
         mRange.moveEndTo(time);
     }
     mCurrentTime = time;
@@ -62,6 +62,7 @@ void GraphModel::store(ParStruct& parameter, double value, bool hold)
 {
     parameter.trace.putValue(mCurrentTime, value, hold, secondsPerPixel(), mRange.xmax());
     parameter.newAt = mTimeStep;
+    mLatestTime = std::max(mLatestTime, mCurrentTime);
 }
 
 bool GraphModel::hasNewValue(unsigned int i) const
@@ -78,6 +79,7 @@ void GraphModel::clear()
     }
     mTopMarkers.clear();
     mHasExtent = false;
+    mLatestTime = 0.0;
     mSampling = false;
     touch();
 }

@@ -196,6 +196,7 @@ private:
     GraphTimeRange mRange;
     int mPlotWidth = 10;
     double mCurrentTime = 0.0;
+    double mLatestTime = 0.0; ///< of all samples
     std::uint64_t mTimeStep = 0;
     bool mSampling = false;
     bool mRecalcPending = false; ///< rebuild at the next setTime()

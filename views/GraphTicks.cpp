@@ -53,8 +53,7 @@ std::vector<GraphTick> makeTicks(double minimum, double range, double length, co
     const double first = std::ceil(minimum / step.value * parts - 1e-6);
     for (int i = 0; i < kMaxTicks; ++i) {
         const double number = first + i;
-        // Adding zero turns the negative zero, which would be labelled "-0.0", into zero.
-        const double value = number * step.value / parts + 0.0;
+        const double value = number * step.value / parts;
         if (value - minimum > range * (1.0 + 1e-9)) {
             break;
         }

@@ -315,6 +315,13 @@ TEST(GraphModelTest, DrawnFramesAreNeverOutOfDate)
             m.setGraphMode(GraphModel::GraphAutomatic);
             m.setTime(40);
         },
+        [](GraphModel& m) { m.setTime(30); },
+        [](GraphModel& m) { m.setTime(70); },
+        [](GraphModel& m) {
+            m.setTime(200);
+            m.putValue(0, 1.0, false);
+        },
+        [](GraphModel& m) { m.setXmin(500); },
     };
     Fixture f;
     for (int i = 0; i < 2000; ++i) {
@@ -323,6 +330,7 @@ TEST(GraphModelTest, DrawnFramesAreNeverOutOfDate)
     for (std::size_t step = 0; step < changes.size(); ++step) {
         changes[step](f.model);
         f.model.calcFrame();
+        ASSERT_GT(f.model.secondsPerPixel(), 0.0) << "change " << step;
         GraphTrace fresh = f.model.parameter(0).trace;
         fresh.recalcFrameBuffer(f.model.xmin(), f.model.xmax(), f.model.secondsPerPixel());
         const auto& drawn = f.model.parameter(0).trace.frames();

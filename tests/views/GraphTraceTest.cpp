@@ -162,7 +162,7 @@ std::vector<Entry> generate(const Shape& shape, std::mt19937& random)
     double time = shape.start;
     bool hold = false;
     for (std::size_t i = 0; i < shape.count; ++i) {
-        hold = unit(random) < 0.02 ? !hold : hold;
+        hold = unit(random) < 0.003 ? !hold : hold;
         double value = std::round(unit(random) * 1000.0) / 8.0;
         if (unit(random) < shape.gaps) {
             value = unit(random) < 0.5 ? kNan : -kInfinity;
@@ -177,15 +177,22 @@ std::vector<Entry> generate(const Shape& shape, std::mt19937& random)
     return entries;
 }
 
-/// A time somewhere around the samples, in half of all cases exactly that of one of them.
+/// A time somewhere around the samples: exactly that of one of them, often where the store may part
+/// them, or between two.
 double anyTime(const std::vector<Entry>& entries, std::mt19937& random)
 {
     if (entries.empty()) {
         return 1.0;
     }
     const auto pick = [&] { return entries[random() % entries.size()].time; };
-    return random() % 2 == 0 ? pick()
-                             : (pick() + pick()) / 2.0 + (static_cast<double>(random() % 3) - 1.0);
+    switch (random() % 4) {
+    case 0:
+        return pick();
+    case 1:
+        return entries[random() % entries.size() / 256 * 256].time;
+    default:
+        return (pick() + pick()) / 2.0 + static_cast<double>(random() % 3) - 1.0;
+    }
 }
 
 TEST(GraphTraceTest, LookUpsGiveWhatAWalkOverAllSamplesGives)
@@ -212,10 +219,10 @@ TEST(GraphTraceTest, FramesAreThoseOfTheSamplesOneByOne)
     for (const Shape& shape : kShapes) {
         const std::vector<Entry> entries = generate(shape, random);
         GraphTrace trace = traceOf(entries);
-        for (int i = 0; i < 100; ++i) {
+        for (int i = 0; i < 150; ++i) {
             const auto [xmin, xmax] =
                 std::minmax({anyTime(entries, random), anyTime(entries, random)});
-            const double span = (xmax - xmin) / static_cast<double>(1 + random() % 2000);
+            const double span = (xmax - xmin) / static_cast<double>(1U << random() % 12);
             trace.recalcFrameBuffer(xmin, xmax, span);
             ASSERT_EQ(text(trace.frames()), text(twinFrames(entries, xmin, xmax, span)))
                 << shape.name << " from " << xmin << " to " << xmax;
@@ -279,6 +286,17 @@ TEST(GraphTraceTest, FrameStates)
     for (const Case& c : cases) {
         EXPECT_EQ(text(traceOf(c.entries).frames()), c.frames) << c.name;
     }
+}
+
+TEST(GraphTraceTest, TheSecondValueOfALongColumnDoesNotLowerItsMinimum)
+{
+    std::vector<Entry> entries;
+    for (int i = 0; i < 600; ++i) {
+        entries.push_back({1.0 * i, i == 256 ? -5.0 : 1.0, false});
+    }
+    GraphTrace trace = traceOf(entries);
+    trace.recalcFrameBuffer(256.0, 599.0, 1000.0);
+    EXPECT_EQ(text(trace.frames()), "255:4(1 1 1)");
 }
 
 TEST(GraphTraceTest, HeldValueAtATime)
