@@ -12,6 +12,8 @@ constexpr double kBeyond = 16.0;
 /// Pixels beyond the area to which values are limited. Lines to values far outside the scale
 /// become a little steeper or flatter there, which nobody sees.
 constexpr double kFar = 50'000.0;
+/// Pixels that two neighbouring columns must have in common to look connected without a line.
+constexpr double kSolid = 2.0;
 
 } // namespace
 
@@ -19,7 +21,10 @@ void GraphCurve::build(const std::deque<GraphTrace::FrameType>& frames, const Ta
 {
     mVertices.clear();
     mStarts.clear();
+    mSizes.clear();
     mConnected = false;
+    mPenThere = false;
+    mColumn = {};
     if (target.area.isEmpty() || !(target.stop > target.start)) {
         return;
     }
@@ -30,84 +35,103 @@ void GraphCurve::build(const std::deque<GraphTrace::FrameType>& frames, const Ta
     for (const GraphTrace::FrameType& frame : frames) {
         addFrame(frame, target);
     }
-}
-
-int GraphCurve::stripSize(std::size_t strip) const
-{
-    const bool last = strip + 1 == mStarts.size();
-    return (last ? static_cast<int>(mVertices.size()) : mStarts[strip + 1]) - mStarts[strip];
+    endStrips();
 }
 
 void GraphCurve::addFrame(const GraphTrace::FrameType& frame, const Target& target)
 {
     const double x = target.area.left() + (frame.startTime - target.start) * target.area.width() /
                                               (target.stop - target.start);
-    const auto pointAt = [&](double value) {
+    const auto yOf = [&](double value) {
         const double y =
             target.area.top() + (1.0 - target.scale.fraction(value)) * target.area.height();
-        return Point{x, std::clamp(y, mTop, mBottom)};
+        return std::clamp(y, mTop, mBottom);
     };
-    Point first = pointAt(frame.slotA);
     if (frame.gapBefore) {
         mConnected = false;
     }
-    if (frame.state < 3) {
-        mConnected ? lineTo(first) : moveTo(first);
+    if (frame.state > 3 && x >= mLeft && x <= mRight) {
+        addColumn(std::floor(x) + 0.5, yOf(frame.slotA), yOf(frame.slotB), yOf(frame.lastValue));
         return;
     }
-    Point second = pointAt(frame.slotB);
-    // Of three and more values only the extremes are known, not their order: the nearer one first
-    // gives the same picture with half the ink.
-    if (frame.state > 3 && mConnected &&
-        std::abs(second.y - mLast.y) < std::abs(first.y - mLast.y)) {
-        std::swap(first, second);
+    mColumn.valid = false;
+    lineTo({x, yOf(frame.slotA)});
+    if (frame.state >= 3) {
+        lineTo({x, yOf(frame.slotB)});
     }
-    mConnected ? lineTo(first) : moveTo(first);
-    lineTo(second);
     if (frame.state > 3) {
-        lineTo(pointAt(frame.lastValue));
+        lineTo({x, yOf(frame.lastValue)});
     }
 }
 
-void GraphCurve::moveTo(const Point& point)
+// Of more than two samples in a pixel column only the extremes can be seen. They are drawn as one
+// line through the middle of the column, and columns that touch need no line between them: noise
+// takes a quarter of the ink that way, and the picture is the same.
+void GraphCurve::addColumn(double x, double first, double second, double last)
 {
-    mConnected = true;
-    mLast = point;
-    startStrip();
-    if (point.x >= mLeft && point.x <= mRight) {
-        push(point);
+    const Column column{std::min(first, second), std::max(first, second), true};
+    const double common =
+        std::min(column.bottom, mColumn.bottom) - std::max(column.top, mColumn.top);
+    const double step = x - mLast.x;
+    // Frames are a little wider than a column, so that one is left out now and then.
+    if (mConnected && mColumn.valid && common >= kSolid && step >= 0.0 && step < 2.5) {
+        for (double drawn = std::min(mLast.x + 1.0, x); drawn <= x; drawn += 1.0) {
+            vertical(drawn, column.top, column.bottom);
+        }
+    } else {
+        const bool topFirst =
+            mConnected && std::abs(column.top - mLast.y) < std::abs(column.bottom - mLast.y);
+        lineTo({x, topFirst ? column.top : column.bottom});
+        lineTo({x, topFirst ? column.bottom : column.top});
     }
+    mPenThere = false;
+    mLast = {x, last};
+    mColumn = column;
+}
+
+void GraphCurve::vertical(double x, double from, double to)
+{
+    startStrip();
+    push({x, from});
+    push({x, to});
 }
 
 void GraphCurve::lineTo(const Point& point)
 {
-    const Point from = mLast;
+    const Point from = mConnected ? mLast : point;
+    const bool penThere = mConnected && mPenThere;
     mLast = point;
-    const double low = std::min(from.x, point.x);
-    const double high = std::max(from.x, point.x);
-    if (high < mLeft || low > mRight) {
+    mConnected = true;
+    mPenThere = false;
+    if (std::max(from.x, point.x) < mLeft || std::min(from.x, point.x) > mRight) {
         return;
     }
-    const auto cutAt = [&](double x) {
-        const double part = (x - from.x) / (point.x - from.x);
-        return Point{x, from.y + part * (point.y - from.y)};
+    const auto cut = [&](const Point& end) {
+        const double x = std::clamp(end.x, mLeft, mRight);
+        const double part = x == end.x ? 0.0 : (x - from.x) / (point.x - from.x);
+        return x == end.x ? end : Point{x, from.y + part * (point.y - from.y)};
     };
-    if (from.x < mLeft || from.x > mRight) {
+    if (!penThere) {
         startStrip();
-        push(cutAt(from.x < mLeft ? mLeft : mRight));
+        push(cut(from));
     }
-    if (point.x < mLeft || point.x > mRight) {
-        push(cutAt(point.x < mLeft ? mLeft : mRight));
-    } else {
-        push(point);
+    if (from.x != point.x || from.y != point.y) {
+        push(cut(point));
     }
+    mPenThere = point.x >= mLeft && point.x <= mRight;
 }
 
 void GraphCurve::startStrip()
 {
-    const int start = static_cast<int>(mVertices.size());
-    if (mStarts.empty() || mStarts.back() != start) {
-        mStarts.push_back(start);
+    mStarts.push_back(static_cast<int>(mVertices.size()));
+}
+
+void GraphCurve::endStrips()
+{
+    for (std::size_t strip = 0; strip < mStarts.size(); ++strip) {
+        const bool last = strip + 1 == mStarts.size();
+        const int end = last ? static_cast<int>(mVertices.size()) : mStarts[strip + 1];
+        mSizes.push_back(end - mStarts[strip]);
     }
 }
 

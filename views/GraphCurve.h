@@ -37,10 +37,9 @@ public:
     void build(const std::deque<GraphTrace::FrameType>& frames, const Target& target);
 
     [[nodiscard]] const std::vector<GraphVertex>& vertices() const { return mVertices; }
-    [[nodiscard]] std::size_t stripCount() const { return mStarts.size(); }
-    /// First vertex of a strip, and the number of its vertices.
-    [[nodiscard]] int stripStart(std::size_t strip) const { return mStarts[strip]; }
-    [[nodiscard]] int stripSize(std::size_t strip) const;
+    /// First vertex of each strip, and the number of its vertices.
+    [[nodiscard]] const std::vector<int>& starts() const { return mStarts; }
+    [[nodiscard]] const std::vector<int>& sizes() const { return mSizes; }
 
 private:
     struct Point
@@ -49,16 +48,29 @@ private:
         double y = 0.0;
     };
 
+    /// What was drawn of the latest column of more than two samples.
+    struct Column
+    {
+        double top = 0.0;
+        double bottom = 0.0;
+        bool valid = false;
+    };
+
     void addFrame(const GraphTrace::FrameType& frame, const Target& target);
+    void addColumn(double x, double first, double second, double last);
     void lineTo(const Point& point);
-    void moveTo(const Point& point);
+    void vertical(double x, double from, double to);
     void startStrip();
+    void endStrips();
     void push(const Point& point);
 
     std::vector<GraphVertex> mVertices;
     std::vector<int> mStarts;
-    Point mLast;
-    bool mConnected = false;
+    std::vector<int> mSizes;
+    Point mLast;             ///< the sample that the next one is connected to
+    bool mConnected = false; ///< false: to none
+    bool mPenThere = false;  ///< the last vertex is that sample
+    Column mColumn;
     double mLeft = 0.0;
     double mRight = 0.0;
     double mTop = 0.0;

@@ -17,6 +17,7 @@ constexpr int kPadding = 4; ///< between a text and the edge of its ground
 constexpr int kSwatch = 10;
 constexpr int kTriangle = 5; ///< half the width of a top marker
 constexpr int kGroundAlpha = 205;
+constexpr int kNameAlpha = 120;
 constexpr int kMarkedAlpha = 22;
 
 } // namespace
@@ -35,21 +36,22 @@ GraphOverlay::GraphOverlay(QPainter& painter, const GraphModel& model, const Gra
 void GraphOverlay::paint()
 {
     mPainter.setFont(mScene.font);
-    paintTimeAxis();
     paintLegend();
     const QString hint = GraphTexts::hint(mModel);
     if (!hint.isEmpty()) {
         paintHint(hint);
         return;
     }
+    paintTimeAxis();
     paintValueAxes();
     paintHandles();
     mPainter.setClipRect(mScene.layout.plot());
     paintBandNames();
-    paintMarkers();
+    paintMarked();
     paintTopMarkers();
     paintCursor();
     paintHover();
+    paintFlags();
     paintDrop();
     paintDistance();
     mPainter.setClipping(false);
@@ -57,8 +59,7 @@ void GraphOverlay::paint()
         paintTimeTag(mModel.cursorTime(), mLook.cursor());
     }
     if (mPointer.hovering) {
-        paintTimeTag(mScene.layout.timeAt(mPointer.mouse.x(), mModel.xmin(), mModel.xmax()),
-                     mLook.label);
+        paintTimeTag(mouseTime(), mLook.label);
     }
 }
 
@@ -67,14 +68,23 @@ void GraphOverlay::paint()
 void GraphOverlay::paintTimeAxis()
 {
     const QRect& axis = mScene.layout.timeAxis();
+    const QRect cursor = mLook.cursorOn ? timeTag(mModel.cursorTime()) : QRect();
+    const QRect mouse = mPointer.hovering ? timeTag(mouseTime()) : QRect();
     mPainter.setPen(mLook.label);
+    int end = 0;
     for (const GraphTick& tick : mScene.timeTicks) {
         if (tick.label.isEmpty()) {
             continue;
         }
         const int width = textWidth(tick.label);
         const int left = std::clamp(axis.left() + qRound(tick.position) - width / 2, 0,
-                                    std::max(0, axis.right() - width));
+                                    std::max(0, axisEnd() - width));
+        const QRect place(left, axis.top(), width, axis.height());
+        // Neither half labels beside the tags nor two in one another at the ends.
+        if (left < end || place.intersects(cursor) || place.intersects(mouse)) {
+            continue;
+        }
+        end = left + width + kPadding;
         mPainter.drawText(QPoint(left, axis.top() + mMetrics.ascent()), tick.label);
     }
 }
@@ -206,21 +216,44 @@ void GraphOverlay::paintLegendEntry(int row, const QRect& place)
                       mMetrics.elidedText(parameter.name, Qt::ElideRight, name.width()));
 }
 
-void GraphOverlay::paintTimeTag(double time, const QColor& colour)
+QRect GraphOverlay::timeTag(double time) const
 {
     const QRect& axis = mScene.layout.timeAxis();
     const double x = xOf(time);
     if (!inPlot(x)) {
-        return;
+        return {};
     }
-    const double perPixel = (mModel.xmax() - mModel.xmin()) / std::max(axis.width(), 1);
-    const QString text = GraphTexts::cursorTime(time, perPixel);
-    const int width = textWidth(text) + 2 * kPadding;
-    const int left = std::clamp(qRound(x) - width / 2, 0, std::max(0, axis.right() + 8 - width));
-    const QRect tag(left, axis.top() - 2, width, axis.height() + 4);
-    mPainter.fillRect(tag, colour);
-    mPainter.setPen(Palette::textOn(colour));
-    mPainter.drawText(tag, Qt::AlignCenter, text);
+    const int width = textWidth(timeText(time)) + 2 * kPadding;
+    const int left = std::clamp(qRound(x) - width / 2, 0, std::max(0, axisEnd() - width));
+    return {left, axis.top() - 2, width, axis.height() + 4};
+}
+
+void GraphOverlay::paintTimeTag(double time, const QColor& colour)
+{
+    const QRect tag = timeTag(time);
+    if (!tag.isEmpty()) {
+        mPainter.fillRect(tag, colour);
+        mPainter.setPen(Palette::textOn(colour));
+        mPainter.drawText(tag, Qt::AlignCenter, timeText(time));
+    }
+}
+
+QString GraphOverlay::timeText(double time) const
+{
+    const int width = std::max(mScene.layout.plot().width(), 1);
+    return GraphTexts::cursorTime(time, (mModel.xmax() - mModel.xmin()) / width);
+}
+
+int GraphOverlay::axisEnd() const
+{
+    // Below the legend there is room for the last label.
+    const QRect& legend = mScene.layout.legend();
+    return (legend.isEmpty() ? mScene.layout.plot().right() : legend.right()) + kPadding;
+}
+
+double GraphOverlay::mouseTime() const
+{
+    return mScene.layout.timeAt(mPointer.mouse.x(), mModel.xmin(), mModel.xmax());
 }
 
 void GraphOverlay::paintHint(const QString& text)
@@ -252,7 +285,7 @@ void GraphOverlay::paintBandNames()
         const QRect ground(band.left(), band.top() + 1, textWidth(name) + 2 * kPadding,
                            mMetrics.height() - 1);
         QColor back = mLook.back;
-        back.setAlpha(kGroundAlpha);
+        back.setAlpha(kNameAlpha);
         mPainter.fillRect(ground, back);
         mPainter.setPen(GraphLook::readable(colourOf(trace), mLook.back));
         mPainter.drawText(ground.adjusted(kPadding, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
@@ -260,7 +293,7 @@ void GraphOverlay::paintBandNames()
     }
 }
 
-void GraphOverlay::paintMarkers()
+void GraphOverlay::paintMarked()
 {
     if (!mPointer.markersOn) {
         return;
@@ -274,6 +307,13 @@ void GraphOverlay::paintMarkers()
         QColor ground = mLook.plotText();
         ground.setAlpha(kMarkedAlpha);
         mPainter.fillRect(QRectF(from, plot.top(), to - from, plot.height()), ground);
+    }
+}
+
+void GraphOverlay::paintFlags()
+{
+    if (!mPointer.markersOn) {
+        return;
     }
     // The flags point outwards, so that they do not hide each other.
     const bool sorted = mModel.marker1() <= mModel.marker2();
@@ -300,6 +340,7 @@ void GraphOverlay::paintTopMarkers()
 {
     const QRect plot = mScene.layout.plot();
     mPainter.setRenderHint(QPainter::Antialiasing);
+    std::vector<QRect> used; // labels of near markers go below each other
     for (const GraphModel::TopMarker& marker : mModel.topMarkers()) {
         const double x = xOf(marker.time);
         if (!inPlot(x)) {
@@ -314,8 +355,16 @@ void GraphOverlay::paintTopMarkers()
         triangle.closeSubpath();
         mPainter.fillPath(triangle, colour);
         const QString name = known ? mModel.parameter(marker.number).name : QString();
-        paintNote(QPoint(qRound(x), plot.top() + mMetrics.height() / 2),
-                  {GraphTexts::timed(name, marker.time), colour}, plot);
+        const Note note{GraphTexts::timed(name, marker.time), colour};
+        QPoint anchor(qRound(x), plot.top() + mMetrics.height() / 2);
+        while (anchor.y() < plot.bottom() &&
+               std::any_of(used.begin(), used.end(), [&](const QRect& other) {
+                   return other.intersects(notePlace(anchor, note, plot));
+               })) {
+            anchor.ry() += mMetrics.height();
+        }
+        used.push_back(notePlace(anchor, note, plot));
+        paintNote(anchor, note, plot);
     }
     mPainter.setRenderHint(QPainter::Antialiasing, false);
 }
@@ -340,7 +389,7 @@ void GraphOverlay::paintHover()
     if (!mPointer.hovering) {
         return;
     }
-    const double time = mScene.layout.timeAt(mPointer.mouse.x(), mModel.xmin(), mModel.xmax());
+    const double time = mouseTime();
     const bool named = !bandsHoldText();
     std::vector<Note> notes;
     for (const unsigned int trace : mScene.shown) {
@@ -365,20 +414,34 @@ void GraphOverlay::paintReadouts(double time, int y, const std::vector<Note>& no
     }
     for (std::size_t place = 0; place < notes.size(); ++place) {
         const QRect band = mScene.bandOf(place).adjusted(0, 1, 0, 0);
-        paintNote(QPoint(qRound(x), band.center().y()), notes[place], band);
+        paintNote(QPoint(qRound(x), quietHeight(mScene.shown[place], time, band)), notes[place],
+                  band);
     }
+}
+
+int GraphOverlay::quietHeight(unsigned int trace, double time, const QRect& band) const
+{
+    double value = 0.0;
+    const bool known = mModel.getValue(trace, time, value);
+    const bool low = known && mModel.scaleOf(trace).fraction(value) < 0.5;
+    return low ? band.top() : band.bottom();
 }
 
 void GraphOverlay::paintNote(const QPoint& anchor, const Note& note, const QRect& area)
 {
-    const QSize size(textWidth(note.text) + 2 * kPadding,
-                     std::min(mMetrics.height(), area.height()));
-    const QRect place = GraphLayout::placeBeside(anchor, size, area);
+    const QRect place = notePlace(anchor, note, area);
     QColor ground = mLook.back;
     ground.setAlpha(kGroundAlpha);
     mPainter.fillRect(place, ground);
     mPainter.setPen(note.colour);
     mPainter.drawText(place, Qt::AlignCenter, note.text);
+}
+
+QRect GraphOverlay::notePlace(const QPoint& anchor, const Note& note, const QRect& area) const
+{
+    const QSize size(textWidth(note.text) + 2 * kPadding,
+                     std::min(mMetrics.height(), area.height()));
+    return GraphLayout::placeBeside(anchor, size, area);
 }
 
 void GraphOverlay::paintBox(const QPoint& anchor, const std::vector<Note>& notes)

@@ -39,7 +39,8 @@ private:
     void paintDrop();
     void paintLegend();
     void paintLegendEntry(int row, const QRect& place);
-    void paintMarkers();
+    void paintMarked();
+    void paintFlags();
     void paintFlag(const QString& text, double time, bool leftOfLine);
     void paintTopMarkers();
     void paintCursor();
@@ -53,6 +54,15 @@ private:
     void paintNote(const QPoint& anchor, const Note& note, const QRect& area);
     void paintBox(const QPoint& anchor, const std::vector<Note>& notes);
     void paintTimeTag(double time, const QColor& colour);
+    /// Where the time at a line is written below the plot; empty if the line is not visible.
+    [[nodiscard]] QRect timeTag(double time) const;
+    [[nodiscard]] QString timeText(double time) const;
+    [[nodiscard]] double mouseTime() const;
+    /// The right end of the room for labels of the time axis.
+    [[nodiscard]] int axisEnd() const;
+    /// A height in a band at which a text does not hide the trace.
+    [[nodiscard]] int quietHeight(unsigned int trace, double time, const QRect& band) const;
+    [[nodiscard]] QRect notePlace(const QPoint& anchor, const Note& note, const QRect& area) const;
     [[nodiscard]] double xOf(double time) const;
     [[nodiscard]] bool inPlot(double x) const;
     [[nodiscard]] QColor colourOf(unsigned int trace) const;

@@ -7,6 +7,7 @@
 #include <QFontMetrics>
 
 #include <algorithm>
+#include <cmath>
 
 namespace VELIX {
 
@@ -16,10 +17,43 @@ namespace {
 constexpr int kWidthStep = 8;
 constexpr int kLeastAxisWidth = 24;
 constexpr int kMostNameWidth = 160;
+constexpr double kGap = 16.0;    ///< pixels between labels of a value axis
+constexpr double kBandGap = 6.0; ///< in a band, which is low
 
 int roundedUp(int width)
 {
     return (width + kWidthStep - 1) / kWidthStep * kWidthStep;
+}
+
+/// Whether a label stands wholly inside of a band.
+bool hasRoomForLabel(const std::vector<GraphTick>& ticks, int height, int line)
+{
+    return std::any_of(ticks.begin(), ticks.end(), [height, line](const GraphTick& tick) {
+        return !tick.label.isEmpty() && tick.position >= line / 2 &&
+               tick.position <= height - line / 2;
+    });
+}
+
+/// For bands so low that regular ticks have no room: a round value near the middle, so that the
+/// eye knows at least how large the values are.
+std::vector<GraphTick> loneTick(const GraphYScale& scale, int height, int line)
+{
+    if (height < line) {
+        return {};
+    }
+    const double room = scale.span() * std::max(1, height - line + 1) / height;
+    const double step = std::pow(10.0, std::floor(std::log10(room)));
+    for (const double part : {5.0, 2.0, 1.0, 0.5}) {
+        const double middle = (scale.minimum + scale.maximum) / 2.0;
+        const double value = std::round(middle / (part * step)) * part * step;
+        const double position = scale.fraction(value) * height;
+        if (position >= line / 2.0 && position <= height - line / 2.0) {
+            const int decimals =
+                std::max(0, static_cast<int>(-std::floor(std::log10(part * step))));
+            return {{value, position, true, QString::number(value, 'f', decimals)}};
+        }
+    }
+    return {};
 }
 
 void fillTicks(GraphScene& scene, const GraphModel& model, const QFontMetrics& metrics)
@@ -32,8 +66,12 @@ void fillTicks(GraphScene& scene, const GraphModel& model, const QFontMetrics& m
         }
         const unsigned int trace = scene.shown[static_cast<std::size_t>(band)];
         const GraphYScale& scale = single ? model.commonScale() : model.scaleOf(trace);
+        const int height = scene.layout.band(band).height();
         scene.valueTicks.push_back(GraphTicks::valueTicks(
-            scale.minimum, scale.maximum, scene.layout.band(band).height(), metrics.height()));
+            scale.minimum, scale.maximum, height, metrics.height(), single ? kGap : kBandGap));
+        if (!single && !hasRoomForLabel(scene.valueTicks.back(), height, metrics.height())) {
+            scene.valueTicks.back() = loneTick(scale, height, metrics.height());
+        }
     }
 }
 

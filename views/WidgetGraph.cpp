@@ -1,6 +1,7 @@
-#include "views/WidgetGraph.h"
+// First, since the toolkit includes the same headers without the functions.
+#include "platform/tessel/Gl.h"
 
-#include <GL/gl.h>
+#include "views/WidgetGraph.h"
 
 WidgetGraph::WidgetGraph(QWidget* parent) : WidgetGraphBase(parent) {}
 
@@ -36,9 +37,13 @@ void WidgetGraph::drawCurve(const VELIX::GraphCurve& curve, const QColor& colour
     glLineWidth(width);
     glPointSize(pointSize > 0.0F ? pointSize : width);
     glVertexPointer(2, GL_FLOAT, 0, curve.vertices().data());
-    for (std::size_t strip = 0; strip < curve.stripCount(); ++strip) {
-        const int size = curve.stripSize(strip);
-        glDrawArrays(size == 1 ? GL_POINTS : GL_LINE_STRIP, curve.stripStart(strip), size);
+    const std::vector<int>& sizes = curve.sizes();
+    glMultiDrawArrays(GL_LINE_STRIP, curve.starts().data(), sizes.data(),
+                      static_cast<GLsizei>(sizes.size()));
+    for (std::size_t strip = 0; strip < sizes.size(); ++strip) {
+        if (sizes[strip] == 1) { // a sample between gaps
+            glDrawArrays(GL_POINTS, curve.starts()[strip], 1);
+        }
     }
     if (pointSize > 0.0F) {
         glDrawArrays(GL_POINTS, 0, static_cast<GLsizei>(curve.vertices().size()));

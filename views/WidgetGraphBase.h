@@ -168,6 +168,7 @@ private:
     void adoptPlotWidth();
 
     void drawGround(const QSize& pixels);
+    void drawAllLines(const QSize& pixels);
     void drawGrid();
     void drawTraces();
     void drawOverlayLines();

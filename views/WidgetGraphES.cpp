@@ -52,10 +52,10 @@ void WidgetGraphES::drawCurve(const VELIX::GraphCurve& curve, const QColor& colo
                               float pointSize)
 {
     mStrips.clear();
-    for (std::size_t strip = 0; strip < curve.stripCount(); ++strip) {
+    for (std::size_t strip = 0; strip < curve.starts().size(); ++strip) {
         mStrips.beginStrip();
-        const int end = curve.stripStart(strip) + curve.stripSize(strip);
-        for (int i = curve.stripStart(strip); i < end; ++i) {
+        const int end = curve.starts()[strip] + curve.sizes()[strip];
+        for (int i = curve.starts()[strip]; i < end; ++i) {
             const VELIX::GraphVertex& vertex = curve.vertices()[static_cast<std::size_t>(i)];
             mStrips.addVertex(vertex.x, vertex.y);
         }

@@ -1,9 +1,12 @@
 #include "views/GraphOverlay.h"
+#include "views/GraphTexts.h"
 #include "views/WidgetGraphBase.h"
 
 #include <QOpenGLContext>
 #include <QOpenGLFunctions>
 #include <QOpenGLPaintDevice>
+
+#include <GL/gl.h>
 
 #include <cmath>
 
@@ -52,17 +55,24 @@ void WidgetGraphBase::paintGL()
                        qRound(height() * devicePixelRatioF()));
     drawGround(pixels);
     if (!mScene.layout.empty()) {
-        context()->functions()->glEnable(GL_SCISSOR_TEST);
-        beginDrawing(pixels);
-        drawGrid();
-        drawTraces();
-        drawOverlayLines();
-        endDrawing();
-        context()->functions()->glDisable(GL_SCISSOR_TEST);
+        if (VELIX::GraphTexts::hint(mModel).isEmpty()) {
+            drawAllLines(pixels);
+        }
         drawTexts(pixels);
     }
     mPaintedRevision = mModel.revision();
     mSinceRepaint.restart();
+}
+
+void WidgetGraphBase::drawAllLines(const QSize& pixels)
+{
+    context()->functions()->glEnable(GL_SCISSOR_TEST);
+    beginDrawing(pixels);
+    drawGrid();
+    drawTraces();
+    drawOverlayLines();
+    endDrawing();
+    context()->functions()->glDisable(GL_SCISSOR_TEST);
 }
 
 double WidgetGraphBase::pixelOf(double logical) const
@@ -87,6 +97,7 @@ void WidgetGraphBase::drawGround(const QSize& pixels)
     gl.glDisable(GL_DEPTH_TEST);
     gl.glDisable(GL_BLEND);
     gl.glDisable(GL_SCISSOR_TEST);
+    gl.glEnable(GL_MULTISAMPLE); // the painter of the texts leaves it off
     clearTo(gl, mLook.labelBack);
     if (!mScene.layout.empty()) {
         gl.glEnable(GL_SCISSOR_TEST);

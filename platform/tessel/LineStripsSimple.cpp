@@ -45,13 +45,14 @@ void LineStripsSimple::render(LineProgram& program, const MatrixSet& matrices)
     if (program.begin(matrices, mColor)) {
         const SmoothLines smooth(mAntiAliasing);
         glLineWidth(mWidth);
+        fillSizes();
+        glMultiDrawArrays(GL_LINE_STRIP, mStarts.data(), mSizes.data(),
+                          static_cast<GLsizei>(mStarts.size()));
+        glPointSize(mWidth);
         for (std::size_t i = 0; i < mStarts.size(); ++i) {
-            const int end = i + 1 < mStarts.size() ? mStarts[i + 1] : size;
-            const int count = end - mStarts[i];
-            if (count == 1 && mPointSize <= 0.0F) {
-                glPointSize(mWidth);
+            if (mSizes[i] == 1) {
+                glDrawArrays(GL_POINTS, mStarts[i], 1);
             }
-            glDrawArrays(count == 1 ? GL_POINTS : GL_LINE_STRIP, mStarts[i], count);
         }
         if (mPointSize > 0.0F) {
             glPointSize(mPointSize);
@@ -60,6 +61,16 @@ void LineStripsSimple::render(LineProgram& program, const MatrixSet& matrices)
         LineProgram::end();
     }
     VertexBuffer::unbind();
+}
+
+void LineStripsSimple::fillSizes()
+{
+    mSizes.clear();
+    for (std::size_t i = 0; i < mStarts.size(); ++i) {
+        const int end =
+            i + 1 < mStarts.size() ? mStarts[i + 1] : static_cast<int>(mVertices.size());
+        mSizes.push_back(end - mStarts[i]);
+    }
 }
 
 } // namespace Tessel::OpenGL

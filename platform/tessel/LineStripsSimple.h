@@ -31,8 +31,11 @@ public:
     void release() { mVertices.release(); }
 
 private:
+    void fillSizes();
+
     VertexBuffer mVertices;
     std::vector<int> mStarts; ///< index of the first vertex of each strip
+    std::vector<int> mSizes;  ///< its number of vertices; kept for its memory
     Color mColor;
     float mWidth = 1.0F;
     float mPointSize = 0.0F;
