@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <random>
 
 namespace {
@@ -18,9 +19,12 @@ constexpr int kColumns = 1'600;
 constexpr int kTraces = 30;
 constexpr int kRows = 36'000;
 
-/// A value as a sensor of an engine gives it: slow swings with some noise.
+/// A value as a sensor of an engine gives it: slow swings with some noise, now and then a gap.
 double engineValue(std::size_t i, std::minstd_rand& random)
 {
+    if (i % 200 == 0) {
+        return std::numeric_limits<double>::quiet_NaN();
+    }
     return 600.0 + 80.0 * std::sin(static_cast<double>(i) * 1e-5) +
            static_cast<double>(random() % 1000) * 0.01;
 }

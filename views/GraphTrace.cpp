@@ -57,8 +57,9 @@ void GraphTrace::addToBlock(const EntryType& entry)
     Block& block = mBlocks.back();
     block.earliest = std::min(block.earliest, entry.time);
     block.latest = std::max(block.latest, entry.time);
-    block.allHold = block.allHold && entry.hold;
     if (std::isfinite(entry.value)) {
+        block.allHold = block.allHold && entry.hold;
+        block.lastValue = entry.value;
         block.minimum = block.finiteCount == 0 ? entry.value : std::min(block.minimum, entry.value);
         block.maximum = block.finiteCount == 0 ? entry.value : std::max(block.maximum, entry.value);
         block.sum += entry.value;
@@ -145,22 +146,22 @@ bool GraphTrace::addToFrameBuffer(const EntryType& entry, double frameSpan)
 }
 
 /// Adds a whole block to the last frame, if that gives what adding its samples one by one would.
-bool GraphTrace::mergeBlock(std::size_t block, double frameSpan)
+bool GraphTrace::mergeBlock(std::size_t block, double xmax, double frameSpan)
 {
     const Block& from = mBlocks[block];
-    const std::size_t begin = block * kBlockSize;
-    const std::size_t end = endOfBlock(block);
-    if (mFrames.empty() || mFrames.back().state < 3 || from.finiteCount != end - begin ||
+    if (mFrames.empty() || mFrames.back().state < 3 || from.latest > xmax ||
         from.latest - mFrames.back().startTime > frameSpan) {
         return false;
     }
-    FrameType& frame = mFrames.back();
-    mGapPending = false;
-    frame.hold = frame.hold && from.allHold;
-    frame.lastValue = mEntries[end - 1].value;
-    frame.slotA = std::min(frame.slotA, from.minimum);
-    frame.slotB = std::max(frame.slotB, from.maximum);
-    frame.state = 4;
+    mGapPending = !std::isfinite(mEntries[endOfBlock(block) - 1].value);
+    if (from.finiteCount > 0) {
+        FrameType& frame = mFrames.back();
+        frame.hold = frame.hold && from.allHold;
+        frame.lastValue = from.lastValue;
+        frame.slotA = std::min(frame.slotA, from.minimum);
+        frame.slotB = std::max(frame.slotB, from.maximum);
+        frame.state = 4;
+    }
     return true;
 }
 
@@ -173,7 +174,7 @@ void GraphTrace::recalcFrameBuffer(double xmin, double xmax, double frameSpan)
     while (at < mEntries.size()) {
         const std::size_t block = at / kBlockSize;
         const std::size_t end = endOfBlock(block);
-        if (at % kBlockSize != 0 || !mergeBlock(block, frameSpan)) {
+        if (at % kBlockSize != 0 || !mergeBlock(block, xmax, frameSpan)) {
             const auto to = mEntries.begin() + static_cast<std::ptrdiff_t>(end);
             for (auto it = mEntries.begin() + static_cast<std::ptrdiff_t>(at); it != to; ++it) {
                 if (addToFrameBuffer(*it, frameSpan) && mInOrder && it->time > xmax) {

@@ -126,8 +126,9 @@ private:
     {
         double earliest = 0.0; ///< smallest time, seconds
         double latest = 0.0;   ///< largest time, seconds
-        double minimum = 0.0;  ///< of the finite samples
+        double minimum = 0.0;  ///< of the finite samples, as all that follows
         double maximum = 0.0;
+        double lastValue = 0.0;
         long double sum = 0.0L; ///< wide enough for sums of the largest doubles
         std::uint32_t finiteCount = 0;
         bool allHold = true;
@@ -139,7 +140,7 @@ private:
     void widenRange(double value);
     /// @return false when the sample joined the last frame
     bool addToFrameBuffer(const EntryType& entry, double frameSpan);
-    [[nodiscard]] bool mergeBlock(std::size_t block, double frameSpan);
+    [[nodiscard]] bool mergeBlock(std::size_t block, double xmax, double frameSpan);
     [[nodiscard]] std::size_t endOfBlock(std::size_t block) const;
 
     std::size_t mEntryLimit;
