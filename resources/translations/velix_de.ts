@@ -153,10 +153,6 @@
         <translation>Diese Version hat noch keine Instrumentenanzeige. Der Reiter „Daten“ listet die Werte über der Zeit auf.</translation>
     </message>
     <message>
-        <source>This version has no fault matrix yet.</source>
-        <translation>Diese Version hat noch keine Fehlermatrix.</translation>
-    </message>
-    <message>
         <source>This version has no map yet.</source>
         <translation>Diese Version hat noch keine Landkarte.</translation>
     </message>
@@ -199,6 +195,29 @@
     <message>
         <source>Tile Map Display Vertically</source>
         <translation>Landkarte untereinander anordnen</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogDataErrorMatrix</name>
+    <message>
+        <source>Fault matrices</source>
+        <translation>Fehlermatrizen</translation>
+    </message>
+    <message>
+        <source>No parameter profile is installed. Without the profile of your engine, recorded messages cannot be turned into values.</source>
+        <translation>Es ist kein Parameterprofil installiert. Ohne das Profil des Motors lassen sich aufgezeichnete Nachrichten nicht in Werte umrechnen.</translation>
+    </message>
+    <message>
+        <source>Install a profile</source>
+        <translation>Profil installieren</translation>
+    </message>
+    <message>
+        <source>The profile has no fault matrix. Choose another variant, or a profile that has one.</source>
+        <translation>Das Profil enthält keine Fehlermatrix. Eine andere Variante wählen oder ein Profil, das eine enthält.</translation>
+    </message>
+    <message>
+        <source>No record loaded. Open the folder of a data card and choose a cycle, a flight or a file.</source>
+        <translation>Keine Aufzeichnung geladen. Ordner einer Datenkarte öffnen und einen Zyklus, einen Flug oder eine Datei auswählen.</translation>
     </message>
 </context>
 <context>
@@ -935,6 +954,33 @@ Soll sie ersetzt werden?</translation>
     <message>
         <source>Replay speed, 1 to 100 times real time</source>
         <translation>Wiedergabetempo, 1- bis 100-fache Echtzeit</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::WidgetErrorTime</name>
+    <message>
+        <source>Fault: %1</source>
+        <translation>Fehler: %1</translation>
+    </message>
+    <message>
+        <source>Warning: %1</source>
+        <translation>Warnung: %1</translation>
+    </message>
+    <message>
+        <source>Info: %1</source>
+        <translation>Info: %1</translation>
+    </message>
+    <message>
+        <source>Times of the errors of %1</source>
+        <translation>Zeiten der Fehler von %1</translation>
+    </message>
+    <message>
+        <source>The record has no messages of this matrix.</source>
+        <translation>Die Aufzeichnung enthält keine Nachrichten dieser Matrix.</translation>
+    </message>
+    <message>
+        <source>No error set</source>
+        <translation>Kein Fehler gesetzt</translation>
     </message>
 </context>
 </TS>
