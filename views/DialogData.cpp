@@ -1,11 +1,13 @@
 #include "views/DialogData.h"
 
 #include "card/CardContainer.h"
+#include "core/Property.h"
 #include "gui/ImageHandler.h"
 #include "gui/StandardDialogs.h"
 #include "platform/tessel/Timer.h"
 #include "views/CursorTime.h"
 #include "views/DialogDataErrorMatrix.h"
+#include "views/DialogDataGraph.h"
 #include "views/DialogDataLimit.h"
 #include "views/DialogDataStatistic.h"
 #include "views/DialogDataTable.h"
@@ -35,14 +37,15 @@ enum EMapLayout { eMapHidden = 0, eMapBeside = 1, eMapBelow = 2 };
 } // namespace
 
 DialogData::DialogData(Profile& profile, CardContainer& card, bool emuOnly, QWidget* parent)
-    : DialogData(profile, card, StandardDialogs::instance(), emuOnly, parent)
+    : DialogData(profile, card, Property::instance(), StandardDialogs::instance(), emuOnly, parent)
 {}
 
-DialogData::DialogData(Profile& profile, CardContainer& card, DialogService& dialogs, bool emuOnly,
-                       QWidget* parent)
+DialogData::DialogData(Profile& profile, CardContainer& card, Property& settings,
+                       DialogService& dialogs, bool emuOnly, QWidget* parent)
     : QWidget(parent),
       mProfile(profile),
       mCard(card),
+      mSettings(settings),
       mDialogs(dialogs),
       mClock([watch = Tessel::Misc::Timer()] { return watch.elapsed(); })
 {
@@ -67,8 +70,8 @@ void DialogData::createViews()
     };
     mTable = new DialogDataTable(mProfile, this);
     mTable->setObjectName(QStringLiteral("viewTable"));
-    mGraph = placeholder("viewGraph", tr("This version has no graph yet. "
-                                         "The Data tab lists the values over time."));
+    mGraph = new DialogDataGraph(mProfile, mSettings, mDialogs, this);
+    mGraph->setObjectName(QStringLiteral("viewGraph"));
     mInstrument = placeholder("viewInstrument", tr("This version has no instrument panel yet. "
                                                    "The Data tab lists the values over time."));
     mFaultMatrix = new DialogDataErrorMatrix(mProfile, this);
@@ -89,6 +92,11 @@ void DialogData::createViews()
     mRoutes.setView(EView::Warning, *mWarning);
     mRoutes.setView(EView::Statistic, *mStatistic);
     mRoutes.setView(EView::Map, *mMap);
+    connectViews();
+}
+
+void DialogData::connectViews()
+{
     connect(mTable, &DialogDataTable::signalTime, this, &DialogData::slotTableTime);
     connect(mTable, &DialogDataTable::signalInstallProfile, this,
             &DialogData::signalInstallProfile);
@@ -96,10 +104,18 @@ void DialogData::createViews()
             &DialogData::signalInstallProfile);
     connect(mTable, &DialogDataTable::signalSelectParameters, this,
             &DialogData::signalSelectParameters);
+    connect(mGraph, &DialogDataGraph::signalCursor, this, &DialogData::slotCursor);
+    connect(mGraph, &DialogDataGraph::signalNotice, this, &DialogData::signalNotice);
+    connect(mGraph, &DialogDataGraph::signalInstallProfile, this,
+            &DialogData::signalInstallProfile);
+    connect(mGraph, &DialogDataGraph::signalSelectParameters, this,
+            &DialogData::signalSelectParameters);
     connect(mLimit, &DialogDataEvents::signalTime, this, &DialogData::slotLimitTime);
     connect(mWarning, &DialogDataEvents::signalTime, this, &DialogData::slotWarningTime);
     connect(mLimit, &DialogDataEvents::signalNotice, this, &DialogData::signalNotice);
     connect(mWarning, &DialogDataEvents::signalNotice, this, &DialogData::signalNotice);
+    connect(mLimit, &DialogDataEvents::signalShowInGraph, this, &DialogData::slotShowInGraph);
+    connect(mWarning, &DialogDataEvents::signalShowInGraph, this, &DialogData::slotShowInGraph);
 }
 
 QBoxLayout* DialogData::createTabs()
@@ -322,6 +338,13 @@ void DialogData::slotLimitTime(double time)
 void DialogData::slotWarningTime(double time)
 {
     setCursor(ECursorSource::WarningList, time);
+}
+
+/// The graph moves after its tab was chosen: it then has its size.
+void DialogData::slotShowInGraph(double time)
+{
+    mTabs->setCurrentIndex(mStack->indexOf(mGraph));
+    mGraph->showAround(time);
 }
 
 void DialogData::slotMapType(int id)

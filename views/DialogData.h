@@ -16,6 +16,7 @@ namespace VELIX {
 
 class CardContainer;
 class DialogDataErrorMatrix;
+class DialogDataGraph;
 class DialogDataLimit;
 class DialogDataStatistic;
 class DialogDataTable;
@@ -24,6 +25,7 @@ class DialogService;
 class PageTabBar;
 class PlaceholderView;
 class Profile;
+class Property;
 class ReplayControls;
 class ReplayKeys;
 
@@ -36,9 +38,9 @@ class DialogData : public QWidget
 public:
     /// emuOnly: hides what only someone at a desk needs (time of day, position, time editor).
     DialogData(Profile& profile, CardContainer& card, bool emuOnly, QWidget* parent = nullptr);
-    /// The same with an own answer to what the views ask the user.
-    DialogData(Profile& profile, CardContainer& card, DialogService& dialogs, bool emuOnly,
-               QWidget* parent = nullptr);
+    /// The same with own settings and an own answer to what the views ask the user.
+    DialogData(Profile& profile, CardContainer& card, Property& settings, DialogService& dialogs,
+               bool emuOnly, QWidget* parent = nullptr);
 
     /// The card holds another record, or none: the cursor goes to its start.
     void updateRecord();
@@ -73,9 +75,11 @@ private slots:
     void slotTableTime(double time);
     void slotLimitTime(double time);
     void slotWarningTime(double time);
+    void slotShowInGraph(double time);
 
 private:
     void createViews();
+    void connectViews();
     QBoxLayout* createTabs();
     void createMapButtons(QBoxLayout* row);
     void createSplitter();
@@ -89,6 +93,7 @@ private:
 
     Profile& mProfile;
     CardContainer& mCard;
+    Property& mSettings;
     DialogService& mDialogs;
     ReplayClock mClock;
     CursorRoutes mRoutes;
@@ -101,7 +106,7 @@ private:
     QSplitter* mSplitter = nullptr;
     QStackedWidget* mStack = nullptr;
     DialogDataTable* mTable = nullptr;
-    PlaceholderView* mGraph = nullptr;
+    DialogDataGraph* mGraph = nullptr;
     PlaceholderView* mInstrument = nullptr;
     DialogDataErrorMatrix* mFaultMatrix = nullptr;
     DialogDataLimit* mLimit = nullptr;

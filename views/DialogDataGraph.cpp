@@ -114,20 +114,19 @@ void DialogDataGraph::createLayout()
 /// Hands all settings to the graph, in their order.
 void DialogDataGraph::applySettings()
 {
-    const auto color = [this](const std::string& name,
-                              void (WidgetGraphBase::*set)(float, float, float)) {
-        const GraphColor fractions = GraphColor::fromName(name);
-        (mGraph->*set)(fractions.red, fractions.green, fractions.blue);
-    };
+    const GraphColor back = GraphColor::fromName(mData.backColor);
+    const GraphColor grid = GraphColor::fromName(mData.gridColor);
+    const GraphColor label = GraphColor::fromName(mData.labelColor);
+    const GraphColor labelBack = GraphColor::fromName(mData.labelBackColor);
     mGraph->setXrange(static_cast<float>(mData.xRange));
     mGraph->setDisplayMode(static_cast<GraphModel::eDisplayMode>(mData.displayMode));
     mGraph->setGraphMode(static_cast<GraphModel::eGraphMode>(mData.graphMode));
     mGraph->setCursorMode(static_cast<GraphModel::eCursorMode>(mData.cursorMode));
-    color(mData.backColor, &WidgetGraphBase::setBackColor);
+    mGraph->setBackColor(back.red, back.green, back.blue);
     mGraph->activateGrid(mData.gridOn);
-    color(mData.gridColor, &WidgetGraphBase::setGridColor);
-    color(mData.labelColor, &WidgetGraphBase::setLabelColor);
-    color(mData.labelBackColor, &WidgetGraphBase::setLabelBackColor);
+    mGraph->setGridColor(grid.red, grid.green, grid.blue);
+    mGraph->setLabelColor(label.red, label.green, label.blue);
+    mGraph->setLabelBackColor(labelBack.red, labelBack.green, labelBack.blue);
     mGraph->activateCursor(mData.cursorOn);
     mGraph->activateLegend(mData.legendOn);
     mGraph->setAutoScaleY(mData.autoScaleOn);

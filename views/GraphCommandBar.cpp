@@ -1,6 +1,7 @@
 #include "views/GraphCommandBar.h"
 
 #include "gui/ImageHandler.h"
+#include "views/WrapLayout.h"
 
 #include <QAction>
 #include <QButtonGroup>
@@ -14,7 +15,7 @@ namespace {
 
 constexpr int kIconSize = 24;
 constexpr int kGap = 4;
-constexpr int kGroupGap = 16;
+constexpr int kGroupGap = 12; // together with the gap: 16
 
 /// The tip, with the key in brackets.
 QString tipOf(const QAction& action)
@@ -28,12 +29,10 @@ QString tipOf(const QAction& action)
 GraphCommandBar::GraphCommandBar(QWidget* parent) : QWidget(parent), mGroup(new QButtonGroup(this))
 {
     mGroup->setExclusive(false); // the modes are checked as the graph is, not by each other
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(kGap, kGap, kGap, kGap);
-    row->setSpacing(kGap);
-    createCommands(row);
-    row->addStretch(1);
-    createActions(row);
+    auto* rows = new WrapLayout(this, kGap);
+    rows->setContentsMargins(kGap, kGap, kGap, kGap);
+    createCommands();
+    createActions();
     createSnapshotMenu();
 }
 
@@ -47,7 +46,17 @@ void GraphCommandBar::setChecked(EGraphCommand command, bool checked)
     mGroup->button(command)->setChecked(checked);
 }
 
-QToolButton* GraphCommandBar::addButton(QBoxLayout* row, const QString& tip)
+/// Buttons that belong together also wrap together.
+void GraphCommandBar::startGroup()
+{
+    auto* group = new QWidget(this);
+    mRow = new QHBoxLayout(group);
+    mRow->setContentsMargins(0, 0, kGroupGap, 0);
+    mRow->setSpacing(kGap);
+    layout()->addWidget(group);
+}
+
+QToolButton* GraphCommandBar::addButton(const QString& tip)
 {
     auto* button = new QToolButton;
     button->setAutoRaise(true);
@@ -55,38 +64,39 @@ QToolButton* GraphCommandBar::addButton(QBoxLayout* row, const QString& tip)
     button->setToolTip(tip);
     button->setAccessibleName(tip);
     button->setFocusPolicy(Qt::TabFocus); // a click leaves the keys to the graph
-    row->addWidget(button);
+    mRow->addWidget(button);
     return button;
 }
 
-void GraphCommandBar::createCommands(QBoxLayout* row)
+void GraphCommandBar::createCommands()
 {
     const auto add = [&](EGraphCommand id, const char* icon, const QString& tip, bool checkable) {
-        QToolButton* button = addButton(row, tip);
+        QToolButton* button = addButton(tip);
         button->setObjectName(QStringLiteral("buttonGraph%1").arg(id));
         button->setIcon(ImageHandler::instance().icon(QLatin1String(icon)));
         button->setCheckable(checkable);
         mGroup->addButton(button, id);
         return button;
     };
+    startGroup();
     add(eGraphZoomIn, "zoom-in", tr("Zoom In"), false);
     add(eGraphZoomOut, "zoom-out", tr("Zoom Out"), false);
     add(eGraphZoomAll, "zoom-fit", tr("Zoom 1:1"), false);
     add(eGraphZoomMarker, "zoom-marker", tr("Zoom Marker"), false);
     add(eGraphClear, "clear", tr("Clear All"), false);
-    row->addSpacing(kGroupGap);
+    startGroup();
     QToolButton* automatic = add(eGraphAuto, "graph-auto", tr("Automatic Mode"), true);
     automatic->setText(tr("Auto"));
     automatic->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     add(eGraphSplit, "graph-split", tr("Split Mode"), true);
     add(eGraphSingle, "graph-single", tr("Single Graph Mode"), true);
     add(eGraphReset, "graph-reset", tr("Reset all to default"), false);
-    row->addSpacing(kGroupGap);
+    startGroup();
     add(eGraphSetup, "preferences", tr("Setup"), false);
     add(eGraphSnapshot, "snapshot", tr("Snapshot"), false);
 }
 
-void GraphCommandBar::createActions(QBoxLayout* row)
+void GraphCommandBar::createActions()
 {
     const auto add = [&](const char* name, const char* icon, const QString& text,
                          const QKeySequence& key) {
@@ -95,17 +105,18 @@ void GraphCommandBar::createActions(QBoxLayout* row)
         action->setShortcut(key);
         // The view above holds the action, so that its key works only while the graph is shown.
         action->setShortcutContext(Qt::WindowShortcut);
-        QToolButton* button = addButton(row, {});
+        QToolButton* button = addButton({});
         button->setDefaultAction(action);
         action->setToolTip(key.isEmpty() ? text : tipOf(*action));
         button->setAccessibleName(text);
         return action;
     };
+    startGroup();
     mBack = add("actionGraphBack", "history-back", tr("Previous visible range"),
                 QKeySequence(QStringLiteral("Alt+Left")));
     mForward = add("actionGraphForward", "history-forward", tr("Next visible range"),
                    QKeySequence(QStringLiteral("Alt+Right")));
-    row->addSpacing(kGroupGap);
+    startGroup();
     mStatistic = add("actionGraphStatistic", "graph-statistic",
                      tr("Minimum, maximum and average between the markers"), {});
     mStatistic->setCheckable(true);

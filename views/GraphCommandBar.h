@@ -48,12 +48,14 @@ public:
     QAction* copyAction() const { return mCopy; }
 
 private:
-    void createCommands(QBoxLayout* row);
-    void createActions(QBoxLayout* row);
+    void createCommands();
+    void createActions();
     void createSnapshotMenu();
-    QToolButton* addButton(QBoxLayout* row, const QString& tip);
+    void startGroup();
+    QToolButton* addButton(const QString& tip);
 
     QButtonGroup* mGroup;
+    QBoxLayout* mRow = nullptr; ///< of the group of buttons that is being made
     QAction* mBack = nullptr;
     QAction* mForward = nullptr;
     QAction* mStatistic = nullptr;
