@@ -320,7 +320,7 @@ void DialogMain::slotVelixMode(int /*mode*/)
 void DialogMain::slotTimeout()
 {
     reloadCard();
-    if (!mProjects.readLast()) {
+    if (!mProjects.readLast() && !mProjects.lastError().isEmpty()) {
         mStatusBar->showNotice(mProjects.lastError());
     }
     showSelection();
