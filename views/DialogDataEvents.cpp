@@ -34,6 +34,7 @@ namespace {
 constexpr int kColumnTime = 0;
 constexpr int kColumnEvent = 1;
 constexpr int kRowHeight = 15;
+constexpr int kGridLine = 1;
 constexpr int kTimeWidth = 80;
 constexpr int kCellMargin = 12;
 constexpr int kBold = 75;
@@ -211,7 +212,7 @@ void DialogDataEvents::fitCells()
 {
     const QFontMetrics metrics = mTable->fontMetrics();
     QHeaderView* rows = mTable->verticalHeader();
-    const int height = std::max(kRowHeight, metrics.height());
+    const int height = std::max(kRowHeight, metrics.height() + kGridLine);
     rows->setMinimumSectionSize(height);
     rows->setDefaultSectionSize(height);
     const int text = metrics.horizontalAdvance(QStringLiteral("00:00:00.000")) + kCellMargin;

@@ -46,11 +46,14 @@ QString clock(const RecordFlight& flight, double seconds)
                : FlightText::timeOfDay(seconds);
 }
 
+/// What names the row stands to the left, figures stand to the right.
 QString cells(const QString& tag, const QStringList& texts)
 {
     QString row = QStringLiteral("<tr>");
+    QString side = QStringLiteral("left");
     for (const QString& text : texts) {
-        row += QStringLiteral("<%1 align=\"right\">%2</%1>").arg(tag, text.toHtmlEscaped());
+        row += QStringLiteral("<%1 align=\"%2\">%3</%1>").arg(tag, side, text.toHtmlEscaped());
+        side = QStringLiteral("right");
     }
     return row + QStringLiteral("</tr>");
 }

@@ -53,6 +53,8 @@ QString selectedCells(const QTextCursor& selection)
 TableTextEdit::TableTextEdit(QWidget* parent) : QTextEdit(parent)
 {
     setReadOnly(true);
+    setCursorWidth(0); // a caret would promise that something can be typed
+    setWordWrapMode(QTextOption::WordWrap);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     CopyFilter::install(this);
 }

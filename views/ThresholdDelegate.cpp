@@ -8,20 +8,31 @@ namespace {
 
 constexpr int kStripeWidth = 6; // pixels
 
+bool isLeftAligned(const QModelIndex& index)
+{
+    return (index.data(Qt::TextAlignmentRole).toInt() & Qt::AlignLeft) != 0;
+}
+
 } // namespace
 
 void ThresholdDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                               const QModelIndex& index) const
 {
-    QStyledItemDelegate::paint(painter, option, index);
+    const bool isSelected = (option.state & QStyle::State_Selected) != 0;
     const bool isTime = index.data(Qt::UserRole).isValid(); // its ground says nothing
-    if (!(option.state & QStyle::State_Selected) || isTime) {
-        return;
+    const QVariant ground = isTime ? QVariant() : index.data(Qt::BackgroundRole);
+    QRect stripe = option.rect;
+    stripe.setWidth(kStripeWidth);
+
+    QStyleOptionViewItem cell = option;
+    if (ground.isValid() && isLeftAligned(index)) {
+        cell.rect.setLeft(stripe.right() + 1); // the text begins behind the stripe
+        if (!isSelected) {
+            painter->fillRect(stripe, ground.value<QBrush>());
+        }
     }
-    const QVariant ground = index.data(Qt::BackgroundRole);
-    if (ground.isValid()) {
-        QRect stripe = option.rect;
-        stripe.setWidth(kStripeWidth);
+    QStyledItemDelegate::paint(painter, cell, index);
+    if (ground.isValid() && isSelected) {
         QColor color = ground.value<QBrush>().color();
         color.setAlpha(255); // a tint would be lost on the ground of the selection
         painter->fillRect(stripe, color);

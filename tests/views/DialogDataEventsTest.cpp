@@ -181,7 +181,7 @@ TEST_F(LimitListTest, RowsAndTimesFitAnyFont)
         view.setStyleSheet(QStringLiteral("QWidget { font-size: %1px; }").arg(pixels));
         QApplication::processEvents();
         const QFontMetrics metrics = table()->fontMetrics();
-        EXPECT_EQ(table()->rowHeight(0), std::max(15, metrics.height())) << pixels;
+        EXPECT_EQ(table()->rowHeight(0), std::max(15, metrics.height() + 1)) << pixels;
         EXPECT_GT(table()->columnWidth(0),
                   metrics.horizontalAdvance(QStringLiteral("00:00:10.000")))
             << pixels;
@@ -222,6 +222,20 @@ TEST_F(LampListTest, ColoursTintTheRowAndLeaveTheTextReadable)
         }
     }
     Palette::apply(*qApp, Palette::Look::Light);
+}
+
+TEST_F(LampListTest, TheSelectedRowKeepsItsColourInSight)
+{
+    show(eventfulRecord());
+    view.setTime(20.0);
+    const QImage picture = table()->viewport()->grab().toImage();
+    const auto groundOf = [&](int row, int fromLeft) {
+        const QRect cell = table()->visualItemRect(table()->item(row, 1));
+        return picture.pixelColor(cell.left() + fromLeft, cell.center().y());
+    };
+    EXPECT_EQ(groundOf(1, 2), QColor(255, 100, 100));
+    EXPECT_EQ(groundOf(1, 200), QColor(100, 100, 255));
+    EXPECT_EQ(groundOf(0, 2), groundOf(0, 200)) << "others are tinted as a whole";
 }
 
 TEST_F(LimitListTest, TheCursorSelectsTheEventAtOrBeforeIt)
