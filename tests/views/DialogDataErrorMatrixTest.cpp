@@ -1,9 +1,12 @@
 #include "views/DialogDataErrorMatrix.h"
 
+#include "card/CardContainer.h"
+#include "gui/Resources.h"
 #include "gui/WidgetHint.h"
 #include "profile/Profile.h"
 #include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
+#include "views/DialogData.h"
 #include "views/WidgetErrorItem.h"
 #include "views/WidgetErrorTime.h"
 #include "views/WidgetFaultMatrix.h"
@@ -18,6 +21,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTableWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextDocument>
 #include <QToolTip>
@@ -436,6 +440,36 @@ TEST_F(DialogDataErrorMatrixTest, CopyingNamesTheBitsWithTheirState)
     EXPECT_TRUE(lines[0].startsWith(QStringLiteral("31\t30\t")));
     EXPECT_EQ(lines[1].section(QLatin1Char('\t'), 0, 0), QStringLiteral("Over speed <b>: 1"));
     EXPECT_EQ(lines[1].section(QLatin1Char('\t'), 31, 31), QStringLiteral("Self Test: 0"));
+}
+
+TEST_F(DialogDataErrorMatrixTest, InTheDataWindowANewProfileMeetsTheOpenRecordAtItsCursor)
+{
+    initResources();
+    const QTemporaryDir folder;
+    CardContainer card(profile);
+    DialogData window(profile, card, false);
+    window.resize(900, 700);
+    window.show();
+    RecordBuilder words;
+    words.at(10).id(kLaneA).blongValue(0x10U).at(20).blongValue(1).at(30).blongValue(0);
+    ASSERT_TRUE(words.write(folder.filePath(QStringLiteral("1.CAN"))));
+    ASSERT_TRUE(card.readContainer(folder.path()));
+    window.releaseRecord();
+    ASSERT_EQ(card.loadFiles({QStringLiteral("1.CAN")}), 1);
+    window.updateRecord();
+    ASSERT_TRUE(QMetaObject::invokeMethod(&window, "slotLimitTime", Q_ARG(double, 25.0)));
+
+    ProfileBuilder builder;
+    builder.device("Lane A");
+    addMatrix(builder, kLaneA, "Lane A");
+    ASSERT_TRUE(builder.load(profile));
+    window.loadProfile();
+    const auto lit = [&window] { return litBits(*window.findChild<WidgetFaultMatrix*>()); };
+    EXPECT_EQ(lit(), 1U);
+    ASSERT_TRUE(QMetaObject::invokeMethod(&window, "slotWarningTime", Q_ARG(double, 15.0)));
+    EXPECT_EQ(lit(), 0x10U);
+    window.releaseRecord();
+    EXPECT_EQ(lit(), 0U);
 }
 
 } // namespace
