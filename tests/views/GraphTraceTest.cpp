@@ -299,6 +299,18 @@ TEST(GraphTraceTest, TheSecondValueOfALongColumnDoesNotLowerItsMinimum)
     EXPECT_EQ(text(trace.frames()), "255:4(1 1 1)");
 }
 
+TEST(GraphTraceTest, AGapAtTheEndOfALongColumnIsSeen)
+{
+    std::vector<Entry> entries;
+    for (int i = 0; i < 512; ++i) {
+        entries.push_back({1.0 * i, i == 511 ? kNan : 1.0, false});
+    }
+    entries.push_back({5000.0, 2.0, false});
+    GraphTrace trace = traceOf(entries);
+    trace.recalcFrameBuffer(0.0, 6000.0, 1000.0);
+    EXPECT_EQ(text(trace.frames()), "0:4(1 1 1) |5000:2(2)");
+}
+
 TEST(GraphTraceTest, HeldValueAtATime)
 {
     const GraphTrace trace = traceOf({{2.5, 10}, {3.5, 20}, {3.5, 25}, {9.0, 30}});
