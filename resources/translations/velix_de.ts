@@ -2,6 +2,47 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_GB">
 <context>
+    <name>GraphOverlay</name>
+    <message numerus="yes">
+        <source>+ %n more</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>GraphTexts</name>
+    <message>
+        <source>Mark 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No parameter selected. Choose parameters in the list on the left and confirm.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All parameters are hidden. Double-click a name in the legend to show it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The selected parameters have no samples in this record.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>VELIX::CardContainer</name>
     <message>
         <source>Cycle %1</source>
@@ -18,6 +59,10 @@
     <message>
         <source>The card has no file %1.</source>
         <translation>Auf der Datenkarte gibt es keine Datei %1.</translation>
+    </message>
+    <message>
+        <source>None of the selected files can be opened. Is the card in its reader?</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -145,10 +190,6 @@
 <context>
     <name>VELIX::DialogData</name>
     <message>
-        <source>This version has no graph yet. The Data tab lists the values over time.</source>
-        <translation>Diese Version hat noch keinen Graphen. Der Reiter „Daten“ listet die Werte über der Zeit auf.</translation>
-    </message>
-    <message>
         <source>This version has no instrument panel yet. The Data tab lists the values over time.</source>
         <translation>Diese Version hat noch keine Instrumentenanzeige. Der Reiter „Daten“ listet die Werte über der Zeit auf.</translation>
     </message>
@@ -257,6 +298,49 @@
     <message>
         <source>The list could not be saved as %1: %2</source>
         <translation>Die Liste konnte nicht als %1 gespeichert werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogDataGraph</name>
+    <message>
+        <source>No parameter profile is installed. Without the profile of your engine, recorded messages cannot be turned into values.</source>
+        <translation>Es ist kein Parameterprofil installiert. Ohne das Profil des Motors lassen sich aufgezeichnete Nachrichten nicht in Werte umrechnen.</translation>
+    </message>
+    <message>
+        <source>Install a profile</source>
+        <translation>Profil installieren</translation>
+    </message>
+    <message>
+        <source>No record loaded. Open the folder of a data card and choose a cycle, a flight or a file.</source>
+        <translation>Keine Aufzeichnung geladen. Ordner einer Datenkarte öffnen und einen Zyklus, einen Flug oder eine Datei auswählen.</translation>
+    </message>
+    <message>
+        <source>No parameter selected. Choose parameters in the list on the left and confirm.</source>
+        <translation>Keine Parameter ausgewählt. Parameter in der Liste links wählen und bestätigen.</translation>
+    </message>
+    <message>
+        <source>Select parameters</source>
+        <translation>Parameter auswählen</translation>
+    </message>
+    <message>
+        <source>%1 parameters are selected; the graph shows the first %2 of them.</source>
+        <translation>%1 Parameter sind ausgewählt; der Graph zeigt die ersten %2 davon.</translation>
+    </message>
+    <message>
+        <source>Save Snapshot</source>
+        <translation>Schnappschuss speichern</translation>
+    </message>
+    <message>
+        <source>BMP File (*.bmp);;All Files (*.*)</source>
+        <translation>BMP-Datei (*.bmp);;Alle Dateien (*.*)</translation>
+    </message>
+    <message>
+        <source>Snapshot saved as %1.</source>
+        <translation>Schnappschuss gespeichert als %1.</translation>
+    </message>
+    <message>
+        <source>Snapshot copied to the clipboard.</source>
+        <translation>Schnappschuss in die Zwischenablage kopiert.</translation>
     </message>
 </context>
 <context>
@@ -507,6 +591,93 @@ Ohne diese Option rücken die folgenden Zellen nach links.</translation>
     </message>
 </context>
 <context>
+    <name>VELIX::DialogGraphSetup</name>
+    <message>
+        <source>Oscilloscope Setup</source>
+        <translation>Oszilloskop einrichten</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Grid On</source>
+        <translation>Gitter an</translation>
+    </message>
+    <message>
+        <source>Background Color :</source>
+        <translation>Hintergrundfarbe:</translation>
+    </message>
+    <message>
+        <source>Grid On/Color :</source>
+        <translation>Gitter an/Farbe:</translation>
+    </message>
+    <message>
+        <source>Label Color :</source>
+        <translation>Farbe der Beschriftung:</translation>
+    </message>
+    <message>
+        <source>Label Background :</source>
+        <translation>Grund der Beschriftung:</translation>
+    </message>
+    <message>
+        <source>Cursor On</source>
+        <translation>Cursor an</translation>
+    </message>
+    <message>
+        <source>Cursor mode</source>
+        <translation>Cursormodus</translation>
+    </message>
+    <message>
+        <source>Floating</source>
+        <translation>Beweglich</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Legend On</source>
+        <translation>Legende an</translation>
+    </message>
+    <message>
+        <source>Autoscale On</source>
+        <translation>Automatische Skala an</translation>
+    </message>
+    <message>
+        <source>Y minimum</source>
+        <translation>Y-Minimum</translation>
+    </message>
+    <message>
+        <source>Y maximum</source>
+        <translation>Y-Maximum</translation>
+    </message>
+    <message>
+        <source>Cursor On/Mode :</source>
+        <translation>Cursor an/Modus:</translation>
+    </message>
+    <message>
+        <source>Legend :</source>
+        <translation>Legende:</translation>
+    </message>
+    <message>
+        <source>Y-Scale :</source>
+        <translation>Y-Skala:</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Wählen</translation>
+    </message>
+    <message>
+        <source>Switch autoscale off to set the scale by hand.</source>
+        <translation>Die automatische Skala ausschalten, um die Skala von Hand einzustellen.</translation>
+    </message>
+</context>
+<context>
     <name>VELIX::DialogMain</name>
     <message>
         <source>&amp;File</source>
@@ -643,6 +814,18 @@ Jetzt speichern?</translation>
 Replace it ?</source>
         <translation>%1 ist bereits vorhanden.
 Soll die Datei ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>%1 of card %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The project of the last run could not be read. It is kept as %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not a VELIX project. Saving will not write to it.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -815,6 +998,119 @@ Soll sie ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>VELIX::GraphCommandBar</name>
+    <message>
+        <source>Zoom In</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Zoom 1:1</source>
+        <translation>Zoom 1:1</translation>
+    </message>
+    <message>
+        <source>Zoom Marker</source>
+        <translation>Auf Marken zoomen</translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Alles löschen</translation>
+    </message>
+    <message>
+        <source>Automatic Mode</source>
+        <translation>Automatikmodus</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Split Mode</source>
+        <translation>Geteilte Darstellung</translation>
+    </message>
+    <message>
+        <source>Single Graph Mode</source>
+        <translation>Gemeinsame Darstellung</translation>
+    </message>
+    <message>
+        <source>Reset all to default</source>
+        <translation>Alles zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Einrichten</translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
+        <translation>Schnappschuss</translation>
+    </message>
+    <message>
+        <source>Previous visible range</source>
+        <translation>Voriger sichtbarer Bereich</translation>
+    </message>
+    <message>
+        <source>Next visible range</source>
+        <translation>Nächster sichtbarer Bereich</translation>
+    </message>
+    <message>
+        <source>Minimum, maximum and average between the markers</source>
+        <translation>Minimum, Maximum und Mittelwert zwischen den Marken</translation>
+    </message>
+    <message>
+        <source>Save Snapshot ...</source>
+        <translation>Schnappschuss speichern ...</translation>
+    </message>
+    <message>
+        <source>Copy to Clipboard</source>
+        <translation>In die Zwischenablage kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::GraphSnapshot</name>
+    <message>
+        <source>The snapshot could not be saved as %1: %2.</source>
+        <translation>Der Schnappschuss konnte nicht als %1 gespeichert werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::GraphStatisticTable</name>
+    <message>
+        <source>Minimum, maximum and average of the traces</source>
+        <translation>Minimum, Maximum und Mittelwert der Kurven</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Between the markers: %1 s to %2 s, %3 s</source>
+        <translation>Zwischen den Marken: %1 s bis %2 s, %3 s</translation>
+    </message>
+    <message>
+        <source>In the visible range: %1 s to %2 s, %3 s</source>
+        <translation>Im sichtbaren Bereich: %1 s bis %2 s, %3 s</translation>
+    </message>
+</context>
+<context>
     <name>VELIX::MainActions</name>
     <message>
         <source>&amp;New Project</source>
@@ -981,6 +1277,21 @@ Soll sie ersetzt werden?</translation>
     <message>
         <source>No error set</source>
         <translation>Kein Fehler gesetzt</translation>
+    </message>
+</context>
+<context>
+    <name>WidgetGraphBase</name>
+    <message>
+        <source>%1: drag to another place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: double-click to hide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: double-click to show</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
