@@ -289,6 +289,7 @@ void WidgetGraphBase::wheelEvent(QWheelEvent* event)
         event->ignore();
         return;
     }
+    event->accept();
     mWheelDelta += event->angleDelta().y();
     // A mouse wheel sends whole steps and no phases; a touch pad sends parts of steps.
     const bool whole = event->phase() == Qt::NoScrollPhase && mWheelDelta != 0;
