@@ -11,6 +11,7 @@
 #include "tests/gui/TestProgram.h"
 #include "tests/support/CapturedDiagnostics.h"
 #include "views/DialogData.h"
+#include "views/DialogDataLimit.h"
 
 #include <gtest/gtest.h>
 
@@ -190,6 +191,15 @@ TEST_F(DialogMainTest, SaysWhyALoadWasRefusedAndGoesOn)
     ASSERT_TRUE(QTest::qWaitFor([this] { return !notice().isEmpty(); }, kLoadMs));
     EXPECT_EQ(loaded(), name);
     EXPECT_TRUE(action(eActionExportCsv).isEnabled());
+}
+
+TEST_F(DialogMainTest, SaysWhyAListOfEventsWasNotSaved)
+{
+    start();
+    program.dialogs.file = program.home.filePath(QStringLiteral("none/list.csv"));
+    find<DialogDataLimit>("viewLimit").saveCsv();
+    EXPECT_EQ(program.dialogs.takeAsked(), QStringList(QStringLiteral("Save List")));
+    EXPECT_TRUE(notice().contains(program.dialogs.file));
 }
 
 TEST_F(DialogMainTest, ShowsProgressThatOthersReport)
