@@ -10,11 +10,8 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
-#include <QScrollBar>
 #include <QTableWidget>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 namespace VELIX {
 
@@ -23,12 +20,14 @@ namespace {
 constexpr int kTitlePixels = 16;
 constexpr int kBold = 75;
 constexpr int kHeaderPixels = 8;
+constexpr int kHeaderHeight = 14; // leaves room for the row and a scroll bar below it
 constexpr int kColumnWidth = 15;
 constexpr int kRowHeight = 150;
 constexpr int kTableHeight = 180;
 constexpr int kNarrowTable = 639; // pixels; narrower ones scroll
 constexpr int kNarrowColumn = 20;
 constexpr int kMargin = 8;
+constexpr int kSideMargin = 4; // narrow: a window of 1000 pixels then shows all columns
 constexpr int kGap = 4;
 
 /// What a copy of the table says of a bit: the cell itself is a widget.
@@ -66,7 +65,7 @@ WidgetFaultMatrix::WidgetFaultMatrix(QWidget* parent)
     createTitle();
     createTable();
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setContentsMargins(kSideMargin, kMargin, kSideMargin, kGap);
     layout->setSpacing(kGap);
     layout->addWidget(mTitle);
     layout->addWidget(mTime);
@@ -116,6 +115,7 @@ void WidgetFaultMatrix::createTable()
     header->setStyleSheet(QStringLiteral("QHeaderView { font-size: %1px; background: transparent; }"
                                          "QHeaderView::section { padding: 0; font-size: %1px; }")
                               .arg(kHeaderPixels));
+    header->setFixedHeight(kHeaderHeight);
     header->setHighlightSections(false);
     header->setSectionResizeMode(QHeaderView::Fixed);
     header->setMinimumSectionSize(kColumnWidth);
@@ -206,8 +206,6 @@ void WidgetFaultMatrix::fitColumns()
     }
     // The shared width may be a pixel too much, which is no reason to scroll.
     mTable->setHorizontalScrollBarPolicy(narrow ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
-    const int scrollBar = narrow ? mTable->horizontalScrollBar()->sizeHint().height() : 0;
-    header->setFixedHeight(std::max(1, kTableHeight - kRowHeight - scrollBar));
 }
 
 bool WidgetFaultMatrix::eventFilter(QObject* watched, QEvent* event)

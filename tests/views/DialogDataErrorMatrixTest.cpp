@@ -340,6 +340,8 @@ TEST_F(DialogDataErrorMatrixTest, ColumnsShareAWideTableAndScrollInANarrowOne)
             EXPECT_EQ(least, greatest);
             EXPECT_EQ(table()->horizontalHeader()->minimumSectionSize(), least);
             EXPECT_EQ(table()->verticalScrollBar()->maximum(), 0);
+            EXPECT_EQ(cell(31)->mapTo(table(), {0, 0}).y(), table()->horizontalHeader()->height());
+            EXPECT_EQ(cell(31)->visibleRegion().boundingRect().height(), cell(31)->height());
             EXPECT_EQ(table()->horizontalScrollBar()->isVisible(), tableWidth < 639);
             return least;
         };
@@ -349,6 +351,8 @@ TEST_F(DialogDataErrorMatrixTest, ColumnsShareAWideTableAndScrollInANarrowOne)
         EXPECT_EQ(widthsAt(670), 20);
         EXPECT_EQ(widthsAt(671), 21);
         EXPECT_EQ(widthsAt(1400), 43);
+        EXPECT_EQ(widthsAt(300), 20);
+        EXPECT_EQ(widthsAt(700), 21);
         EXPECT_EQ(table()->rowHeight(0), 150);
         EXPECT_GE(table()->viewport()->height(), 150);
         EXPECT_EQ(panel()->findChild<QLabel*>()->fontInfo().pixelSize(), 16);
