@@ -35,10 +35,10 @@ QColor GraphLook::readable(const QColor& colour, const QColor& ground)
 {
     GraphLook on;
     on.back = ground;
-    const QColor end = on.plotText();
+    QColor end = on.plotText();
     constexpr int kSteps = 16;
     for (int step = 0; step < kSteps; ++step) {
-        const QColor tried = mix(colour, end, static_cast<double>(step) / kSteps);
+        QColor tried = mix(colour, end, static_cast<double>(step) / kSteps);
         if (Palette::contrast(tried, ground) >= kReadable) {
             return tried;
         }

@@ -413,7 +413,11 @@ void GraphOverlay::paintReadouts(double time, int y, const std::vector<Note>& no
         return;
     }
     for (std::size_t place = 0; place < notes.size(); ++place) {
-        const QRect band = mScene.bandOf(place).adjusted(0, 1, 0, 0);
+        QRect band = mScene.bandOf(place).adjusted(0, 1, 0, 0);
+        if (mPointer.markersOn && place + 1 == notes.size() &&
+            band.height() >= 3 * mMetrics.height()) {
+            band.adjust(0, 0, 0, -mMetrics.height()); // the markers' flags are there
+        }
         paintNote(QPoint(qRound(x), quietHeight(mScene.shown[place], time, band)), notes[place],
                   band);
     }

@@ -18,7 +18,7 @@ constexpr int kWidthStep = 8;
 constexpr int kLeastAxisWidth = 24;
 constexpr int kMostNameWidth = 160;
 constexpr double kGap = 16.0;    ///< pixels between labels of a value axis
-constexpr double kBandGap = 6.0; ///< in a band, which is low
+constexpr double kBandGap = 3.0; ///< in a band, which is low
 
 int roundedUp(int width)
 {
@@ -29,8 +29,8 @@ int roundedUp(int width)
 bool hasRoomForLabel(const std::vector<GraphTick>& ticks, int height, int line)
 {
     return std::any_of(ticks.begin(), ticks.end(), [height, line](const GraphTick& tick) {
-        return !tick.label.isEmpty() && tick.position >= line / 2 &&
-               tick.position <= height - line / 2;
+        return !tick.label.isEmpty() && tick.position >= line / 2.0 &&
+               tick.position <= height - line / 2.0;
     });
 }
 

@@ -5,9 +5,9 @@
     <name>GraphOverlay</name>
     <message numerus="yes">
         <source>+ %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>+ %n weiterer</numerusform>
+            <numerusform>+ %n weitere</numerusform>
         </translation>
     </message>
 </context>
@@ -15,31 +15,31 @@
     <name>GraphTexts</name>
     <message>
         <source>Mark 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke 1</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>Min</translation>
     </message>
     <message>
         <source>Mark 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Marke 2</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Max</translation>
     </message>
     <message>
         <source>No parameter selected. Choose parameters in the list on the left and confirm.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Parameter ausgewählt. Parameter in der Liste links auswählen und bestätigen.</translation>
     </message>
     <message>
         <source>All parameters are hidden. Double-click a name in the legend to show it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Parameter sind ausgeblendet. Ein Doppelklick auf einen Namen in der Legende blendet ihn ein.</translation>
     </message>
     <message>
         <source>The selected parameters have no samples in this record.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Parameter haben in dieser Aufzeichnung keine Messwerte.</translation>
     </message>
 </context>
 <context>
@@ -1283,15 +1283,15 @@ Soll sie ersetzt werden?</translation>
     <name>WidgetGraphBase</name>
     <message>
         <source>%1: drag to another place</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: an eine andere Stelle ziehen</translation>
     </message>
     <message>
         <source>%1: double-click to hide</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Doppelklick blendet aus</translation>
     </message>
     <message>
         <source>%1: double-click to show</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Doppelklick blendet ein</translation>
     </message>
 </context>
 </TS>
