@@ -37,6 +37,7 @@ constexpr int kRowHeight = 15;
 constexpr int kGridLine = 1;
 constexpr int kTimeWidth = 80;
 constexpr int kCellMargin = 12;
+constexpr int kEventMargin = 24; // and the stripe ahead of the text
 constexpr int kBold = 75;
 
 } // namespace
@@ -91,6 +92,7 @@ void DialogDataEvents::createTable()
     header->setHighlightSections(false);
     header->setSectionResizeMode(kColumnEvent, QHeaderView::Stretch);
     fitCells();
+    mTable->viewport()->installEventFilter(this);
 
     CopyFilter::install(mTable);
     connect(mTable, &QTableWidget::itemSelectionChanged, this, &DialogDataEvents::slotSelect);
@@ -141,12 +143,17 @@ void DialogDataEvents::setTime(double seconds)
     centreRow();
 }
 
+/// Only up and down: what was scrolled aside to be read stays.
 void DialogDataEvents::centreRow()
 {
     const auto item = mRowToItem.find(static_cast<std::uint32_t>(mCursorRow));
-    if (mCursorRow >= 0 && item != mRowToItem.end()) {
-        mTable->scrollToItem(item->second, QAbstractItemView::PositionAtCenter);
+    if (mCursorRow < 0 || item == mRowToItem.end()) {
+        return;
     }
+    const int row = item->second->row();
+    mTable->verticalScrollBar()->setValue(mTable->verticalHeader()->sectionPosition(row) -
+                                          (mTable->viewport()->height() - mTable->rowHeight(row)) /
+                                              2);
 }
 
 void DialogDataEvents::updateRecord(RecordData* record)
@@ -168,6 +175,7 @@ void DialogDataEvents::updateRecord(RecordData* record)
         fillEvents();
     }
     mTable->doItemsLayout();
+    fitEvents();
     updateHint();
     setTime(record->cursorTime);
 }
@@ -218,6 +226,39 @@ void DialogDataEvents::fitCells()
     const int text = metrics.horizontalAdvance(QStringLiteral("00:00:00.000")) + kCellMargin;
     const int heading = mTable->horizontalHeader()->sectionSizeHint(kColumnTime);
     mTable->setColumnWidth(kColumnTime, std::max({kTimeWidth, text, heading}));
+    fitEvents();
+}
+
+/// The value stands at the end of an event, so a pane that is too narrow must not cut it off: the
+/// column takes the room that is left or, if that is not enough, can be scrolled.
+void DialogDataEvents::fitEvents()
+{
+    const auto longest = std::max_element(mEvents.begin(), mEvents.end(), [](auto* a, auto* b) {
+        return a->text.size() < b->text.size();
+    });
+    mEventWidth = longest == mEvents.end()
+                      ? 0
+                      : mTable->fontMetrics().horizontalAdvance((*longest)->text) + kEventMargin;
+    stretchEvents();
+}
+
+void DialogDataEvents::stretchEvents()
+{
+    const int room = mTable->viewport()->width() - mTable->columnWidth(kColumnTime);
+    QHeaderView* header = mTable->horizontalHeader();
+    const bool fits = room >= mEventWidth;
+    header->setSectionResizeMode(kColumnEvent, fits ? QHeaderView::Stretch : QHeaderView::Fixed);
+    if (!fits) {
+        mTable->setColumnWidth(kColumnEvent, mEventWidth);
+    }
+}
+
+bool DialogDataEvents::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize && watched == mTable->viewport()) {
+        stretchEvents();
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void DialogDataEvents::changeEvent(QEvent* event)

@@ -64,6 +64,7 @@ protected:
     RecordData* record() const { return mRecord; }
 
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void connectNotify(const QMetaMethod& signal) override;
 
 private slots:
@@ -77,6 +78,8 @@ private:
     void fillTime();
     void fillEvents();
     void fitCells();
+    void fitEvents();
+    void stretchEvents();
     void centreRow();
     void updateHint();
     void copy() const;
@@ -94,7 +97,8 @@ private:
     const Texts mTexts;
     Events mEvents; ///< the record's own
     int mCursorRow = -1;
-    QString mFolder; ///< where a list was saved last
+    int mEventWidth = 0; ///< pixels that the longest event needs
+    QString mFolder;     ///< where a list was saved last
     WidgetHint* mHint = nullptr;
     QAction* mCopy = nullptr;
     QAction* mSave = nullptr;

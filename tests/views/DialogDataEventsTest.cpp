@@ -187,6 +187,21 @@ TEST_F(LimitListTest, RowsAndTimesFitAnyFont)
             << pixels;
         EXPECT_GE(table()->columnWidth(0), 80) << pixels;
     }
+    EXPECT_GE(table()->columnWidth(0) + table()->columnWidth(1), table()->viewport()->width());
+}
+
+TEST_F(LimitListTest, ANarrowPaneScrollsInsteadOfCuttingValuesOff)
+{
+    show(eventfulRecord());
+    const QString longest = table()->item(1, 1)->text();
+    view.resize(160, 120);
+    QApplication::processEvents();
+    EXPECT_GT(table()->columnWidth(1), table()->fontMetrics().horizontalAdvance(longest));
+    table()->horizontalScrollBar()->setValue(50);
+    view.setTime(45.0);
+    EXPECT_EQ(table()->horizontalScrollBar()->value(), 50) << "the cursor moves rows only";
+    view.resize(500, 120);
+    QApplication::processEvents();
     EXPECT_EQ(table()->columnWidth(0) + table()->columnWidth(1), table()->viewport()->width());
 }
 
