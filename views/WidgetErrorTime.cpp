@@ -13,6 +13,7 @@ namespace {
 
 constexpr int kHeight = 30;
 constexpr int kNotePixels = 12;
+constexpr int kNoteMargin = 8;
 
 /// From top to bottom.
 constexpr int kBandTypes[] = {eErrorFault, eErrorWarning, eErrorInfo};
@@ -136,12 +137,23 @@ void WidgetErrorTime::drawPicture()
     QPainter painter(&mPicture);
     drawBands(painter);
     if (mTimeline.hasRecord() && !mTimeline.hasSamples()) {
-        QFont small = font();
-        small.setPixelSize(kNotePixels);
-        painter.setFont(small);
-        painter.setPen(Palette::light().mutedText); // the ground is white in every look
-        painter.drawText(rect(), Qt::AlignCenter, tipText(0));
+        drawNote(painter);
     }
+}
+
+/// An empty bar would say that there was no error.
+void WidgetErrorTime::drawNote(QPainter& painter) const
+{
+    QFont small = font();
+    small.setPixelSize(kNotePixels);
+    painter.setFont(small);
+    const QString note =
+        painter.fontMetrics().elidedText(tipText(0), Qt::ElideRight, width() - 4 * kNoteMargin);
+    const QRect area = painter.fontMetrics().boundingRect(rect(), Qt::AlignCenter, note);
+    // The lines between the bands would run through the text.
+    painter.fillRect(area.adjusted(-kNoteMargin, 0, kNoteMargin, 0), Qt::white);
+    painter.setPen(Palette::light().mutedText); // the ground is white in every look
+    painter.drawText(rect(), Qt::AlignCenter, note);
 }
 
 void WidgetErrorTime::drawBands(QPainter& painter) const

@@ -39,6 +39,7 @@ private:
     void forgetPicture();
     void drawPicture();
     void drawBands(QPainter& painter) const;
+    void drawNote(QPainter& painter) const;
 
     FaultMatrix mMatrix;
     FaultTimeline mTimeline;
