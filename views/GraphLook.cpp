@@ -17,11 +17,11 @@ QColor GraphLook::plotText() const
     return Palette::contrast(white, back) >= Palette::contrast(black, back) ? white : black;
 }
 
-QColor GraphLook::cursor() const
+QColor GraphLook::accentOn(const QColor& ground)
 {
-    const QColor dark = Palette::dark().accent;
-    const QColor light = Palette::light().accent;
-    return Palette::contrast(dark, back) >= Palette::contrast(light, back) ? dark : light;
+    const QColor& dark = Palette::dark().accent;
+    const QColor& light = Palette::light().accent;
+    return Palette::contrast(dark, ground) >= Palette::contrast(light, ground) ? dark : light;
 }
 
 QColor GraphLook::mix(const QColor& from, const QColor& to, double part)

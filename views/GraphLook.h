@@ -21,12 +21,16 @@ struct GraphLook
     /// Between the bands of the split display.
     [[nodiscard]] QColor separator() const { return mix(back, plotText(), 0.55); }
     /// Cursor line and readout; blue that shows on the plot's ground.
-    [[nodiscard]] QColor cursor() const;
+    [[nodiscard]] QColor cursor() const { return accentOn(back); }
+    /// The frame of the plot while keys go to the graph.
+    [[nodiscard]] QColor focus() const { return accentOn(labelBack); }
     /// Black or white, whichever is easier to read on the plot's ground.
     [[nodiscard]] QColor plotText() const;
     /// Readable, but weaker than plotText().
     [[nodiscard]] QColor plotMutedText() const { return mix(back, plotText(), 0.68); }
 
+    /// The accent of the look, light or dark, that shows best on a ground.
+    [[nodiscard]] static QColor accentOn(const QColor& ground);
     /// A colour on the way from one (0) to another (1).
     [[nodiscard]] static QColor mix(const QColor& from, const QColor& to, double part);
     /// A trace's colour, moved towards black or white until texts in it are readable on a ground.

@@ -37,6 +37,9 @@ void GraphOverlay::paint()
 {
     mPainter.setFont(mScene.font);
     paintLegend();
+    if (mPointer.focused) {
+        paintFrame(mScene.layout.plot().adjusted(-1, -1, 1, 1), mLook.focus());
+    }
     const QString hint = GraphTexts::hint(mModel);
     if (!hint.isEmpty()) {
         paintHint(hint);
@@ -191,9 +194,7 @@ void GraphOverlay::paintLegendEntry(int row, const QRect& place)
     if (selected) {
         mPainter.fillRect(place, GraphLook::mix(mLook.labelBack, mLook.cursor(), 0.25));
     }
-    mPainter.setPen(colourOf(trace));
-    mPainter.setBrush(shown ? QBrush(colourOf(trace)) : QBrush(Qt::NoBrush));
-    mPainter.drawRect(swatch.adjusted(1, 0, 0, -1));
+    shown ? mPainter.fillRect(swatch, colourOf(trace)) : paintFrame(swatch, colourOf(trace));
 
     mPainter.setPen(shown ? mLook.label : GraphLook::mix(mLook.labelBack, mLook.label, 0.45));
     QRect name(place.left() + 2 * kSwatch, place.top(), place.width() - 2 * kSwatch, line);
@@ -473,9 +474,7 @@ void GraphOverlay::paintBox(const QPoint& anchor, const std::vector<Note>& notes
     QColor ground = mLook.back;
     ground.setAlpha(kGroundAlpha);
     mPainter.fillRect(box, ground);
-    mPainter.setPen(mLook.separator());
-    mPainter.setBrush(Qt::NoBrush);
-    mPainter.drawRect(box.adjusted(0, 0, -1, -1));
+    paintFrame(box, mLook.separator());
     for (int i = 0; i < static_cast<int>(lines.size()); ++i) {
         mPainter.setPen(i < shown ? notes[static_cast<std::size_t>(i)].colour
                                   : mLook.plotMutedText());
@@ -504,6 +503,15 @@ void GraphOverlay::paintDistance()
 }
 
 // --- helpers
+
+void GraphOverlay::paintFrame(const QRect& frame, const QColor& colour)
+{
+    // Filled, since lines of a painter on OpenGL may lie a pixel beside their place.
+    mPainter.fillRect(QRect(frame.left(), frame.top(), frame.width(), 1), colour);
+    mPainter.fillRect(QRect(frame.left(), frame.bottom(), frame.width(), 1), colour);
+    mPainter.fillRect(QRect(frame.left(), frame.top(), 1, frame.height()), colour);
+    mPainter.fillRect(QRect(frame.right(), frame.top(), 1, frame.height()), colour);
+}
 
 double GraphOverlay::xOf(double time) const
 {

@@ -53,6 +53,8 @@ private:
     void paintReadouts(double time, int y, const std::vector<Note>& notes);
     void paintNote(const QPoint& anchor, const Note& note, const QRect& area);
     void paintBox(const QPoint& anchor, const std::vector<Note>& notes);
+    /// The outermost pixels of a rectangle.
+    void paintFrame(const QRect& frame, const QColor& colour);
     void paintTimeTag(double time, const QColor& colour);
     /// Where the time at a line is written below the plot; empty if the line is not visible.
     [[nodiscard]] QRect timeTag(double time) const;

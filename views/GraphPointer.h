@@ -10,6 +10,7 @@ struct GraphPointer
     QPoint mouse;              ///< logical pixels of the widget
     bool hovering = false;     ///< the mouse is over the plot, with no button down
     bool cursorActive = false; ///< the cursor was just moved by a key
+    bool focused = false;      ///< keys move the cursor
     bool markersOn = false;
     bool distance = false; ///< the distance of the markers is shown
     int draggedTrace = -1; ///< place of the trace that is being moved; -1: none

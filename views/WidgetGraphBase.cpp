@@ -106,7 +106,9 @@ void WidgetGraphBase::clear()
 void WidgetGraphBase::reset()
 {
     mModel.reset();
+    const bool focused = mPointer.focused;
     mPointer = {};
+    mPointer.focused = focused;
     mDrag = Drag::None;
     touch();
 }

@@ -404,8 +404,15 @@ void WidgetGraphBase::keyReleaseEvent(QKeyEvent* event)
     QOpenGLWidget::keyReleaseEvent(event);
 }
 
+void WidgetGraphBase::focusInEvent(QFocusEvent* event)
+{
+    mPointer.focused = true;
+    QOpenGLWidget::focusInEvent(event); // updates
+}
+
 void WidgetGraphBase::focusOutEvent(QFocusEvent* event)
 {
+    mPointer.focused = false;
     mHeldKeys = Qt::NoModifier; // their release goes elsewhere
     QOpenGLWidget::focusOutEvent(event);
 }

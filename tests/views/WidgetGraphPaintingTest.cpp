@@ -1,5 +1,8 @@
 #include "tests/views/GraphFixture.h"
 
+#include <QOpenGLContext>
+#include <QOpenGLFunctions>
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -85,6 +88,48 @@ TYPED_TEST(WidgetGraphPainting, AnEmptyGraphShowsASentence)
     const QImage image = fixture.paint();
     const QRect plot = fixture.plot();
     EXPECT_GT(pixelsLike(image, plot, fixture.graph.look().plotMutedText(), 30), 100);
+}
+
+TYPED_TEST(WidgetGraphPainting, TheFrameOfThePlotShowsTheFocus)
+{
+    GraphFixture<TypeParam> fixture;
+    const QRect edge(fixture.plot().left() - 1, fixture.plot().top(), 1, fixture.plot().height());
+    const QColor colour = fixture.graph.look().focus();
+    fixture.graph.setFocus();
+    EXPECT_GT(pixelsLike(fixture.paint(), edge, colour), edge.height() / 2);
+    fixture.graph.clearFocus();
+    EXPECT_EQ(pixelsLike(fixture.paint(), edge, colour), 0);
+}
+
+TYPED_TEST(WidgetGraphPainting, TheGraphicsSystemHasNoComplaints)
+{
+    GraphFixture<TypeParam> fixture(8);
+    fixture.graph.activateSamples(0, true);
+    fixture.graph.setMarker(20.0, 60.0);
+    fixture.paint();
+    fixture.graph.makeCurrent();
+    EXPECT_EQ(fixture.graph.context()->functions()->glGetError(), unsigned{GL_NO_ERROR});
+    EXPECT_EQ(fixture.graph.context()->functions()->glIsEnabled(GL_SCISSOR_TEST), GL_FALSE);
+    fixture.graph.doneCurrent();
+}
+
+TYPED_TEST(WidgetGraphPainting, SlopesAreSmooth)
+{
+    GraphFixture<TypeParam> fixture(1, false);
+    fixture.graph.activateGrid(false);
+    fixture.graph.activateCursor(false);
+    const QRect plot = fixture.plot();
+    const QRect area = plot.adjusted(plot.width() / 3, 0, -plot.width() / 3, 0);
+    fixture.paint();
+    const QImage image = fixture.paint(); // the painter of the first one's texts left its state
+    int between = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            const int red = image.pixelColor(x, y).red();
+            between += red > 30 && red < 220 ? 1 : 0;
+        }
+    }
+    EXPECT_GT(between, area.width() / 2);
 }
 
 TYPED_TEST(WidgetGraphPainting, AnIdleGraphDoesNotRepaint)
