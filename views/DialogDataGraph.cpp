@@ -7,6 +7,7 @@
 #include "views/GraphColor.h"
 #include "views/GraphNavigation.h"
 #include "views/GraphStatisticTable.h"
+#include "views/GraphValues.h"
 #include "views/WidgetGraph.h"
 
 #include <QAction>
@@ -238,17 +239,10 @@ void DialogDataGraph::takeParameters()
         const ProfileParameter& parameter = *parameters[i];
         mGraph->setActive(i, true);
         mGraph->setParameterName(i, parameter.name.toStdString());
-        mGraph->setParameterUnit(i, valueUnit(parameter));
-        mGraph->setPrecision(i, parameter.precision);
+        mGraph->setParameterUnit(i, GraphValues::unit(mProfile, parameter));
+        mGraph->setPrecision(i, GraphValues::decimals(mProfile, parameter));
     }
     updateSurplus(parameters.size());
-}
-
-/// The unit of the numbers that the traces hold, which are converted whatever their type.
-std::string DialogDataGraph::valueUnit(const ProfileParameter& parameter) const
-{
-    const bool converted = mProfile.currentUnit() == eUnitImperial && parameter.hasConversion;
-    return (converted ? parameter.unitImperial : parameter.unitMetric).toStdString();
 }
 
 void DialogDataGraph::fillRecord()

@@ -10,7 +10,6 @@
 #include <QTimer>
 #include <QWidget>
 
-class QGridLayout;
 class QLabel;
 class WidgetGraph;
 
@@ -84,7 +83,6 @@ private:
     void setXrange(double seconds);
     void fillRecord();
     void takeParameters();
-    std::string valueUnit(const ProfileParameter& parameter) const;
     void updateHint();
     void updateSurplus(std::size_t selected);
 

@@ -60,7 +60,7 @@ void DialogDataGraph::saveSnapshot()
     if (file.isEmpty()) {
         return;
     }
-    const QString failure = GraphSnapshot::save(*this, picture, file);
+    const QString failure = GraphSnapshot::save(*mGraph, picture, file);
     emit signalNotice(failure.isEmpty() ? tr("Snapshot saved as %1.").arg(file) : failure);
 }
 

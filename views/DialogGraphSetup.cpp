@@ -25,18 +25,22 @@ constexpr int kLeastWidth = 420;
 constexpr int kMargin = 8;
 constexpr int kSwatchWidth = 32;
 constexpr int kSwatchHeight = 16;
+constexpr int kSwatchGap = 6;
 
 /// A framed field of the colour: a button in that colour could not be told from a disabled one.
 void showColor(QPushButton* button, const std::string& name)
 {
     const qreal ratio = button->devicePixelRatioF();
-    QPixmap swatch(QSize(kSwatchWidth, kSwatchHeight) * ratio);
+    QPixmap swatch(QSize(kSwatchWidth + kSwatchGap, kSwatchHeight) * ratio);
     swatch.setDevicePixelRatio(ratio);
-    swatch.fill(Palette::current().controlLine);
-    QPainter(&swatch).fillRect(1, 1, kSwatchWidth - 2, kSwatchHeight - 2,
-                               QColor(QString::fromStdString(name)));
+    swatch.fill(Qt::transparent);
+    QPainter painter(&swatch);
+    painter.fillRect(0, 0, kSwatchWidth, kSwatchHeight, Palette::current().controlLine);
+    painter.fillRect(1, 1, kSwatchWidth - 2, kSwatchHeight - 2,
+                     QColor(QString::fromStdString(name)));
+    painter.end();
     button->setIcon(QIcon(swatch));
-    button->setIconSize({kSwatchWidth, kSwatchHeight});
+    button->setIconSize({kSwatchWidth + kSwatchGap, kSwatchHeight});
     button->setAccessibleDescription(QString::fromStdString(name));
 }
 

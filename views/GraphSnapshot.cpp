@@ -1,5 +1,8 @@
 #include "views/GraphSnapshot.h"
 
+#include "views/GraphPicture.h"
+#include "views/WidgetGraph.h"
+
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
@@ -9,7 +12,6 @@
 #include <QPixmap>
 #include <QSaveFile>
 #include <QSvgGenerator>
-#include <QWidget>
 
 namespace VELIX::GraphSnapshot {
 
@@ -18,16 +20,17 @@ namespace {
 const QString kSvg = QStringLiteral("svg");
 constexpr int kJpegQuality = 95; // thin lines on black do not survive less
 
-QByteArray svgOf(QWidget& view)
+QByteArray svgOf(const WidgetGraph& graph)
 {
     QBuffer bytes;
     QSvgGenerator generator;
     generator.setOutputDevice(&bytes);
-    generator.setSize(view.size());
-    generator.setViewBox(view.rect());
-    generator.setTitle(view.windowTitle());
+    generator.setSize(graph.size());
+    generator.setViewBox(graph.rect());
+    generator.setResolution(graph.logicalDpiX()); // else texts are smaller than their places
     QPainter painter(&generator);
-    view.render(&painter);
+    GraphPicture(graph.model(), graph.look(), graph.markersOn(), graph.size(), graph.font())
+        .paint(painter);
     painter.end();
     return bytes.data();
 }
@@ -52,10 +55,10 @@ QString formatOf(const QString& fileName)
     return known ? suffix : QStringLiteral("bmp");
 }
 
-QString save(QWidget& view, const QPixmap& picture, const QString& fileName)
+QString save(const WidgetGraph& graph, const QPixmap& picture, const QString& fileName)
 {
     const QString format = formatOf(fileName);
-    const QByteArray bytes = format == kSvg ? svgOf(view) : bytesOf(picture, format);
+    const QByteArray bytes = format == kSvg ? svgOf(graph) : bytesOf(picture, format);
     QSaveFile file(fileName);
     if (!bytes.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
         file.commit()) {

@@ -3,7 +3,7 @@
 #include <QString>
 
 class QPixmap;
-class QWidget;
+class WidgetGraph;
 
 namespace VELIX {
 
@@ -14,10 +14,12 @@ namespace GraphSnapshot {
 /// can be written in; "bmp" for all others.
 QString formatOf(const QString& fileName);
 
-/// Writes a picture of a view as it is on screen.
-/// \param picture the view, taken before any dialog could cover it
+/// Writes a picture of a view as it is on screen. As SVG only the graph itself is drawn, in lines
+/// and texts that stay sharp at any size.
+/// \param picture the whole view, taken before any dialog could cover it
 /// \return what went wrong, as a sentence for the user; empty on success
-[[nodiscard]] QString save(QWidget& view, const QPixmap& picture, const QString& fileName);
+[[nodiscard]] QString save(const WidgetGraph& graph, const QPixmap& picture,
+                           const QString& fileName);
 
 } // namespace GraphSnapshot
 } // namespace VELIX

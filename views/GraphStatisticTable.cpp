@@ -2,6 +2,7 @@
 
 #include "gui/CopyFilter.h"
 #include "views/GraphModel.h"
+#include "views/GraphTicks.h"
 
 #include <QEvent>
 #include <QHeaderView>
@@ -23,6 +24,7 @@ constexpr int kLeastRowHeight = 22;
 constexpr int kRowMargin = 6;
 constexpr int kMostRows = 5; ///< rows that need no scrolling; the graph has the space
 constexpr int kSwatch = 12;
+constexpr int kDecimals = 2; // of seconds
 
 QIcon swatchOf(const GraphModel::Colour& colour)
 {
@@ -30,6 +32,12 @@ QIcon swatchOf(const GraphModel::Colour& colour)
     swatch.fill(QColor::fromRgbF(static_cast<double>(colour[0]), static_cast<double>(colour[1]),
                                  static_cast<double>(colour[2])));
     return QIcon(swatch);
+}
+
+Qt::Alignment alignmentOf(int column)
+{
+    const bool isNumber = column != eName && column != eUnit;
+    return (isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
 }
 
 } // namespace
@@ -66,8 +74,8 @@ void GraphStatisticTable::createTable()
     header->setHighlightSections(false);
     header->setSectionResizeMode(QHeaderView::Stretch);
     header->setSectionResizeMode(eUnit, QHeaderView::ResizeToContents);
-    for (const int column : {eMinimum, eMaximum, eAverage}) {
-        mTable->horizontalHeaderItem(column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    for (int column = 0; column < eColumnCount; ++column) {
+        mTable->horizontalHeaderItem(column)->setTextAlignment(alignmentOf(column));
     }
     CopyFilter::install(mTable);
 }
@@ -99,25 +107,28 @@ void GraphStatisticTable::showSpan(const GraphModel& model)
     const bool marked = model.marker1() != model.marker2();
     const double from = marked ? std::min(model.marker1(), model.marker2()) : model.xmin();
     const double to = marked ? std::max(model.marker1(), model.marker2()) : model.xmax();
-    const QString text = marked ? tr("Between the markers: %1 s to %2 s, %3 s")
-                                : tr("In the visible range: %1 s to %2 s, %3 s");
-    const auto seconds = [](double value) { return QString::number(value, 'f', 2); };
-    mHeading->setText(text.arg(seconds(from), seconds(to), seconds(to - from)));
+    const QString text = marked ? tr("Between the markers: %1 to %2, %3 s")
+                                : tr("In the visible range: %1 to %2, %3 s");
+    const auto time = [](double value) {
+        // The margin before a record has no time of day.
+        return value < 0.0 ? QString::number(value, 'f', kDecimals)
+                           : GraphTicks::timeLabel(value, kDecimals);
+    };
+    mHeading->setText(text.arg(time(from), time(to), QString::number(to - from, 'f', kDecimals)));
 }
 
 void GraphStatisticTable::showRow(int row, const GraphModel& model, unsigned int trace)
 {
     const GraphModel::ParStruct& parameter = model.parameter(trace);
     const GraphTrace::Statistics values = model.markerStatistics(trace);
-    const auto number = [&](double value) {
-        return values.count == 0 ? QStringLiteral("---")
-                                 : QString::number(value, 'f', parameter.precision);
+    const auto number = [&](double value, int decimals) {
+        return values.count == 0 ? QStringLiteral("---") : QString::number(value, 'f', decimals);
     };
     setCell(row, eName, parameter.name);
     mTable->item(row, eName)->setIcon(swatchOf(parameter.colour));
-    setCell(row, eMinimum, number(values.minimum));
-    setCell(row, eMaximum, number(values.maximum));
-    setCell(row, eAverage, number(values.average));
+    setCell(row, eMinimum, number(values.minimum, parameter.precision));
+    setCell(row, eMaximum, number(values.maximum, parameter.precision));
+    setCell(row, eAverage, number(values.average, std::max(parameter.precision, 1)));
     setCell(row, eUnit, parameter.unit);
 }
 
@@ -126,8 +137,7 @@ void GraphStatisticTable::setCell(int row, int column, const QString& text)
     QTableWidgetItem* item = mTable->item(row, column);
     if (item == nullptr) {
         item = new QTableWidgetItem;
-        const bool isNumber = column != eName && column != eUnit;
-        item->setTextAlignment((isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        item->setTextAlignment(alignmentOf(column));
         mTable->setItem(row, column, item);
     }
     if (item->text() != text) {

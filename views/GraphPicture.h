@@ -1,0 +1,36 @@
+#pragma once
+
+#include "views/GraphLook.h"
+#include "views/GraphPointer.h"
+#include "views/GraphScene.h"
+
+class QPainter;
+
+namespace VELIX {
+
+class GraphModel;
+
+/// The graph as vector graphics: what the graph widget shows of a model, painted with any painter,
+/// so that it can be printed at any size.
+class GraphPicture
+{
+public:
+    /// model and look outlive the picture. size, font: the widget's.
+    GraphPicture(const GraphModel& model, const GraphLook& look, bool markersOn, const QSize& size,
+                 const QFont& font);
+
+    void paint(QPainter& painter) const;
+
+private:
+    void paintGrid(QPainter& painter) const;
+    void paintTraces(QPainter& painter) const;
+    void paintLines(QPainter& painter) const;
+
+    const GraphModel& mModel;
+    const GraphLook& mLook;
+    GraphPointer mPointer;
+    GraphScene mScene;
+    QSize mSize;
+};
+
+} // namespace VELIX
