@@ -437,10 +437,6 @@
         <translation>Start</translation>
     </message>
     <message>
-        <source>Landing</source>
-        <translation>Landung</translation>
-    </message>
-    <message>
         <source>Time</source>
         <translation>Zeit</translation>
     </message>
@@ -1102,12 +1098,12 @@ Soll sie ersetzt werden?</translation>
         <translation>Einheit</translation>
     </message>
     <message>
-        <source>Between the markers: %1 s to %2 s, %3 s</source>
-        <translation>Zwischen den Marken: %1 s bis %2 s, %3 s</translation>
+        <source>Between the markers: %1 to %2, %3 s</source>
+        <translation>Zwischen den Marken: %1 bis %2, %3 s</translation>
     </message>
     <message>
-        <source>In the visible range: %1 s to %2 s, %3 s</source>
-        <translation>Im sichtbaren Bereich: %1 s bis %2 s, %3 s</translation>
+        <source>In the visible range: %1 to %2, %3 s</source>
+        <translation>Im sichtbaren Bereich: %1 bis %2, %3 s</translation>
     </message>
 </context>
 <context>
