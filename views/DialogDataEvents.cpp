@@ -79,6 +79,7 @@ void DialogDataEvents::createTable()
     mTable->setStyleSheet(QStringLiteral("selection-background-color: rgba(100, 100, 255, 255);"));
     mTable->setItemDelegate(new ThresholdDelegate(mTable));
     mTable->setTabKeyNavigation(false);
+    mTable->setAutoScroll(false); // it would scroll aside as well, away from the times
     mTable->setAccessibleName(mTexts.header);
     mTable->verticalHeader()->setVisible(false);
     mTable->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -135,10 +136,8 @@ void DialogDataEvents::setTime(double seconds)
     QItemSelectionModel* selection = mTable->selectionModel();
     const QModelIndex cell = mTable->model()->index(mCursorRow, kColumnTime);
     if (selection->currentIndex().row() != mCursorRow || !selection->isSelected(cell)) {
-        mTable->setAutoScroll(false); // scrolling is centreRow's
         selection->setCurrentIndex(cell,
                                    QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-        mTable->setAutoScroll(true);
     }
     centreRow();
 }
@@ -154,6 +153,15 @@ void DialogDataEvents::centreRow()
     mTable->verticalScrollBar()->setValue(mTable->verticalHeader()->sectionPosition(row) -
                                           (mTable->viewport()->height() - mTable->rowHeight(row)) /
                                               2);
+}
+
+/// Scrolls no farther than the cursor's row needs to be seen.
+void DialogDataEvents::showRow()
+{
+    QScrollBar* bar = mTable->verticalScrollBar();
+    const int top = mTable->verticalHeader()->sectionPosition(mCursorRow);
+    const int highest = top + mTable->rowHeight(mCursorRow) - mTable->viewport()->height();
+    bar->setValue(std::max(std::min(bar->value(), top), highest));
 }
 
 void DialogDataEvents::updateRecord(RecordData* record)
@@ -305,6 +313,7 @@ void DialogDataEvents::slotSelect()
     const QTableWidgetItem* item = mBusy ? nullptr : selectedTime();
     if (item != nullptr) {
         mCursorRow = item->row();
+        showRow();
         // Conversion to an integer would round; a cursor behind the event's first sample could
         // already show the next one.
         emit signalTime(std::trunc(item->data(Qt::UserRole).toDouble()) * 0.001);

@@ -81,6 +81,7 @@ private:
     void fitEvents();
     void stretchEvents();
     void centreRow();
+    void showRow();
     void updateHint();
     void copy() const;
     void showInGraph();

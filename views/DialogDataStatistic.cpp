@@ -22,7 +22,7 @@ DialogDataStatistic::DialogDataStatistic(QWidget* parent)
     mTextEdit->setAccessibleName(tr("Tow Statistic"));
     mTextEdit->document()->setDocumentMargin(kMargin);
     mTextEdit->document()->setDefaultStyleSheet(
-        QStringLiteral("td, th { padding: 2px 16px 2px 0px; white-space: nowrap; } "
+        QStringLiteral("td, th { padding: 2px 12px 2px 0px; white-space: nowrap; } "
                        "p { color: %1; margin-bottom: 8px; }")
             .arg(Palette::current().mutedText.name()));
     auto* layout = new QVBoxLayout(this);

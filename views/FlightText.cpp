@@ -37,13 +37,11 @@ QString duration(double seconds)
         .arg(whole % 60, 2, 10, QLatin1Char('0'));
 }
 
-/// Times of day, or times on the unit's clock in a cycle without a date.
-QString clock(const RecordFlight& flight, double seconds)
+/// Time of day, or the time on the unit's clock in a cycle without a date.
+QString takeoff(const RecordFlight& flight)
 {
-    return flight.dateTime.isValid()
-               ? flight.dateTime.addSecs(truncateToInt(seconds) - truncateToInt(flight.takeoffTime))
-                     .toString(kTimeFormat)
-               : FlightText::timeOfDay(seconds);
+    return flight.dateTime.isValid() ? flight.dateTime.toString(kTimeFormat)
+                                     : FlightText::timeOfDay(flight.takeoffTime);
 }
 
 /// What names the row stands to the left, figures stand to the right.
@@ -74,8 +72,8 @@ QString FlightText::flights(const std::vector<RecordFlight>& flights)
         return {};
     }
     QString table = QStringLiteral("<table>") +
-                    cells(QStringLiteral("th"), {tr("Flight"), tr("Take-off"), tr("Landing"),
-                                                 tr("Time"), tr("Fuel"), tr("Climb")});
+                    cells(QStringLiteral("th"),
+                          {tr("Flight"), tr("Take-off"), tr("Time"), tr("Fuel"), tr("Climb")});
     double time = 0.0;
     double fuel = 0.0;
     double climb = 0.0;
@@ -84,8 +82,7 @@ QString FlightText::flights(const std::vector<RecordFlight>& flights)
         const FlightStatistic& s = flight.statistic;
         const double flightTime = flight.landingTime - flight.takeoffTime;
         table += cells(QStringLiteral("td"),
-                       {QString::number(++count), clock(flight, flight.takeoffTime),
-                        clock(flight, flight.landingTime), duration(flightTime),
+                       {QString::number(++count), takeoff(flight), duration(flightTime),
                         number(s.fuel, 1, QStringLiteral("l")),
                         number(s.climb, 0, QStringLiteral("m"))});
         time += flightTime;
@@ -94,7 +91,6 @@ QString FlightText::flights(const std::vector<RecordFlight>& flights)
     }
     if (count > 1) {
         table += cells(QStringLiteral("th"), {tr("Total"),
-                                              {},
                                               {},
                                               duration(time),
                                               number(fuel, 1, QStringLiteral("l")),

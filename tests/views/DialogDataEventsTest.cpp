@@ -200,6 +200,9 @@ TEST_F(LimitListTest, ANarrowPaneScrollsInsteadOfCuttingValuesOff)
     table()->horizontalScrollBar()->setValue(50);
     view.setTime(45.0);
     EXPECT_EQ(table()->horizontalScrollBar()->value(), 50) << "the cursor moves rows only";
+    click(0);
+    EXPECT_EQ(selectedRow(), 0);
+    EXPECT_EQ(table()->horizontalScrollBar()->value(), 50) << "and so does the user";
     view.resize(500, 120);
     QApplication::processEvents();
     EXPECT_EQ(table()->columnWidth(0) + table()->columnWidth(1), table()->viewport()->width());
@@ -286,6 +289,16 @@ TEST_F(LimitListTest, TheRowOfTheCursorIsCentred)
         const QRect shown = table()->visualItemRect(table()->item(row, 0));
         EXPECT_NEAR(shown.center().y(), table()->viewport()->height() / 2, shown.height()) << row;
     }
+    QTest::keyClick(table(), Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(table()->verticalScrollBar()->value(), 0);
+    for (int i = 0; i < 30; ++i) {
+        QTest::keyClick(table(), Qt::Key_Down);
+    }
+    EXPECT_EQ(selectedRow(), 30);
+    EXPECT_EQ(table()->visualItemRect(table()->item(30, 0)).bottom() + 2,
+              table()->viewport()->height())
+        << "just in sight";
+
     view.hide();
     view.setTime(2 * 20 + 1); // a tab in the background
     view.show();
