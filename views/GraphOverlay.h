@@ -64,6 +64,11 @@ private:
     [[nodiscard]] int axisEnd() const;
     /// A height in a band at which a text does not hide the trace.
     [[nodiscard]] int quietHeight(unsigned int trace, double time, const QRect& band) const;
+    /// The part of a band that is free for readouts, and where in it the readout at a time belongs.
+    [[nodiscard]] QRect noteArea(std::size_t place) const;
+    [[nodiscard]] QPoint noteAnchor(std::size_t place, double time) const;
+    /// Where the cursor's readout is in a band; empty if there is none.
+    [[nodiscard]] QRect cursorNotePlace(std::size_t place) const;
     [[nodiscard]] QRect notePlace(const QPoint& anchor, const Note& note, const QRect& area) const;
     [[nodiscard]] double xOf(double time) const;
     [[nodiscard]] bool inPlot(double x) const;
