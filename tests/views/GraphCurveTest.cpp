@@ -35,8 +35,9 @@ std::string drawn(const std::deque<GraphTrace::FrameType>& frames,
     for (std::size_t strip = 0; strip < curve.starts().size(); ++strip) {
         text += strip == 0 ? "" : " |";
         for (int i = 0; i < curve.sizes()[strip]; ++i) {
-            const GraphVertex& vertex =
-                curve.vertices()[static_cast<std::size_t>(curve.starts()[strip] + i)];
+            const auto index =
+                static_cast<std::size_t>(curve.starts()[strip]) + static_cast<std::size_t>(i);
+            const GraphVertex& vertex = curve.vertices()[index];
             char number[64];
             std::snprintf(number, sizeof number, "%s%g,%g", text.empty() ? "" : " ",
                           static_cast<double>(vertex.x), static_cast<double>(vertex.y));
