@@ -11,7 +11,7 @@ namespace {
 constexpr double kBeyond = 16.0;
 /// Pixels beyond the area to which values are limited. Lines to values far outside the scale
 /// become a little steeper or flatter there, which nobody sees.
-constexpr double kFar = 50'000.0;
+constexpr double kFar = 50000.0;
 /// Pixels that two neighbouring columns must have in common to look connected without a line.
 constexpr double kSolid = 2.0;
 

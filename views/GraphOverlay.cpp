@@ -172,7 +172,7 @@ void GraphOverlay::paintLegend()
     if (others > 0) {
         const QRect place = parts.legendEntry(parts.legendShown()).adjusted(2 * kSwatch, 0, 0, 0);
         const QString text =
-            QCoreApplication::translate("GraphOverlay", "+ %n more", nullptr, others);
+            QCoreApplication::translate("VELIX::GraphOverlay", "+ %n more", nullptr, others);
         mPainter.setPen(mLook.label);
         mPainter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                           mMetrics.elidedText(text, Qt::ElideRight, place.width()));

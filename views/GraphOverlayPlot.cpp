@@ -244,8 +244,8 @@ void GraphOverlay::paintBox(const QPoint& anchor, const std::vector<Note>& notes
         lines.append(notes[static_cast<std::size_t>(i)].text);
     }
     if (shown < count) {
-        lines.append(
-            QCoreApplication::translate("GraphOverlay", "+ %n more", nullptr, count - shown));
+        lines.append(QCoreApplication::translate("VELIX::GraphOverlay", "+ %n more", nullptr,
+                                                 count - shown));
     }
     for (const QString& text : qAsConst(lines)) {
         width = std::max(width, textWidth(text));

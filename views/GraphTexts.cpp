@@ -55,10 +55,10 @@ QString legendValues(const GraphModel& model, unsigned int trace, bool markersOn
 
 QString legendHeader(bool markersOn)
 {
-    const QString first = markersOn ? QCoreApplication::translate("GraphTexts", "Mark 1")
-                                    : QCoreApplication::translate("GraphTexts", "Min");
-    const QString second = markersOn ? QCoreApplication::translate("GraphTexts", "Mark 2")
-                                     : QCoreApplication::translate("GraphTexts", "Max");
+    const QString first = markersOn ? QCoreApplication::translate("VELIX::GraphTexts", "Mark 1")
+                                    : QCoreApplication::translate("VELIX::GraphTexts", "Min");
+    const QString second = markersOn ? QCoreApplication::translate("VELIX::GraphTexts", "Mark 2")
+                                     : QCoreApplication::translate("VELIX::GraphTexts", "Max");
     return first.rightJustified(kColumn) + QLatin1Char(' ') + second.rightJustified(kColumn);
 }
 
@@ -122,7 +122,7 @@ QString hint(const GraphModel& model)
             "GraphTexts",
             "All parameters are hidden. Double-click a name in the legend to show it.");
     }
-    return QCoreApplication::translate("GraphTexts",
+    return QCoreApplication::translate("VELIX::GraphTexts",
                                        "The selected parameters have no samples in this record.");
 }
 

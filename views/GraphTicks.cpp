@@ -10,7 +10,7 @@ namespace VELIX {
 namespace {
 
 /// More ticks than any screen can show; keeps damaged ranges from filling the memory.
-constexpr int kMaxTicks = 10'000;
+constexpr int kMaxTicks = 10000;
 
 struct Step
 {

@@ -2,33 +2,7 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_GB">
 <context>
-    <name>GraphOverlay</name>
-    <message numerus="yes">
-        <source>+ %n more</source>
-        <translation>
-            <numerusform>+ %n weiterer</numerusform>
-            <numerusform>+ %n weitere</numerusform>
-        </translation>
-    </message>
-</context>
-<context>
     <name>GraphTexts</name>
-    <message>
-        <source>Mark 1</source>
-        <translation>Marke 1</translation>
-    </message>
-    <message>
-        <source>Min</source>
-        <translation>Min</translation>
-    </message>
-    <message>
-        <source>Mark 2</source>
-        <translation>Marke 2</translation>
-    </message>
-    <message>
-        <source>Max</source>
-        <translation>Max</translation>
-    </message>
     <message>
         <source>No parameter selected. Choose parameters in the list on the left and confirm.</source>
         <translation>Kein Parameter ausgewählt. Parameter in der Liste links auswählen und bestätigen.</translation>
@@ -36,10 +10,6 @@
     <message>
         <source>All parameters are hidden. Double-click a name in the legend to show it.</source>
         <translation>Alle Parameter sind ausgeblendet. Ein Doppelklick auf einen Namen in der Legende blendet ihn ein.</translation>
-    </message>
-    <message>
-        <source>The selected parameters have no samples in this record.</source>
-        <translation>Die ausgewählten Parameter haben in dieser Aufzeichnung keine Messwerte.</translation>
     </message>
 </context>
 <context>
@@ -62,7 +32,7 @@
     </message>
     <message>
         <source>None of the selected files can be opened. Is the card in its reader?</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine der ausgewählten Dateien lässt sich öffnen. Steckt die Karte im Leser?</translation>
     </message>
 </context>
 <context>
@@ -813,15 +783,15 @@ Soll die Datei ersetzt werden?</translation>
     </message>
     <message>
         <source>%1 of card %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 der Karte %2</translation>
     </message>
     <message>
         <source>The project of the last run could not be read. It is kept as %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Projekt des letzten Laufs war nicht lesbar. Es bleibt als %1 erhalten.</translation>
     </message>
     <message>
         <source>%1 is not a VELIX project. Saving will not write to it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist kein VELIX-Projekt. Beim Speichern bleibt die Datei unberührt.</translation>
     </message>
 </context>
 <context>
@@ -1065,6 +1035,16 @@ Soll sie ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>VELIX::GraphOverlay</name>
+    <message numerus="yes">
+        <source>+ %n more</source>
+        <translation>
+            <numerusform>+ %n weiterer</numerusform>
+            <numerusform>+ %n weitere</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>VELIX::GraphSnapshot</name>
     <message>
         <source>The snapshot could not be saved as %1: %2.</source>
@@ -1104,6 +1084,29 @@ Soll sie ersetzt werden?</translation>
     <message>
         <source>In the visible range: %1 to %2, %3 s</source>
         <translation>Im sichtbaren Bereich: %1 bis %2, %3 s</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::GraphTexts</name>
+    <message>
+        <source>Mark 1</source>
+        <translation>Marke 1</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Mark 2</source>
+        <translation>Marke 2</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>The selected parameters have no samples in this record.</source>
+        <translation>Die ausgewählten Parameter haben in dieser Aufzeichnung keine Messwerte.</translation>
     </message>
 </context>
 <context>
