@@ -107,7 +107,7 @@ QString hint(const GraphModel& model)
 {
     if (model.nrActive() == 0) {
         return QCoreApplication::translate(
-            "GraphTexts",
+            "VELIX::GraphTexts",
             "No parameter selected. Choose parameters in the list on the left and confirm.");
     }
     if (model.hasShownSamples()) {
@@ -119,7 +119,7 @@ QString hint(const GraphModel& model)
     }
     if (!shown) {
         return QCoreApplication::translate(
-            "GraphTexts",
+            "VELIX::GraphTexts",
             "All parameters are hidden. Double-click a name in the legend to show it.");
     }
     return QCoreApplication::translate("VELIX::GraphTexts",

@@ -2,17 +2,6 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_GB">
 <context>
-    <name>GraphTexts</name>
-    <message>
-        <source>No parameter selected. Choose parameters in the list on the left and confirm.</source>
-        <translation>Kein Parameter ausgewählt. Parameter in der Liste links auswählen und bestätigen.</translation>
-    </message>
-    <message>
-        <source>All parameters are hidden. Double-click a name in the legend to show it.</source>
-        <translation>Alle Parameter sind ausgeblendet. Ein Doppelklick auf einen Namen in der Legende blendet ihn ein.</translation>
-    </message>
-</context>
-<context>
     <name>VELIX::CardContainer</name>
     <message>
         <source>Cycle %1</source>
@@ -1107,6 +1096,14 @@ Soll sie ersetzt werden?</translation>
     <message>
         <source>The selected parameters have no samples in this record.</source>
         <translation>Die ausgewählten Parameter haben in dieser Aufzeichnung keine Messwerte.</translation>
+    </message>
+    <message>
+        <source>No parameter selected. Choose parameters in the list on the left and confirm.</source>
+        <translation>Kein Parameter ausgewählt. Parameter in der Liste links auswählen und bestätigen.</translation>
+    </message>
+    <message>
+        <source>All parameters are hidden. Double-click a name in the legend to show it.</source>
+        <translation>Alle Parameter sind ausgeblendet. Ein Doppelklick auf einen Namen in der Legende blendet ihn ein.</translation>
     </message>
 </context>
 <context>
