@@ -287,7 +287,7 @@ TEST_F(LimitListTest, TheRowOfTheCursorIsCentred)
     for (const int row : {100, 50, 150}) {
         view.setTime(2 * row + 1);
         const QRect shown = table()->visualItemRect(table()->item(row, 0));
-        EXPECT_NEAR(shown.center().y(), table()->viewport()->height() / 2, shown.height()) << row;
+        EXPECT_NEAR(shown.center().y(), table()->viewport()->height() / 2.0, shown.height()) << row;
     }
     QTest::keyClick(table(), Qt::Key_Home, Qt::ControlModifier);
     EXPECT_EQ(table()->verticalScrollBar()->value(), 0);
@@ -305,7 +305,7 @@ TEST_F(LimitListTest, TheRowOfTheCursorIsCentred)
     view.resize(500, 300);
     QApplication::processEvents();
     const QRect shown = table()->visualItemRect(table()->item(20, 0));
-    EXPECT_NEAR(shown.center().y(), table()->viewport()->height() / 2, shown.height());
+    EXPECT_NEAR(shown.center().y(), table()->viewport()->height() / 2.0, shown.height());
 }
 
 TEST_F(LimitListTest, ASelectedRowMovesTheCursorToItsTimeInWholeMilliseconds)
