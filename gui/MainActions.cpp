@@ -40,11 +40,17 @@ constexpr Entry kEntries[] = {
      QT_TRANSLATE_NOOP("VELIX::MainActions", "Open Data Folder"), nullptr, "card-open"},
     {eActionQuit, Menu::File, true, QT_TRANSLATE_NOOP("VELIX::MainActions", "&Quit"), "Ctrl+Q",
      QT_TRANSLATE_NOOP("VELIX::MainActions", "Quit Application"), nullptr, "quit"},
+    {eActionExportKml, Menu::Extras, false, QT_TRANSLATE_NOOP("VELIX::MainActions", "Export Google KML File"), nullptr,
+     QT_TRANSLATE_NOOP("VELIX::MainActions", "Export Google Earth KML File"), nullptr, "export-kml"},
     {eActionExportCsv, Menu::Extras, false, QT_TRANSLATE_NOOP("VELIX::MainActions", "Export CSV File"), nullptr,
      QT_TRANSLATE_NOOP("VELIX::MainActions", "Export CSV File"), nullptr, "export-csv"},
     {eActionProfile, Menu::Extras, true, QT_TRANSLATE_NOOP("VELIX::MainActions", "Profile"), nullptr,
      QT_TRANSLATE_NOOP("VELIX::MainActions", "Show Profile Information"), nullptr, "profile"},
-    {eActionAbout, Menu::Help, false, QT_TRANSLATE_NOOP("VELIX::MainActions", "About"), nullptr,
+    {eActionPreferences, Menu::Extras, false, QT_TRANSLATE_NOOP("VELIX::MainActions", "Preferences"), nullptr,
+     QT_TRANSLATE_NOOP("VELIX::MainActions", "Open Preferences Dialog"), nullptr, "preferences"},
+    {eActionHelp, Menu::Help, false, QT_TRANSLATE_NOOP("VELIX::MainActions", "Help"), "F1",
+     QT_TRANSLATE_NOOP("VELIX::MainActions", "Help Window"), nullptr, "help"},
+    {eActionAbout, Menu::Help, true, QT_TRANSLATE_NOOP("VELIX::MainActions", "About"), nullptr,
      QT_TRANSLATE_NOOP("VELIX::MainActions", "Show License Information"), nullptr, "about"},
 };
 // clang-format on
@@ -73,9 +79,6 @@ MainActions::MainActions(QObject* parent)
         }
         if (entry.iconText != nullptr) {
             action->setIconText(tr(entry.iconText));
-        }
-        if (entry.id == eActionQuit) {
-            action->setMenuRole(QAction::QuitRole);
         }
         action->setToolTip(toolTip(*action));
         mGroup->addAction(action);
