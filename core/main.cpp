@@ -1,26 +1,22 @@
 #include "core/CmdLine.h"
 #include "core/DataHandler.h"
-#include "core/Diagnostics.h"
 #include "core/DialogSplash.h"
 #include "core/Kernel.h"
+#include "core/Language.h"
 #include "core/Property.h"
 #include "core/Revision.h"
 #include "core/SignalWatcher.h"
+#include "core/Toolkit.h"
 #include "gui/DialogMain.h"
 #include "gui/Palette.h"
 #include "gui/Resources.h"
 #include "gui/StyleHandler.h"
 
 #include <QApplication>
-#include <QLocale>
-#include <QSurfaceFormat>
-#include <QTextCodec>
-#include <QTranslator>
 
 #include <clocale>
 #include <csignal>
 #include <cstdio>
-#include <langinfo.h>
 
 using namespace VELIX;
 
@@ -46,52 +42,11 @@ void parseCommandLine(int argc, char** argv)
     }
 }
 
-/// What the toolkit only heeds before the application object exists.
-void prepareToolkit()
-{
-    std::setlocale(LC_CTYPE, "");
-    if (qstrcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0) {
-        // The plain "C" locale knows no letters beyond ASCII, but folders are named with them.
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-    }
-    // Keeps the order of attributes in written files the same from one run to the next.
-    qSetGlobalQHashSeed(0);
-
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QSurfaceFormat format;
-    format.setDepthBufferSize(24);
-    format.setStencilBufferSize(8);
-    QSurfaceFormat::setDefaultFormat(format);
-}
-
 void loadSettings()
 {
     Property& settings = Property::instance();
     settings.setConfigFile(DataHandler::instance().dataPath() + "/VELIX.ini");
     settings.readXmlFile();
-}
-
-/// Loads prefix + locale from the built-in translations; label names it in the diagnostic.
-void installTranslation(QTranslator& translator, const char* label, const QString& prefix)
-{
-    const std::string locale = Property::instance().getString("Locale", "us");
-    const bool loaded =
-        translator.load(prefix + QString::fromStdString(locale), QStringLiteral(":/trl"));
-    Diagnostics::print("Translation %s <%s> %d\n", label, locale.c_str(), loaded ? 1 : 0);
-    if (loaded) {
-        QCoreApplication::installTranslator(&translator);
-    }
-}
-
-/// Numbers in windows are written as the chosen language does it, not as the desktop's does.
-void useLanguageOfSettings()
-{
-    const std::string locale = Property::instance().getString("Locale", "us");
-    QLocale::setDefault(locale == "de" ? QLocale(QLocale::German, QLocale::Germany)
-                                       : QLocale(QLocale::English, QLocale::UnitedStates));
 }
 
 void loadStyle(QApplication& application)
@@ -110,7 +65,7 @@ int main(int argc, char** argv)
     SignalWatcher signalWatcher; // so early that a signal during start-up is not lost
     Revision::printHeader();
     parseCommandLine(argc, argv);
-    prepareToolkit();
+    Toolkit::prepare();
     QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C"); // the toolkit takes the user's; files need the point
     initResources();
@@ -124,11 +79,7 @@ int main(int argc, char** argv)
     kernel.setApplication(&application);
 
     loadSettings();
-    useLanguageOfSettings();
-    QTranslator toolkitTexts;
-    installTranslation(toolkitTexts, "QT", QStringLiteral("qt_"));
-    QTranslator velixTexts;
-    installTranslation(velixTexts, "IOS", QStringLiteral("velix_"));
+    const Language language(Property::instance().getString("Locale", "us"));
     loadStyle(application);
 
     splash.addEntry(QCoreApplication::translate("VELIX::DialogSplash", "Creating Dialogs ..."));
