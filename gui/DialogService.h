@@ -30,6 +30,9 @@ public:
     virtual Answer askToSave(QWidget* parent, const QString& title, const QString& text) = 0;
     /// True only if the user agrees; no is the default.
     virtual bool confirm(QWidget* parent, const QString& title, const QString& text) = 0;
+    /// An information with two answers of its own; true for `accept`. Closing the box declines.
+    virtual bool choose(QWidget* parent, const QString& title, const QString& text,
+                        const QString& accept, const QString& decline) = 0;
 
     virtual void information(QWidget* parent, const QString& title, const QString& text) = 0;
     virtual void warning(QWidget* parent, const QString& title, const QString& text) = 0;

@@ -77,12 +77,23 @@ int Project::saveProject(const std::string& file)
     QDomElement root = xml.xmlCreateElement(document, document, kRoot);
 
     QDomElement parameters = xml.xmlCreateElement(document, root, kParameters);
+    const auto write = [&](const QString& name) {
+        QDomElement e = xml.xmlCreateElement(document, parameters, kParameter);
+        xml.xmlCreateAttribute(document, e, kName, name);
+    };
+    std::set<std::string> known;
     forEachParameter(mProfile, [&](const ProfileParameter& p) {
+        known.insert(p.fullName.toStdString());
         if (p.selected) {
-            QDomElement e = xml.xmlCreateElement(document, parameters, kParameter);
-            xml.xmlCreateAttribute(document, e, kName, p.fullName);
+            write(p.fullName);
         }
     });
+    // Names that wait for another profile or variant survive the saving.
+    for (const auto& [name, selected] : mSelected) {
+        if (selected && known.count(name) == 0) {
+            write(QString::fromStdString(name));
+        }
+    }
     QDomElement properties = xml.xmlCreateElement(document, root, kCanProperties);
     for (const auto& [key, value] : mCanProperties) {
         QDomElement e = xml.xmlCreateElement(document, properties, kProperty);

@@ -23,6 +23,7 @@ public:
     /// A new project: nothing selected, no properties.
     void clear();
 
+    /// Writes the selection, with the names that wait for another profile or variant at its end.
     /// 0 if the file could not be written; an old file is kept then.
     int saveProject(const std::string& file);
     /// 0 if the file could not be read; the selection is kept then. Names that the profile does

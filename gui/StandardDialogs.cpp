@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 namespace VELIX {
 
@@ -54,6 +55,18 @@ bool StandardDialogs::confirm(QWidget* parent, const QString& title, const QStri
 {
     return QMessageBox::question(parent, title, text, QMessageBox::Yes | QMessageBox::No,
                                  QMessageBox::No) == QMessageBox::Yes;
+}
+
+bool StandardDialogs::choose(QWidget* parent, const QString& title, const QString& text,
+                             const QString& accept, const QString& decline)
+{
+    QMessageBox box(QMessageBox::Information, title, text, QMessageBox::NoButton, parent);
+    const QPushButton* accepted = box.addButton(accept, QMessageBox::AcceptRole);
+    QPushButton* declined = box.addButton(decline, QMessageBox::RejectRole);
+    box.setDefaultButton(declined);
+    box.setEscapeButton(declined);
+    box.exec();
+    return box.clickedButton() == accepted;
 }
 
 void StandardDialogs::information(QWidget* parent, const QString& title, const QString& text)

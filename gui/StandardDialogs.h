@@ -18,6 +18,8 @@ public:
 
     Answer askToSave(QWidget* parent, const QString& title, const QString& text) override;
     bool confirm(QWidget* parent, const QString& title, const QString& text) override;
+    bool choose(QWidget* parent, const QString& title, const QString& text, const QString& accept,
+                const QString& decline) override;
 
     void information(QWidget* parent, const QString& title, const QString& text) override;
     void warning(QWidget* parent, const QString& title, const QString& text) override;

@@ -39,6 +39,12 @@ public:
         note(title, text);
         return agrees;
     }
+    bool choose(QWidget*, const QString& title, const QString& text, const QString& accept,
+                const QString& decline) override
+    {
+        note(title, QStringLiteral("%1 [%2|%3]").arg(text, accept, decline));
+        return agrees;
+    }
     void information(QWidget*, const QString& title, const QString& text) override
     {
         note(title, text);

@@ -31,6 +31,12 @@ bool DemoDialogs::confirm(QWidget* /*parent*/, const QString& /*title*/, const Q
     return true;
 }
 
+bool DemoDialogs::choose(QWidget* /*parent*/, const QString& /*title*/, const QString& /*text*/,
+                         const QString& /*accept*/, const QString& /*decline*/)
+{
+    return false;
+}
+
 void DemoDialogs::information(QWidget* /*parent*/, const QString& /*title*/,
                               const QString& /*text*/)
 {}

@@ -4,7 +4,8 @@
 
 namespace VELIX {
 
-/// Answers the program's questions for a user who is not there: agrees, and chooses no files.
+/// Answers the program's questions for a user who is not there: agrees, chooses no files and
+/// declines what is offered.
 class DemoDialogs : public DialogService
 {
 public:
@@ -15,6 +16,8 @@ public:
     QString folder(QWidget* parent, const QString& title, const QString& start) override;
     Answer askToSave(QWidget* parent, const QString& title, const QString& text) override;
     bool confirm(QWidget* parent, const QString& title, const QString& text) override;
+    bool choose(QWidget* parent, const QString& title, const QString& text, const QString& accept,
+                const QString& decline) override;
     void information(QWidget* parent, const QString& title, const QString& text) override;
     void warning(QWidget* parent, const QString& title, const QString& text) override;
     void critical(QWidget* parent, const QString& title, const QString& text) override;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+namespace VELIX {
+
+class Property;
+
+/// Where map tiles come from and how the terrain is shaded, as the settings keep it.
+struct MapSettings
+{
+    static MapSettings read(const Property& settings);
+    /// Only into the store; the caller writes the file.
+    void store(Property& settings) const;
+
+    std::string tileServer = "http://tile.openstreetmap.org/"; ///< base address, by zoom, x and y
+    bool shading = true;
+    double contrast = 1.0;
+    double brightness = 1.0;
+    double factor = 0.5; ///< strength of the terrain's slopes
+};
+
+} // namespace VELIX
