@@ -140,6 +140,7 @@ QBoxLayout* DialogData::createTabs()
     addPage("tab-statistic", tr("Tow Statistic"), mStatistic);
     addPage("tab-view", tr("EMU View"), mInstrument);
     connect(mTabs, &QTabBar::currentChanged, mStack, &QStackedWidget::setCurrentIndex);
+    connect(mStack, &QStackedWidget::currentChanged, this, &DialogData::signalPageChanged);
 
     auto* row = new QHBoxLayout;
     row->addWidget(mTabs, 1);
@@ -250,6 +251,11 @@ void DialogData::loadProfile()
     mFaultMatrix->loadProfile();
     mFaultMatrix->updateRecord(mRecord);
     mFaultMatrix->setTime(mClock.cursor());
+}
+
+const Printable* DialogData::printablePage() const
+{
+    return dynamic_cast<const Printable*>(mStack->currentWidget());
 }
 
 void DialogData::setCursor(ECursorSource source, double seconds)

@@ -24,6 +24,7 @@ class DialogDataWarning;
 class DialogService;
 class PageTabBar;
 class PlaceholderView;
+class Printable;
 class Profile;
 class Property;
 class ReplayControls;
@@ -52,6 +53,9 @@ public:
     /// Only the layout of the fault matrix has to be built again.
     void loadProfile();
 
+    /// The page in front, if it can be put onto paper; else null.
+    const Printable* printablePage() const;
+
     /// Seconds on the record's time axis.
     double cursorTime() const { return mClock.cursor(); }
 
@@ -59,6 +63,8 @@ signals:
     /// The user followed a link of a view that lacks something.
     void signalInstallProfile();
     void signalSelectParameters();
+    /// Another page is in front.
+    void signalPageChanged();
     /// A view has a result or failure to tell in words.
     void signalNotice(const QString& sentence);
 

@@ -8,6 +8,7 @@
 #include "gui/WidgetHint.h"
 #include "profile/Profile.h"
 #include "views/EventItems.h"
+#include "views/EventPrint.h"
 #include "views/ThresholdDelegate.h"
 
 #include <QAction>
@@ -334,6 +335,23 @@ void DialogDataEvents::copy() const
         QGuiApplication::clipboard()->setText(
             CopyFilter::copyText(*mTable->model(), selected, true));
     }
+}
+
+QString DialogDataEvents::printTitle() const
+{
+    return mTexts.header;
+}
+
+QString DialogDataEvents::printHindrance() const
+{
+    return mRecord == nullptr ? tr("No record loaded") : QString();
+}
+
+std::unique_ptr<PrintLayout> DialogDataEvents::printLayout(QPaintDevice& device,
+                                                           const QSizeF& room) const
+{
+    const EventPrint::Texts texts{tr("Time"), mTexts.header, mHint->hint()};
+    return std::make_unique<EventPrint>(mEvents, texts, device, room);
 }
 
 void DialogDataEvents::saveCsv()

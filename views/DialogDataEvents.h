@@ -2,6 +2,7 @@
 
 #include "card/RecordEvent.h"
 #include "views/DataView.h"
+#include "views/Printable.h"
 
 #include <QWidget>
 
@@ -23,7 +24,7 @@ class WidgetHint;
 /// selected; selecting another one moves the cursor.
 ///
 /// Lists differ in the events that they find, which are kept in the record for the exports.
-class DialogDataEvents : public QWidget, public DataView
+class DialogDataEvents : public QWidget, public DataView, public Printable
 {
     Q_OBJECT
 
@@ -37,6 +38,11 @@ public:
 
     /// Asks for a file and writes the list to it.
     void saveCsv();
+
+    QString printTitle() const override;
+    QString printHindrance() const override;
+    std::unique_ptr<PrintLayout> printLayout(QPaintDevice& device,
+                                             const QSizeF& room) const override;
 
 signals:
     /// The user selected the row of a time (seconds on the record's axis, whole milliseconds).

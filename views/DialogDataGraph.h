@@ -5,6 +5,7 @@
 #include "views/GraphData.h"
 #include "views/GraphRangeHistory.h"
 #include "views/GraphSettings.h"
+#include "views/Printable.h"
 
 #include <QStringList>
 #include <QTimer>
@@ -25,7 +26,7 @@ struct ProfileParameter;
 
 /// The record as traces over time, one for each selected parameter as far as there is room. Follows
 /// the common cursor by paging the visible range, and moves it.
-class DialogDataGraph : public QWidget, public DataView
+class DialogDataGraph : public QWidget, public DataView, public Printable
 {
     Q_OBJECT
 
@@ -51,6 +52,12 @@ public:
     void copySnapshot();
     /// Shows the 30 s around an event (s on the record's axis).
     void showAround(double seconds);
+
+    QString printTitle() const override;
+    QString printHindrance() const override;
+    bool printsWide() const override { return true; }
+    std::unique_ptr<PrintLayout> printLayout(QPaintDevice& device,
+                                             const QSizeF& room) const override;
 
     const WidgetGraph& graph() const { return *mGraph; }
     const GraphData& data() const { return mData; }

@@ -3,6 +3,7 @@
 #include "gui/WidgetHint.h"
 #include "profile/Profile.h"
 #include "views/DialogDataGraph.h"
+#include "views/GraphPrint.h"
 #include "views/GraphSnapshot.h"
 #include "views/GraphStatisticTable.h"
 #include "views/WidgetGraph.h"
@@ -68,6 +69,26 @@ void DialogDataGraph::copySnapshot()
 {
     QGuiApplication::clipboard()->setPixmap(grab());
     emit signalNotice(tr("Snapshot copied to the clipboard."));
+}
+
+QString DialogDataGraph::printTitle() const
+{
+    return tr("Graph");
+}
+
+QString DialogDataGraph::printHindrance() const
+{
+    if (mRecord == nullptr) {
+        return tr("No record loaded");
+    }
+    return mTraceNames.isEmpty() ? tr("No parameter selected") : QString();
+}
+
+std::unique_ptr<PrintLayout> DialogDataGraph::printLayout(QPaintDevice& device,
+                                                          const QSizeF& room) const
+{
+    return std::make_unique<GraphPrint>(mGraph->model(), mGraph->look(), mGraph->markersOn(),
+                                        mGraph->font(), device, room);
 }
 
 /// Whether the user has changed the range since the view looked last.

@@ -4,6 +4,7 @@
 #include "gui/Palette.h"
 #include "views/FlightText.h"
 #include "views/TableTextEdit.h"
+#include "views/TextPrint.h"
 
 #include <QTextDocument>
 #include <QVBoxLayout>
@@ -46,6 +47,24 @@ void DialogDataStatistic::updateRecord(RecordData* record)
 void DialogDataStatistic::addLine(const QString& name, const QString& value)
 {
     mText += QStringLiteral("<tr><td>%1  :  </td><td><b>%2</b></td></tr>").arg(name, value);
+}
+
+QString DialogDataStatistic::printTitle() const
+{
+    return tr("Tow Statistic");
+}
+
+QString DialogDataStatistic::printHindrance() const
+{
+    const bool something =
+        mRecord != nullptr && (mRecord->flight.statistic.valid || !mRecord->cycleFlights.empty());
+    return something ? QString() : tr("No flight selected");
+}
+
+std::unique_ptr<PrintLayout> DialogDataStatistic::printLayout(QPaintDevice& device,
+                                                              const QSizeF& room) const
+{
+    return std::make_unique<TextPrint>(mText, device, room);
 }
 
 void DialogDataStatistic::addStatistic()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "views/DataView.h"
+#include "views/Printable.h"
 
 #include <QString>
 #include <QWidget>
@@ -11,7 +12,7 @@ namespace VELIX {
 
 /// The figures of the chosen flight or, for a whole cycle, an overview of its flights. They were
 /// computed when the cycle was loaded; the view only writes them out and ignores the cursor.
-class DialogDataStatistic : public QWidget, public DataView
+class DialogDataStatistic : public QWidget, public DataView, public Printable
 {
     Q_OBJECT
 
@@ -24,6 +25,11 @@ public:
 
     /// Appends a row to the table that is being written.
     void addLine(const QString& name, const QString& value);
+
+    QString printTitle() const override;
+    QString printHindrance() const override;
+    std::unique_ptr<PrintLayout> printLayout(QPaintDevice& device,
+                                             const QSizeF& room) const override;
 
 private:
     void addStatistic();

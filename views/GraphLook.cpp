@@ -17,6 +17,13 @@ QColor GraphLook::plotText() const
     return Palette::contrast(white, back) >= Palette::contrast(black, back) ? white : black;
 }
 
+QColor GraphLook::traceColour(const std::array<float, 3>& own) const
+{
+    const QColor colour = QColor::fromRgbF(static_cast<double>(own[0]), static_cast<double>(own[1]),
+                                           static_cast<double>(own[2]));
+    return onPaper ? readable(colour, back) : colour;
+}
+
 QColor GraphLook::accentOn(const QColor& ground)
 {
     const QColor& dark = Palette::dark().accent;

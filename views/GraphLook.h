@@ -2,6 +2,8 @@
 
 #include <QColor>
 
+#include <array>
+
 namespace VELIX {
 
 /// Colours of the graph and which of its parts are shown.
@@ -14,6 +16,7 @@ struct GraphLook
     bool gridOn = true;
     bool cursorOn = true;
     bool legendOn = true;
+    bool onPaper = false; ///< traces in colours readable on the plot, nothing that can be dragged
 
     /// Lines of the ticks, and of their subdivisions: weaker than any trace.
     [[nodiscard]] QColor majorGrid() const { return mix(back, grid, 0.45); }
@@ -28,6 +31,9 @@ struct GraphLook
     [[nodiscard]] QColor plotText() const;
     /// Readable, but weaker than plotText().
     [[nodiscard]] QColor plotMutedText() const { return mix(back, plotText(), 0.68); }
+
+    /// The colour in which a trace is drawn, given its own (red, green, blue, each 0 to 1).
+    [[nodiscard]] QColor traceColour(const std::array<float, 3>& own) const;
 
     /// The accent of the look, light or dark, that shows best on a ground.
     [[nodiscard]] static QColor accentOn(const QColor& ground);

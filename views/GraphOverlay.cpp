@@ -42,7 +42,9 @@ void GraphOverlay::paint()
     }
     paintTimeAxis();
     paintValueAxes();
-    paintHandles();
+    if (!mLook.onPaper) {
+        paintHandles();
+    }
     mPainter.setClipRect(mScene.layout.plot());
     paintBandNames();
     paintMarked();
@@ -286,9 +288,7 @@ bool GraphOverlay::inPlot(double x) const
 
 QColor GraphOverlay::colourOf(unsigned int trace) const
 {
-    const GraphModel::Colour& colour = mModel.parameter(trace).colour;
-    return QColor::fromRgbF(static_cast<double>(colour[0]), static_cast<double>(colour[1]),
-                            static_cast<double>(colour[2]));
+    return mLook.traceColour(mModel.parameter(trace).colour);
 }
 
 int GraphOverlay::textWidth(const QString& text) const

@@ -134,12 +134,16 @@ void GraphPicture::paintTraces(QPainter& painter) const
         const unsigned int trace = mScene.shown[place];
         const GraphModel::ParStruct& parameter = mModel.parameter(trace);
         const QRectF band = mScene.bandOf(place);
-        curve.build(parameter.trace.frames(),
-                    {band, mModel.xmin(), mModel.xmax(), mModel.scaleOf(trace)});
-        painter.setPen(QPen(QColor::fromRgbF(static_cast<double>(parameter.colour[0]),
-                                             static_cast<double>(parameter.colour[1]),
-                                             static_cast<double>(parameter.colour[2])),
-                            1.0));
+        const GraphCurve::Target target{band, mModel.xmin(), mModel.xmax(), mModel.scaleOf(trace)};
+        if (mFineness > 0.0) {
+            GraphTrace fine = parameter.trace; // one at a time, since it brings its samples
+            fine.recalcFrameBuffer(mModel.xmin(), mModel.xmax(),
+                                   (mModel.xmax() - mModel.xmin()) / (band.width() * mFineness));
+            curve.build(fine.frames(), target);
+        } else {
+            curve.build(parameter.trace.frames(), target);
+        }
+        painter.setPen(QPen(mLook.traceColour(parameter.colour), 1.0));
         for (std::size_t strip = 0; strip < curve.starts().size(); ++strip) {
             drawStrip(painter, curve.vertices().data() + curve.starts()[strip],
                       curve.sizes()[strip], band);

@@ -19,6 +19,10 @@ public:
     GraphPicture(const GraphModel& model, const GraphLook& look, bool markersOn, const QSize& size,
                  const QFont& font);
 
+    /// Draws so many columns of samples to a pixel, for devices that are finer than the screen; by
+    /// default the columns of the model.
+    void setFineness(double columns) { mFineness = columns; }
+
     void paint(QPainter& painter) const;
 
 private:
@@ -31,6 +35,7 @@ private:
     GraphPointer mPointer;
     GraphScene mScene;
     QSize mSize;
+    double mFineness = 0.0; ///< 0: as the model
 };
 
 } // namespace VELIX
