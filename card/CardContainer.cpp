@@ -136,10 +136,10 @@ bool CardContainer::canOpenAny(const std::list<QString>& names)
         const auto found = mRecordFiles.find(name(path));
         if (found != mRecordFiles.end() && !found->second.recordInfo().fileName.isEmpty()) {
             anyListed = true;
-            RecordData none;
             if (QFileInfo(found->second.recordInfo().fileName).isReadable()) {
                 return true;
             }
+            RecordData none;
             found->second.readRecordData(none); // says what is wrong with the file
         }
     }

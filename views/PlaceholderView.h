@@ -8,8 +8,6 @@ namespace VELIX {
 /// Holds the place of a view that this version does not have, with a sentence that says so.
 class PlaceholderView : public WidgetHint, public DataView
 {
-    Q_OBJECT
-
 public:
     using WidgetHint::WidgetHint;
 
