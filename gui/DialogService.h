@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class QPrinter;
 class QWidget;
 
 namespace VELIX {
@@ -33,6 +34,9 @@ public:
     /// An information with two answers of its own; true for `accept`. Closing the box declines.
     virtual bool choose(QWidget* parent, const QString& title, const QString& text,
                         const QString& accept, const QString& decline) = 0;
+
+    /// Lets the user choose a printer and set it up; false if the user cancelled.
+    virtual bool choosePrinter(QWidget* parent, QPrinter& printer, const QString& title) = 0;
 
     virtual void information(QWidget* parent, const QString& title, const QString& text) = 0;
     virtual void warning(QWidget* parent, const QString& title, const QString& text) = 0;

@@ -24,7 +24,9 @@ enum EAction : int {
     eActionHelp = 10,
     eActionPreferences = 15,
     eActionExportKml = 17,
-    eActionExportCsv = 18
+    eActionExportCsv = 18,
+    eActionPrint = 100,
+    eActionSavePdf = 101
 };
 
 /// The main window's actions, made from a table and found by their number.

@@ -2,6 +2,8 @@
 
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 
 namespace VELIX {
@@ -67,6 +69,14 @@ bool StandardDialogs::choose(QWidget* parent, const QString& title, const QStrin
     box.setEscapeButton(declined);
     box.exec();
     return box.clickedButton() == accepted;
+}
+
+bool StandardDialogs::choosePrinter(QWidget* parent, QPrinter& printer, const QString& title)
+{
+    QPrintDialog dialog(&printer, parent);
+    dialog.setWindowTitle(title);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange);
+    return dialog.exec() == QDialog::Accepted;
 }
 
 void StandardDialogs::information(QWidget* parent, const QString& title, const QString& text)

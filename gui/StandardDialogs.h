@@ -21,6 +21,8 @@ public:
     bool choose(QWidget* parent, const QString& title, const QString& text, const QString& accept,
                 const QString& decline) override;
 
+    bool choosePrinter(QWidget* parent, QPrinter& printer, const QString& title) override;
+
     void information(QWidget* parent, const QString& title, const QString& text) override;
     void warning(QWidget* parent, const QString& title, const QString& text) override;
     void critical(QWidget* parent, const QString& title, const QString& text) override;

@@ -2,6 +2,7 @@
 
 #include "gui/DialogService.h"
 
+#include <QPrinter>
 #include <QStringList>
 
 namespace VELIX::Test {
@@ -44,6 +45,14 @@ public:
     {
         note(title, QStringLiteral("%1 [%2|%3]").arg(text, accept, decline));
         return agrees;
+    }
+    /// The printer becomes one that prints to `file`.
+    bool choosePrinter(QWidget*, QPrinter& printer, const QString& title) override
+    {
+        asked.append(title);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(file);
+        return !file.isEmpty();
     }
     void information(QWidget*, const QString& title, const QString& text) override
     {
