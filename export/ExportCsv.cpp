@@ -3,6 +3,7 @@
 #include "card/DecodingOrder.h"
 #include "card/RecordData.h"
 #include "core/Diagnostics.h"
+#include "export/ExportMeter.h"
 #include "export/OutputFile.h"
 #include "profile/Profile.h"
 
@@ -11,13 +12,18 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
+#include <iterator>
 #include <limits>
+#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace VELIX {
 
 namespace {
+
+constexpr double kColumnsRead = 60.0; // per cents of an export at which the rows begin
 
 /// The samples of one column: at most one text a tick, texts end to end in one buffer.
 struct Column
@@ -49,6 +55,21 @@ std::uint64_t tickOf(double time, int resolution)
     constexpr double kBeyond = 18446744073709551616.0;
     return tick < kBeyond ? static_cast<std::uint64_t>(tick)
                           : std::numeric_limits<std::uint64_t>::max();
+}
+
+/// The ticks that have a sample, rising.
+std::vector<std::uint64_t> ticksOf(const EntryList& entries, int resolution)
+{
+    std::vector<std::uint64_t> ticks;
+    ticks.reserve(entries.size());
+    for (const RecordEntry& entry : entries) {
+        ticks.push_back(tickOf(entry.time, resolution));
+    }
+    if (!entries.isSorted()) {
+        std::sort(ticks.begin(), ticks.end());
+    }
+    ticks.erase(std::unique(ticks.begin(), ticks.end()), ticks.end());
+    return ticks;
 }
 
 Column fillColumn(const RecordData& record, const ProfileParameter& p, int resolution,
@@ -85,9 +106,14 @@ Column fillColumn(const RecordData& record, const ProfileParameter& p, int resol
 class TableWriter
 {
 public:
-    TableWriter(const std::vector<Column>& columns, const CsvExportOptions& options)
-        : mColumns(columns), mOptions(options), mNext(columns.size(), 0)
-    {}
+    TableWriter(const std::vector<Column>& columns, const CsvExportOptions& options,
+                ExportMeter& meter)
+        : mColumns(columns), mOptions(options), mMeter(meter), mNext(columns.size(), 0)
+    {
+        for (const Column& column : columns) {
+            mCells += column.cells.size();
+        }
+    }
 
     bool write(QIODevice& out)
     {
@@ -113,7 +139,7 @@ private:
         const auto size = static_cast<qint64>(mBuffer.size());
         const bool written = out.write(mBuffer.data(), size) == size;
         mBuffer.clear();
-        return written;
+        return written && mMeter.reach(kColumnsRead, 100.0, mWritten, mCells);
     }
 
     /// A field as it is or, in the aligned form, quoted where a reader of the table needs it.
@@ -183,12 +209,16 @@ private:
         }
         if (present) {
             const Column::Cell& cell = column.cells[next++];
+            ++mWritten;
             appendField(std::string_view(column.texts).substr(cell.begin, cell.end - cell.begin));
         }
     }
 
     const std::vector<Column>& mColumns;
     const CsvExportOptions& mOptions;
+    ExportMeter& mMeter;
+    std::size_t mCells = 0;
+    std::size_t mWritten = 0;       ///< of the cells
     std::vector<std::size_t> mNext; ///< per column: its first cell that is not written yet
     std::string mBuffer;
 };
@@ -197,34 +227,81 @@ private:
 
 ExportCsv::ExportCsv(Profile& profile) : mProfile(profile) {}
 
+void ExportCsv::setProgress(ExportProgress progress)
+{
+    mProgress = std::move(progress);
+}
+
+std::vector<const ProfileParameter*> ExportCsv::columns(const CsvExportOptions& options) const
+{
+    std::vector<const ProfileParameter*> columns;
+    for (const ProfileDevice& device : mProfile.data().devices) {
+        for (const auto& [id, p] : device.parameters) {
+            if (options.allParameters || p.selected) {
+                columns.push_back(&p);
+            }
+        }
+    }
+    return columns;
+}
+
 bool ExportCsv::writeTable(const RecordData& record, const CsvExportOptions& options,
                            QIODevice& out)
 {
     CsvExportOptions valid = options;
     valid.resolution = validResolution(options.resolution);
-    std::vector<Column> columns;
-    for (const ProfileDevice& device : mProfile.data().devices) {
-        for (const auto& [id, p] : device.parameters) {
-            if (options.allParameters || p.selected) {
-                columns.push_back(fillColumn(record, p, valid.resolution, mProfile));
-            }
+    ExportMeter meter(mProgress);
+    const std::vector<const ProfileParameter*> parameters = columns(options);
+    std::vector<Column> filled;
+    filled.reserve(parameters.size());
+    bool written = true;
+    for (const ProfileParameter* p : parameters) {
+        written = written && meter.reach(0.0, kColumnsRead, filled.size(), parameters.size());
+        if (written) {
+            filled.push_back(fillColumn(record, *p, valid.resolution, mProfile));
         }
     }
-    return TableWriter(columns, valid).write(out);
+    written = written && TableWriter(filled, valid, meter).write(out);
+    mCancelled = meter.cancelled();
+    return written;
 }
 
 int ExportCsv::exportData(const RecordData& record, const CsvExportOptions& options)
 {
     const QString path = QString::fromStdString(options.directory) + QLatin1Char('/') +
                          QString::fromStdString(options.fileName);
+    mCancelled = false;
     mLastError =
         writeOutputFile(path, [&](QIODevice& out) { return writeTable(record, options, out); });
+    if (mCancelled) {
+        mLastError.clear();
+        return 0;
+    }
     if (!mLastError.isEmpty()) {
         Diagnostics::print("could not write file <%s>: %s\n", path.toUtf8().constData(),
                            mLastError.toUtf8().constData());
         return 0;
     }
     return 1;
+}
+
+std::size_t ExportCsv::rows(const RecordData& record, const CsvExportOptions& options) const
+{
+    const int resolution = validResolution(options.resolution);
+    std::set<int> counted; // lanes share identifiers
+    std::vector<std::uint64_t> all;
+    for (const ProfileParameter* p : columns(options)) {
+        if (!counted.insert(p->id).second) {
+            continue;
+        }
+        const std::vector<std::uint64_t> own =
+            ticksOf(record.entries(static_cast<std::uint32_t>(p->id)), resolution);
+        std::vector<std::uint64_t> both;
+        both.reserve(all.size() + own.size());
+        std::set_union(all.begin(), all.end(), own.begin(), own.end(), std::back_inserter(both));
+        all = std::move(both);
+    }
+    return all.size();
 }
 
 } // namespace VELIX

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <cstddef>
+#include <vector>
 
 class QIODevice;
 
@@ -35,6 +36,8 @@ public:
     std::size_t rows(const RecordData& record, const CsvExportOptions& options) const;
 
 private:
+    std::vector<const ProfileParameter*> columns(const CsvExportOptions& options) const;
+
     Profile& mProfile;
     ExportProgress mProgress;
     QString mLastError;

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "core/XmlHandler.h"
+#include "export/KmlExportData.h"
+#include "export/KmlExportOptions.h"
+#include "export/KmlPath.h"
+
+#include <QByteArray>
+#include <QDomDocument>
+#include <QString>
+
+#include <string>
+
+namespace VELIX {
+
+/// Builds the document of one export, from its head to the path at its end.
+///
+/// The program's files never kept to the schema of KML 2.2, and readers of them rely on their form:
+/// it stays unless the options ask for the standard. Elements are named in the order of the form.
+class KmlDocument
+{
+public:
+    /// options: with valid numbers; only its look and form are used.
+    KmlDocument(const KmlExportOptions& options, const QString& name);
+
+    void addPlacemark(const KmlExportPlacemark& mark);
+    void addEvent(const KmlExportError& event);
+    void addPath(const KmlPath::Points& points);
+
+    /// The document as UTF-8.
+    QByteArray text() const;
+
+private:
+    void addStyle(const QString& id, const std::string& color);
+    void addMark(const KmlExportPlacemark& mark, const QString& style);
+    void addValues(QDomElement& placemark, const std::vector<KmlExportValue>& values);
+    void addPathStyle(QDomElement& placemark);
+    void addLine(QDomElement& placemark, const KmlPath::Points& points);
+    QDomElement addElement(QDomElement& parent, const char* tag);
+    void addData(QDomElement& parent, const char* tag, const QString& text);
+
+    const KmlExportOptions& mOptions;
+    XmlHandler mXml;
+    QDomDocument mDocument;
+    QDomElement mBody; ///< "Document"
+};
+
+} // namespace VELIX
