@@ -1,6 +1,9 @@
 #include "tools/velix-card/CardCommand.h"
 
+#include "card/LimitFinder.h"
+#include "card/WarningFinder.h"
 #include "export/ExportCsv.h"
+#include "export/ExportKml.h"
 #include "export/OutputFile.h"
 #include "tools/velix-card/InfoReport.h"
 
@@ -142,11 +145,29 @@ CardCommand::Status CardCommand::write()
 
 bool CardCommand::writeTo(QIODevice& out)
 {
-    if (mOptions.command == CardOptions::Command::Csv) {
+    switch (mOptions.command) {
+    case CardOptions::Command::Csv:
         return ExportCsv(mProfile).writeTable(mCard.recordData(), mOptions.csv, out);
+    case CardOptions::Command::Kml:
+        return writeKml(out);
+    case CardOptions::Command::Info:
+        break;
     }
     const QByteArray text = info();
     return out.write(text) == text.size();
+}
+
+bool CardCommand::writeKml(QIODevice& out)
+{
+    RecordData& record = mCard.recordData();
+    record.limits = findLimits(record, mProfile);
+    record.warnings = findWarnings(record, mProfile);
+    mOptions.kml.parameters = mProfile.selectedParameters();
+    ExportKml writer(mProfile);
+    if (!writer.summary(record, mOptions.kml).hasPositions) {
+        tell(QStringLiteral("Warning: there are no positions, the path is empty."));
+    }
+    return writer.writeDocument(record, mOptions.kml, out);
 }
 
 QByteArray CardCommand::info()

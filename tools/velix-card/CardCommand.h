@@ -32,6 +32,7 @@ private:
     void warnOfMissingFlight() const;
     Status write();
     bool writeTo(QIODevice& out);
+    bool writeKml(QIODevice& out);
     QByteArray info();
 
     CardOptions mOptions;

@@ -1,6 +1,10 @@
 #include "tools/velix-card/CardOptions.h"
 
 #include <QCommandLineParser>
+#include <QRegularExpression>
+
+#include <limits>
+#include <tuple>
 
 namespace VELIX {
 
@@ -14,13 +18,40 @@ QCommandLineOption option(const char* name, const char* description, const char*
             QString::fromLatin1(value)};
 }
 
+void describeKml(QCommandLineParser& parser)
+{
+    for (const auto& [name, description, value] : {
+             std::tuple("time-step", "kml: seconds from one path point to the next (1).", "S"),
+             std::tuple("line-width", "kml: width of the path in pixels (1).", "N"),
+             std::tuple("line-color", "kml: colour of the path (ff0000).", "RRGGBB"),
+             std::tuple("line-alpha", "kml: opacity of the path, 0 to 255 (255).", "N"),
+             std::tuple("polygon", "kml: on (default) or off: a curtain to the ground.", "SWITCH"),
+             std::tuple("polygon-color", "kml: colour of the curtain (0000ff).", "RRGGBB"),
+             std::tuple("polygon-alpha", "kml: opacity of the curtain, 0 to 255 (100).", "N"),
+             std::tuple("placemarks", "kml: on (default) or off: placemarks with values.",
+                        "SWITCH"),
+             std::tuple("placemark-interval", "kml: one placemark every N path steps (10).", "N"),
+             std::tuple("placemark-color", "kml: colour of these placemarks (ffcc00).", "RRGGBB"),
+             std::tuple("events", "kml: on (default) or off: placemarks of events.", "SWITCH"),
+             std::tuple("limits", "kml: on (default) or off: limit exceedances.", "SWITCH"),
+             std::tuple("warnings", "kml: on (default) or off: warning lamps.", "SWITCH"),
+             std::tuple("event-color", "kml: colour of event placemarks (ff0000).", "RRGGBB"),
+         }) {
+        parser.addOption(option(name, description, value));
+    }
+    parser.addOption({QStringLiteral("standard"),
+                      QStringLiteral("kml: keep to the schema of KML 2.2. An --output that ends in "
+                                     ".kmz is zipped, with or without.")});
+}
+
 void describe(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(
         QStringLiteral("Reads the data card of an engine monitoring unit.\n\n"
                        "  info  prints what the card, a cycle or some files hold as JSON\n"
-                       "  csv   prints the decoded parameters as a table"));
-    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("info or csv"));
+                       "  csv   prints the decoded parameters as a table\n"
+                       "  kml   writes the flight path for virtual globes"));
+    parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("info, csv or kml"));
     parser.addPositionalArgument(QStringLiteral("CARD"), QStringLiteral("folder of the card"));
     parser.addOption(option("profile", "Parameter profile (required).", "FILE"));
     parser.addOption(option("variant", "Variant of the profile.", "NAME"));
@@ -33,9 +64,13 @@ void describe(QCommandLineParser& parser)
         option("time", "info: also the values at this time in seconds; repeatable.", "T"));
     parser.addOption(option("delimiter", "csv: semicolon (default), comma or tab.", "KIND"));
     parser.addOption(option("resolution", "csv: 100 (default) or 10 ms per row.", "MS"));
-    parser.addOption(option("select", "csv: only these parameters; repeatable.", "DEVICE/NAME"));
+    parser.addOption(option("select",
+                            "csv: only these parameters; kml: placemarks with their values; "
+                            "repeatable.",
+                            "DEVICE/NAME"));
     parser.addOption({QStringLiteral("aligned"),
                       QStringLiteral("csv: every column in every row, empty without a sample.")});
+    describeKml(parser);
     parser.addHelpOption();
 }
 
@@ -60,6 +95,8 @@ public:
         options.csv.resolution = choice<int>("resolution", {{"100", 100}, {"10", 10}}, 100);
         options.csv.aligned = mParser.isSet(QStringLiteral("aligned"));
         options.csv.allParameters = options.selected.isEmpty();
+        readKml(options.kml);
+        options.kml.fileName = options.output.toStdString();
         readSelection(options);
         readTimes(options);
         if (options.profile.isEmpty()) {
@@ -101,6 +138,63 @@ private:
         return fallback;
     }
 
+    void readNumber(const char* name, int smallest, int largest, int& number)
+    {
+        if (!isSet(name)) {
+            return;
+        }
+        bool valid = false;
+        number = text(name).toInt(&valid);
+        if (valid && number >= smallest && number <= largest) {
+            return;
+        }
+        QString range = QStringLiteral("from %1").arg(smallest);
+        if (largest != std::numeric_limits<int>::max()) {
+            range += QStringLiteral(" to %1").arg(largest);
+        }
+        complain(
+            QStringLiteral("--%1 takes a whole number %2.").arg(QString::fromLatin1(name), range));
+    }
+
+    void readColor(const char* name, std::string& color)
+    {
+        static const QRegularExpression sixDigits(QStringLiteral("\\A[0-9a-fA-F]{6}\\z"));
+        if (!isSet(name)) {
+            return;
+        }
+        color = text(name).toStdString();
+        if (!sixDigits.match(text(name)).hasMatch()) {
+            complain(QStringLiteral("--%1 takes six hexadecimal digits RRGGBB.")
+                         .arg(QString::fromLatin1(name)));
+        }
+    }
+
+    void readSwitch(const char* name, bool& on)
+    {
+        on = choice<bool>(name, {{"on", true}, {"off", false}}, on);
+    }
+
+    void readKml(KmlExportOptions& kml)
+    {
+        constexpr int kAnyNumber = std::numeric_limits<int>::max();
+        constexpr int kLargestAlpha = 255;
+        readNumber("time-step", 1, kAnyNumber, kml.timeStep);
+        readNumber("line-width", 1, kAnyNumber, kml.lineWidth);
+        readColor("line-color", kml.lineColor);
+        readNumber("line-alpha", 0, kLargestAlpha, kml.lineAlpha);
+        readSwitch("polygon", kml.polygonOn);
+        readColor("polygon-color", kml.polygonColor);
+        readNumber("polygon-alpha", 0, kLargestAlpha, kml.polygonAlpha);
+        readSwitch("placemarks", kml.placeMarkOn);
+        readNumber("placemark-interval", 1, kAnyNumber, kml.placeMarkInterval);
+        readColor("placemark-color", kml.placeMarkColor);
+        readSwitch("events", kml.errorMarkOn);
+        readSwitch("limits", kml.showLimit);
+        readSwitch("warnings", kml.showWarning);
+        readColor("event-color", kml.errorMarkColor);
+        kml.standard = isSet("standard");
+    }
+
     void readCommand(CardOptions& options)
     {
         const QStringList words = mParser.positionalArguments();
@@ -111,6 +205,8 @@ private:
         options.card = words[1];
         if (words[0] == QLatin1String("csv")) {
             options.command = CardOptions::Command::Csv;
+        } else if (words[0] == QLatin1String("kml")) {
+            options.command = CardOptions::Command::Kml;
         } else if (words[0] != QLatin1String("info")) {
             complain(QStringLiteral("There is no command %1.").arg(words[0]));
         }
@@ -134,8 +230,10 @@ private:
         if (isSet("cycle") && isSet("file")) {
             complain(QStringLiteral("--cycle and --file exclude each other."));
         }
-        if (options.command == CardOptions::Command::Csv && !options.hasSelection()) {
-            complain(QStringLiteral("A table needs --cycle or --file."));
+        if (options.command != CardOptions::Command::Info && !options.hasSelection()) {
+            complain(options.command == CardOptions::Command::Csv
+                         ? QStringLiteral("A table needs --cycle or --file.")
+                         : QStringLiteral("A flight path needs --cycle or --file."));
         }
     }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "export/CsvExportOptions.h"
+#include "export/KmlExportOptions.h"
 #include "profile/Profile.h"
 
 #include <QString>
@@ -14,7 +15,7 @@ namespace VELIX {
 /// What one call of velix-card asks for.
 struct CardOptions
 {
-    enum class Command { Info, Csv };
+    enum class Command { Info, Csv, Kml };
 
     Command command = Command::Info;
     QString card;
@@ -28,6 +29,7 @@ struct CardOptions
     std::vector<double> times;
     QString output; ///< empty: standard output
     CsvExportOptions csv;
+    KmlExportOptions kml; ///< the parameters are those of `selected`
 
     bool hasSelection() const { return cycle.has_value() || !files.isEmpty(); }
 };
