@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numeric>
 
 namespace VELIX {
 
@@ -11,8 +10,6 @@ namespace {
 
 constexpr double kZoomFactor = 0.9;
 constexpr double kRepaintPixels = 0.7;
-/// Recomputations that follow the first one after startRecalc().
-constexpr int kMoreRecalcs = 3;
 
 } // namespace
 
@@ -90,16 +87,11 @@ void GraphModel::reset()
     changeRange(fresh.mRange);
     mCursorTime = fresh.mCursorTime;
     mCursorValue = fresh.mCursorValue;
-    mMarker1 = fresh.mMarker1;
-    mMarker2 = fresh.mMarker2;
+    mMarkers = fresh.mMarkers;
     mCursorMode = fresh.mCursorMode;
     mGraphMode = fresh.mGraphMode;
     mDisplayMode = fresh.mDisplayMode;
-    mAutoScaleY = fresh.mAutoScaleY;
-    mSpread = fresh.mSpread;
-    mYRangeOn = fresh.mYRangeOn;
-    mYmin = fresh.mYmin;
-    mYmax = fresh.mYmax;
+    mScaling = fresh.mScaling;
 }
 
 // --- values
@@ -117,9 +109,8 @@ GraphTrace::Statistics GraphModel::markerStatistics(unsigned int i) const
         return {};
     }
     const GraphTrace& trace = parameters()[i].trace;
-    return mMarker1 == mMarker2
-               ? trace.statistics(mRange.xmin(), mRange.xmax())
-               : trace.statistics(std::min(mMarker1, mMarker2), std::max(mMarker1, mMarker2));
+    return mMarkers.coincide() ? trace.statistics(mRange.xmin(), mRange.xmax())
+                               : trace.statistics(mMarkers.start(), mMarkers.stop());
 }
 
 bool GraphModel::dataExtent(double& first, double& last) const
@@ -183,7 +174,7 @@ void GraphModel::setXrange(double width)
 void GraphModel::zoomToMarker()
 {
     mGraphMode = GraphManual;
-    changeRange({mMarker1, std::max(mMarker2, mMarker1 + GraphTimeRange::kMinSpan)});
+    changeRange({marker1(), std::max(marker2(), marker1() + GraphTimeRange::kMinSpan)});
     startRecalc();
     recalcFrameBuffer();
 }
@@ -195,7 +186,7 @@ void GraphModel::zoomStep(double pivot, bool in)
         return;
     }
     changeRange(range);
-    if (!mRecalcRunning) {
+    if (!mRecalc.running()) {
         startRecalc();
     }
 }
@@ -220,16 +211,6 @@ void GraphModel::setPlotWidth(int pixels)
 double GraphModel::secondsPerPixel() const
 {
     return mRange.span() / mPlotWidth;
-}
-
-double GraphModel::timeAt(double pixel) const
-{
-    return mRange.xmin() + pixel * secondsPerPixel();
-}
-
-double GraphModel::pixelAt(double time) const
-{
-    return (time - mRange.xmin()) / secondsPerPixel();
 }
 
 // --- frames
@@ -262,22 +243,21 @@ void GraphModel::calcFrame()
 
 void GraphModel::updateScales()
 {
-    const GraphYScale fixed = GraphYScale::fixed(mYmin, mYmax);
-    const bool automatic = mAutoScaleY && !mYRangeOn;
+    const GraphYScale fixed = mScaling.fixed();
     double low = std::numeric_limits<double>::infinity();
     double high = -low;
     for (ParStruct& parameter : parameters()) {
         const GraphTrace& trace = parameter.trace;
         parameter.yScale = fixed;
-        if (automatic && trace.hasRange()) {
-            parameter.yScale = GraphYScale::autoscale(trace.minimum(), trace.maximum(), mSpread);
+        if (mScaling.fitsValues() && trace.hasRange()) {
+            parameter.yScale = mScaling.fitted(trace.minimum(), trace.maximum());
             if (parameter.active && parameter.visible) {
                 low = std::min(low, trace.minimum());
                 high = std::max(high, trace.maximum());
             }
         }
     }
-    mCommonScale = low <= high ? GraphYScale::autoscale(low, high, mSpread) : fixed;
+    mCommonScale = low <= high ? mScaling.fitted(low, high) : fixed;
 }
 
 void GraphModel::updateExtent()
@@ -315,18 +295,10 @@ const GraphYScale& GraphModel::scaleOf(unsigned int i) const
                                                                      : parameters()[i].yScale;
 }
 
-void GraphModel::startRecalc()
-{
-    mRecalcCountdown = kMoreRecalcs;
-    mRecalcRunning = true;
-}
-
 bool GraphModel::stepRecalc()
 {
     recalcFrameBuffer();
-    mRecalcRunning = mRecalcCountdown > 0;
-    mRecalcCountdown = std::max(mRecalcCountdown - 1, -1);
-    return mRecalcRunning;
+    return mRecalc.step();
 }
 
 bool GraphModel::repaintDue(double elapsed) const
@@ -336,14 +308,18 @@ bool GraphModel::repaintDue(double elapsed) const
 
 // --- cursor and markers
 
+void GraphModel::setCursorInPlace(double x)
+{
+    if (std::isfinite(x)) {
+        mCursorTime = x;
+        touchPointer();
+    }
+}
+
 void GraphModel::setCursorPosition(double x)
 {
-    if (!std::isfinite(x)) {
-        return;
-    }
-    mCursorTime = x;
-    touch();
-    if (mCursorMode == CursorFloating) {
+    setCursorInPlace(x);
+    if (mCursorMode == CursorFloating || !std::isfinite(x)) {
         return;
     }
     GraphTimeRange range = mRange;
@@ -359,47 +335,42 @@ void GraphModel::setCursorValue(double y)
 {
     if (std::isfinite(y)) {
         mCursorValue = y;
-        touch();
+        touchPointer();
     }
 }
 
 void GraphModel::setMarker(double marker1, double marker2)
 {
-    if (std::isfinite(marker1) && std::isfinite(marker2)) {
-        mMarker1 = marker1;
-        mMarker2 = marker2;
-        touch();
-    }
+    mMarkers.set(marker1, marker2);
+    touchPointer();
 }
 
 void GraphModel::setNearerMarker(double time)
 {
-    const bool first = time < (mMarker1 + mMarker2) / 2.0;
-    setMarker(first ? time : mMarker1, first ? mMarker2 : time);
+    mMarkers.setNearer(time);
+    touchPointer();
 }
 
 void GraphModel::sortMarkers()
 {
-    if (mMarker1 > mMarker2) {
-        std::swap(mMarker1, mMarker2);
-        touch();
-    }
+    mMarkers.sort();
+    touchPointer();
 }
 
 void GraphModel::addTopMarker(unsigned int number, double time)
 {
     if (std::isfinite(time)) {
         mTopMarkers.push_back({number, time});
-        touch();
+        touchPointer();
     }
 }
 
-// --- modes and look
+// --- modes
 
 void GraphModel::setCursorMode(eCursorMode mode)
 {
     mCursorMode = mode;
-    touch();
+    touchPointer();
 }
 
 void GraphModel::setGraphMode(eGraphMode mode)
@@ -419,48 +390,6 @@ void GraphModel::setOfflineMode(bool on)
 {
     mOffline = on;
     touch();
-}
-
-void GraphModel::setAutoScaleY(bool on)
-{
-    mAutoScaleY = on;
-    touch();
-}
-
-void GraphModel::setAutoScaleYSpread(double spread)
-{
-    if (std::isfinite(spread) && spread >= 0.0) {
-        mSpread = spread;
-        touch();
-    }
-}
-
-void GraphModel::setYRangeOn(bool on)
-{
-    mYRangeOn = on;
-    touch();
-}
-
-void GraphModel::setYRange(double ymin, double ymax)
-{
-    setYmin(ymin);
-    setYmax(ymax);
-}
-
-void GraphModel::setYmin(double ymin)
-{
-    if (std::isfinite(ymin)) {
-        mYmin = ymin;
-        touch();
-    }
-}
-
-void GraphModel::setYmax(double ymax)
-{
-    if (std::isfinite(ymax)) {
-        mYmax = ymax;
-        touch();
-    }
 }
 
 } // namespace VELIX

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "views/GraphMarkers.h"
+#include "views/GraphRecalc.h"
+#include "views/GraphScaling.h"
 #include "views/GraphTimeRange.h"
 #include "views/GraphTrace.h"
 #include "views/GraphTraceSet.h"
@@ -105,9 +108,6 @@ public:
     void setPlotWidth(int pixels);
     [[nodiscard]] int plotWidth() const { return mPlotWidth; }
     [[nodiscard]] double secondsPerPixel() const;
-    /// Time at a pixel column, counted from the left edge of the plot, and the reverse.
-    [[nodiscard]] double timeAt(double pixel) const;
-    [[nodiscard]] double pixelAt(double time) const;
 
     // --- frames
 
@@ -122,18 +122,14 @@ public:
     /// The scale by which trace @p i is drawn in the display mode in force.
     [[nodiscard]] const GraphYScale& scaleOf(unsigned int i) const;
 
-    /// One change of range or size is followed by four recomputations, so many milliseconds apart,
-    /// so that the widget's final size and range are caught. startRecalc() arms them; the owner's
-    /// timer calls stepRecalc() each time.
-    static constexpr int kRecalcIntervalMs = 50;
-    void startRecalc();
+    /// One change of range or size is followed by four recomputations. startRecalc() arms them;
+    /// the owner's timer calls stepRecalc() each time.
+    void startRecalc() { mRecalc.start(); }
     /// Arms the timer for a single recomputation, or for what is left of four.
-    void startRecalcTimer() { mRecalcRunning = true; }
+    void startRecalcTimer() { mRecalc.startTimer(); }
     /// Rebuilds the frames. @return whether the timer is to be started again
     bool stepRecalc();
-    /// Whether a step is still to come.
-    [[nodiscard]] bool recalcRunning() const { return mRecalcRunning; }
-    [[nodiscard]] int recalcCountdown() const { return mRecalcCountdown; }
+    [[nodiscard]] const GraphRecalc& recalc() const { return mRecalc; }
 
     /// Whether the traces have moved on enough (0.7 pixels) for a new picture, @p elapsed seconds
     /// after the last one.
@@ -145,21 +141,24 @@ public:
     [[nodiscard]] double cursorValue() const { return mCursorValue; }
     /// Stores the cursor and moves the range as the cursor mode says.
     void setCursorPosition(double x);
+    /// Stores the cursor; the range stays, whatever the cursor mode.
+    void setCursorInPlace(double x);
     /// The cursor's Y value, in the unit of the selected trace.
     void setCursorValue(double y);
 
-    [[nodiscard]] double marker1() const { return mMarker1; }
-    [[nodiscard]] double marker2() const { return mMarker2; }
+    [[nodiscard]] double marker1() const { return mMarkers.first(); }
+    [[nodiscard]] double marker2() const { return mMarkers.second(); }
+    [[nodiscard]] const GraphMarkers& markers() const { return mMarkers; }
     void setMarker(double marker1, double marker2);
     /// Moves the nearer marker: marker 1 for a time left of the midpoint of both, else marker 2.
     void setNearerMarker(double time);
     /// Swaps the markers if marker 1 lies behind marker 2.
     void sortMarkers();
-    [[nodiscard]] double markerDistance() const { return mMarker2 - mMarker1; }
+    [[nodiscard]] double markerDistance() const { return marker2() - marker1(); }
     void addTopMarker(unsigned int number, double time);
     [[nodiscard]] const std::vector<TopMarker>& topMarkers() const { return mTopMarkers; }
 
-    // --- modes and look
+    // --- modes and scales
 
     [[nodiscard]] eCursorMode cursorMode() const { return mCursorMode; }
     void setCursorMode(eCursorMode mode);
@@ -172,19 +171,13 @@ public:
     void setOfflineMode(bool on);
     [[nodiscard]] bool offlineMode() const { return mOffline; }
 
-    void setAutoScaleY(bool on);
-    [[nodiscard]] bool autoScaleY() const { return mAutoScaleY; }
-    /// Margin of the automatic scale as a fraction of the values' distance; 0.1 by default,
-    /// negative is ignored.
-    void setAutoScaleYSpread(double spread);
-    /// Fixes the scale at Ymin..Ymax even while autoscale is on.
-    void setYRangeOn(bool on);
-    [[nodiscard]] bool getYRangeOn() const { return mYRangeOn; }
-    void setYRange(double ymin, double ymax);
-    void setYmin(double ymin);
-    void setYmax(double ymax);
-    [[nodiscard]] double ymin() const { return mYmin; }
-    [[nodiscard]] double ymax() const { return mYmax; }
+    [[nodiscard]] const GraphScaling& scaling() const { return mScaling; }
+    /// For a change of the rule, which takes effect at the next calcFrame().
+    [[nodiscard]] GraphScaling& changeScaling()
+    {
+        touch();
+        return mScaling;
+    }
 
 private:
     void store(ParStruct& parameter, double value, bool hold);
@@ -201,13 +194,11 @@ private:
     bool mSampling = false;
     bool mRecalcPending = false; ///< rebuild at the next setTime()
     bool mFramesStale = false;   ///< rebuild at the next calcFrame()
-    bool mRecalcRunning = false;
-    int mRecalcCountdown = -1;
+    GraphRecalc mRecalc;
 
     double mCursorTime = 0.0;
     double mCursorValue = 0.0;
-    double mMarker1 = 0.0;
-    double mMarker2 = 0.0;
+    GraphMarkers mMarkers;
     std::vector<TopMarker> mTopMarkers;
 
     eCursorMode mCursorMode = CursorFloating;
@@ -215,11 +206,7 @@ private:
     eDisplayMode mDisplayMode = DisplaySingle;
     bool mOffline = false;
 
-    bool mAutoScaleY = true;
-    double mSpread = GraphYScale::kDefaultSpread;
-    bool mYRangeOn = false;
-    double mYmin = -0.5;
-    double mYmax = 1.5;
+    GraphScaling mScaling;
     GraphYScale mCommonScale;
     bool mHasExtent = false;
     double mExtentFirst = 0.0;

@@ -124,7 +124,7 @@ unsigned int GraphTraceSet::selectedTrace() const
 void GraphTraceSet::setSelectedTrace(unsigned int i)
 {
     mSelected = i;
-    touch();
+    touchPointer();
 }
 
 bool GraphTraceSet::getValue(unsigned int i, double t, double& v) const

@@ -82,6 +82,9 @@ public:
     /// Changes with everything that can be seen, so that a widget repaints only when there is
     /// something new.
     [[nodiscard]] std::uint64_t revision() const { return mRevision; }
+    /// Changes with what grid, traces and legend are made of, but not with what only stands over
+    /// them: cursor, markers and selection.
+    [[nodiscard]] std::uint64_t plotRevision() const { return mPlotRevision; }
 
 protected:
     GraphTraceSet() = default;
@@ -94,7 +97,13 @@ protected:
     [[nodiscard]] std::vector<ParStruct>& parameters() { return mParameters; }
     [[nodiscard]] const std::vector<ParStruct>& parameters() const { return mParameters; }
     /// To be called with every change that can be seen.
-    void touch() { ++mRevision; }
+    void touch()
+    {
+        ++mRevision;
+        ++mPlotRevision;
+    }
+    /// The same for a change of cursor, markers or selection.
+    void touchPointer() { ++mRevision; }
 
 private:
     [[nodiscard]] ParStruct* find(unsigned int i);
@@ -103,6 +112,7 @@ private:
     std::vector<unsigned int> mDisplayOrder;
     unsigned int mSelected = kNoTrace;
     std::uint64_t mRevision = 0;
+    std::uint64_t mPlotRevision = 0;
 };
 
 } // namespace VELIX

@@ -1,12 +1,11 @@
 #include "views/WidgetGraphBase.h"
 
 #include <QEvent>
-#include <QSurfaceFormat>
+#include <QOpenGLContext>
 
 namespace {
 
 constexpr int kRepaintMs = 30;
-constexpr int kSamplesPerPixel = 4; ///< smooth lines at a fraction of the price of blended ones
 
 QColor fromFractions(float red, float green, float blue)
 {
@@ -19,9 +18,6 @@ QColor fromFractions(float red, float green, float blue)
 
 WidgetGraphBase::WidgetGraphBase(QWidget* parent) : QOpenGLWidget(parent)
 {
-    QSurfaceFormat format = QSurfaceFormat::defaultFormat();
-    format.setSamples(kSamplesPerPixel);
-    setFormat(format);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
 
@@ -32,6 +28,14 @@ WidgetGraphBase::WidgetGraphBase(QWidget* parent) : QOpenGLWidget(parent)
     connect(&mCursorTimer, &QTimer::timeout, this, &WidgetGraphBase::slotTimeoutCursor);
     mSinceRepaint.start();
     mRepaintTimer.start(kRepaintMs);
+}
+
+WidgetGraphBase::~WidgetGraphBase()
+{
+    if (context() != nullptr) {
+        disconnect(context(), nullptr, this, nullptr);
+    }
+    releasePlot();
 }
 
 void WidgetGraphBase::touch()
@@ -135,13 +139,13 @@ double WidgetGraphBase::getCurrentAverageValue() const
 void WidgetGraphBase::setCursorPosition(double x)
 {
     mModel.setCursorPosition(x);
-    touch();
+    update();
 }
 
 void WidgetGraphBase::setCursorMode(eCursorMode mode)
 {
     mModel.setCursorMode(mode);
-    touch();
+    update();
 }
 
 void WidgetGraphBase::setGraphMode(eGraphMode mode)
@@ -164,13 +168,13 @@ void WidgetGraphBase::setMarker(double marker1, double marker2)
 {
     mModel.setMarker(marker1, marker2);
     mPointer.markersOn = true;
-    touch();
+    update();
 }
 
 void WidgetGraphBase::addTopMarker(unsigned int i, double time)
 {
     mModel.addTopMarker(i, time);
-    touch();
+    update();
 }
 
 // --- look
@@ -208,7 +212,7 @@ void WidgetGraphBase::activateGrid(bool on)
 void WidgetGraphBase::activateCursor(bool on)
 {
     mLook.cursorOn = on;
-    touch();
+    update();
 }
 
 void WidgetGraphBase::activateLegend(bool on)
@@ -221,37 +225,38 @@ void WidgetGraphBase::activateLegend(bool on)
 
 void WidgetGraphBase::setAutoScaleY(bool on)
 {
-    mModel.setAutoScaleY(on);
+    mModel.changeScaling().setAutoScale(on);
     touch();
 }
 
 void WidgetGraphBase::setAutoScaleYSpread(double spread)
 {
-    mModel.setAutoScaleYSpread(spread);
+    mModel.changeScaling().setSpread(spread);
     touch();
 }
 
 void WidgetGraphBase::setYRangeOn(bool on)
 {
-    mModel.setYRangeOn(on);
+    mModel.changeScaling().setRangeOn(on);
     touch();
 }
 
 void WidgetGraphBase::setYRange(double ymin, double ymax)
 {
-    mModel.setYRange(ymin, ymax);
+    mModel.changeScaling().setYmin(ymin);
+    mModel.changeScaling().setYmax(ymax);
     touch();
 }
 
 void WidgetGraphBase::setYmin(float ymin)
 {
-    mModel.setYmin(static_cast<double>(ymin));
+    mModel.changeScaling().setYmin(static_cast<double>(ymin));
     touch();
 }
 
 void WidgetGraphBase::setYmax(float ymax)
 {
-    mModel.setYmax(static_cast<double>(ymax));
+    mModel.changeScaling().setYmax(static_cast<double>(ymax));
     touch();
 }
 
@@ -282,21 +287,21 @@ void WidgetGraphBase::setT0(float t0)
 void WidgetGraphBase::setXrange(float width)
 {
     mModel.setXrange(static_cast<double>(width));
-    mRecalcTimer.start(VELIX::GraphModel::kRecalcIntervalMs);
+    mRecalcTimer.start(VELIX::GraphRecalc::kIntervalMs);
     touch();
 }
 
 void WidgetGraphBase::zoomToMarker()
 {
     mModel.zoomToMarker();
-    mRecalcTimer.start(VELIX::GraphModel::kRecalcIntervalMs);
+    mRecalcTimer.start(VELIX::GraphRecalc::kIntervalMs);
     touch();
 }
 
 void WidgetGraphBase::startRecalc()
 {
     mModel.startRecalc();
-    mRecalcTimer.start(VELIX::GraphModel::kRecalcIntervalMs);
+    mRecalcTimer.start(VELIX::GraphRecalc::kIntervalMs);
 }
 
 // --- timers
@@ -316,7 +321,7 @@ void WidgetGraphBase::slotTimeout()
 void WidgetGraphBase::slotTimeoutRecalc()
 {
     if (mModel.stepRecalc()) {
-        mRecalcTimer.start(VELIX::GraphModel::kRecalcIntervalMs);
+        mRecalcTimer.start(VELIX::GraphRecalc::kIntervalMs);
     }
     touch();
 }
@@ -337,13 +342,15 @@ const VELIX::GraphLayout& WidgetGraphBase::layoutOfParts()
 
 void WidgetGraphBase::updateScene()
 {
-    if (!mSceneStale && mSceneRevision == mModel.revision() && mSceneSize == size()) {
+    if (!mSceneStale && mSceneRevision == mModel.plotRevision() && mSceneSize == size()) {
         return;
     }
+    mModel.calcFrame(); // the ticks depend on the scales
     mScene = VELIX::GraphScene::make(mModel, mLook, size(), font());
-    mSceneRevision = mModel.revision();
+    mSceneRevision = mModel.plotRevision();
     mSceneSize = size();
     mSceneStale = false;
+    mPlotStale = true;
 }
 
 void WidgetGraphBase::adoptPlotWidth()
@@ -356,6 +363,7 @@ void WidgetGraphBase::adoptPlotWidth()
     }
     mModel.setPlotWidth(width);
     mModel.recalcFrameBuffer();
+    mPlotStale = true;
     startRecalc();
 }
 

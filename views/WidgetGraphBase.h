@@ -3,6 +3,7 @@
 #include "views/GraphCurve.h"
 #include "views/GraphLook.h"
 #include "views/GraphModel.h"
+#include "views/GraphPlotBuffer.h"
 #include "views/GraphPointer.h"
 #include "views/GraphScene.h"
 
@@ -31,6 +32,7 @@ public:
     using FrameType = VELIX::GraphTrace::FrameType;
 
     explicit WidgetGraphBase(QWidget* parent = nullptr);
+    ~WidgetGraphBase() override;
 
     /// State, samples and rules; for whoever only reads them.
     [[nodiscard]] const VELIX::GraphModel& model() const { return mModel; }
@@ -91,7 +93,7 @@ public:
     void setAutoScaleY(bool on);
     void setAutoScaleYSpread(double spread);
     void setYRangeOn(bool on);
-    [[nodiscard]] bool getYRangeOn() const { return mModel.getYRangeOn(); }
+    [[nodiscard]] bool getYRangeOn() const { return mModel.scaling().rangeOn(); }
     void setYRange(double ymin, double ymax);
     void setYmin(float ymin);
     void setYmax(float ymax);
@@ -168,11 +170,12 @@ private:
     void updateScene();
     void adoptPlotWidth();
 
+    void drawPlot(const QSize& pixels);
     void drawGround(const QSize& pixels);
-    void drawAllLines(const QSize& pixels);
+    void releasePlot();
     void drawGrid();
     void drawTraces();
-    void drawOverlayLines();
+    void drawOverlayLines(const QSize& pixels);
     void drawCursorValue();
     void drawTexts(const QSize& pixels);
     void scissor(const QRect& area) const;
@@ -184,7 +187,6 @@ private:
     void pressOutside(const QPoint& point);
     void moveMarker(const QPoint& point);
     void placeCursor(const QPoint& point);
-    void setCursorInPlace(double time, double value);
     void moveTrace(int from, int to);
     void pan(const QPoint& point);
     void finishDrag(const QPoint& point);
@@ -198,6 +200,8 @@ private:
     VELIX::GraphLook mLook;
     VELIX::GraphPointer mPointer;
     VELIX::GraphScene mScene;
+    VELIX::GraphPlotBuffer mPlot;
+    bool mPlotStale = true;   ///< the picture that mPlot keeps is out of date
     VELIX::GraphCurve mCurve; ///< kept for its memory
     std::vector<VELIX::GraphVertex> mLines;
 

@@ -1,7 +1,7 @@
+// What the graph does with the mouse.
 #include "views/WidgetGraphBase.h"
 
 #include <QHelpEvent>
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -13,9 +13,6 @@ using VELIX::GraphLayout;
 
 namespace {
 
-constexpr double kFineStep = 1.0;    ///< pixels
-constexpr double kCoarseStep = 10.0; ///< pixels, with Shift
-constexpr int kCursorActiveMs = 5000;
 constexpr int kWheelStep = 120; ///< eighths of a degree
 
 /// The nearest whole pixel, halves upwards.
@@ -23,20 +20,6 @@ QPoint pixelAt(const QPointF& position)
 {
     return {static_cast<int>(std::floor(position.x() + 0.5)),
             static_cast<int>(std::floor(position.y() + 0.5))};
-}
-
-Qt::KeyboardModifier modifierOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Shift:
-        return Qt::ShiftModifier;
-    case Qt::Key_Control:
-        return Qt::ControlModifier;
-    case Qt::Key_Alt:
-        return Qt::AltModifier;
-    default:
-        return Qt::NoModifier;
-    }
 }
 
 } // namespace
@@ -172,19 +155,10 @@ void WidgetGraphBase::placeCursor(const QPoint& point)
     const VELIX::GraphYScale& scale = mModel.scaleOf(mModel.selectedTrace());
     const QRect band = place >= 0 ? parts.band(place) : plot;
     const double value = GraphLayout::valueAt(inside.y(), band, scale.minimum, scale.maximum);
-    setCursorInPlace(time, value);
+    mModel.setCursorInPlace(time); // a range that followed would move away under the mouse
+    mModel.setCursorValue(value);
     update();
     emit signalCursor(static_cast<float>(mModel.cursorTime()), mModel.cursorValue());
-}
-
-void WidgetGraphBase::setCursorInPlace(double time, double value)
-{
-    // A range that followed would move away under the mouse.
-    const eCursorMode mode = mModel.cursorMode();
-    mModel.setCursorMode(eCursorMode::CursorFloating);
-    mModel.setCursorPosition(time);
-    mModel.setCursorMode(mode);
-    mModel.setCursorValue(value);
 }
 
 void WidgetGraphBase::pan(const QPoint& point)
@@ -229,7 +203,7 @@ void WidgetGraphBase::finishDrag(const QPoint& point)
     case Drag::Pan:
         mModel.recalcFrameBuffer();
         mModel.startRecalcTimer();
-        mRecalcTimer.start(VELIX::GraphModel::kRecalcIntervalMs);
+        mRecalcTimer.start(VELIX::GraphRecalc::kIntervalMs);
         emit signalRangeChanged();
         break;
     case Drag::Handle:
@@ -338,81 +312,4 @@ bool WidgetGraphBase::event(QEvent* event)
         event->ignore();
     }
     return true;
-}
-
-// --- keyboard
-
-void WidgetGraphBase::keyPressEvent(QKeyEvent* event)
-{
-    mHeldKeys |= modifierOf(event->key());
-    const Qt::KeyboardModifiers held = event->modifiers();
-    // With these the arrow keys belong to the window.
-    if (held & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) {
-        QOpenGLWidget::keyPressEvent(event);
-        return;
-    }
-    const double step = held.testFlag(Qt::ShiftModifier) ? kCoarseStep : kFineStep;
-    switch (event->key()) {
-    case Qt::Key_Left:
-        moveCursorBy(-step, 0.0);
-        break;
-    case Qt::Key_Right:
-        moveCursorBy(step, 0.0);
-        break;
-    case Qt::Key_Up:
-        moveCursorBy(0.0, step);
-        break;
-    case Qt::Key_Down:
-        moveCursorBy(0.0, -step);
-        break;
-    default:
-        QOpenGLWidget::keyPressEvent(event);
-    }
-}
-
-void WidgetGraphBase::moveCursorBy(double pixelsX, double pixelsY)
-{
-    const GraphLayout& parts = layoutOfParts();
-    if (parts.empty()) {
-        return;
-    }
-    double value = mModel.cursorValue();
-    if (pixelsY != 0.0) {
-        const VELIX::GraphYScale& old = mModel.scaleOf(mModel.selectedTrace());
-        const double y =
-            GraphLayout::yOf(value, selectedBand(), old.minimum, old.maximum) - pixelsY;
-        const int place = parts.bandAt(static_cast<int>(
-            std::floor(std::clamp(y, 1.0 * parts.plot().top(), 1.0 * parts.plot().bottom()))));
-        if (place >= 0) {
-            mModel.setSelectedTrace(mScene.shown[static_cast<std::size_t>(place)]);
-        }
-        const VELIX::GraphYScale& scale = mModel.scaleOf(mModel.selectedTrace());
-        value = GraphLayout::valueAt(y, selectedBand(), scale.minimum, scale.maximum);
-    }
-    const double secondsPerPixel = (mModel.xmax() - mModel.xmin()) / parts.plot().width();
-    mModel.setCursorPosition(mModel.cursorTime() + pixelsX * secondsPerPixel);
-    mModel.setCursorValue(value);
-    mPointer.cursorActive = true;
-    mCursorTimer.start(kCursorActiveMs);
-    update();
-    emit signalCursor(static_cast<float>(mModel.cursorTime()), mModel.cursorValue());
-}
-
-void WidgetGraphBase::keyReleaseEvent(QKeyEvent* event)
-{
-    mHeldKeys &= ~Qt::KeyboardModifiers(modifierOf(event->key()));
-    QOpenGLWidget::keyReleaseEvent(event);
-}
-
-void WidgetGraphBase::focusInEvent(QFocusEvent* event)
-{
-    mPointer.focused = true;
-    QOpenGLWidget::focusInEvent(event); // updates
-}
-
-void WidgetGraphBase::focusOutEvent(QFocusEvent* event)
-{
-    mPointer.focused = false;
-    mHeldKeys = Qt::NoModifier; // their release goes elsewhere
-    QOpenGLWidget::focusOutEvent(event);
 }

@@ -35,7 +35,21 @@ QColor colourOf(const VELIX::GraphModel::ParStruct& parameter)
 
 } // namespace
 
-void WidgetGraphBase::initializeGL() {}
+void WidgetGraphBase::initializeGL()
+{
+    // A widget that moves to another window gets a new context.
+    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &WidgetGraphBase::releasePlot);
+}
+
+void WidgetGraphBase::releasePlot()
+{
+    mPlotStale = true;
+    if (context() != nullptr) {
+        makeCurrent();
+        mPlot.release();
+        doneCurrent();
+    }
+}
 
 void WidgetGraphBase::resizeGL(int width, int height)
 {
@@ -48,29 +62,41 @@ void WidgetGraphBase::resizeGL(int width, int height)
 void WidgetGraphBase::paintGL()
 {
     ++mPaintCount;
-    mModel.calcFrame();
     updateScene();
     adoptPlotWidth();
     const QSize pixels(qRound(width() * devicePixelRatioF()),
                        qRound(height() * devicePixelRatioF()));
-    drawGround(pixels);
-    if (!mScene.layout.empty()) {
-        if (VELIX::GraphTexts::hint(mModel).isEmpty()) {
-            drawAllLines(pixels);
+    const bool lines = !mScene.layout.empty() && VELIX::GraphTexts::hint(mModel).isEmpty();
+    if (!lines) {
+        drawGround(pixels);
+    } else if (!VELIX::GraphPlotBuffer::isSupported()) {
+        drawPlot(pixels);
+    } else {
+        if (mPlotStale || !mPlot.holds(pixels)) {
+            mPlotStale = !mPlot.begin(pixels);
+            drawPlot(pixels);
         }
+        if (!mPlotStale) {
+            mPlot.copyTo(defaultFramebufferObject());
+        }
+    }
+    if (lines) {
+        drawOverlayLines(pixels);
+    }
+    if (!mScene.layout.empty()) {
         drawTexts(pixels);
     }
     mPaintedRevision = mModel.revision();
     mSinceRepaint.restart();
 }
 
-void WidgetGraphBase::drawAllLines(const QSize& pixels)
+void WidgetGraphBase::drawPlot(const QSize& pixels)
 {
+    drawGround(pixels);
     context()->functions()->glEnable(GL_SCISSOR_TEST);
     beginDrawing(pixels);
     drawGrid();
     drawTraces();
-    drawOverlayLines();
     endDrawing();
     context()->functions()->glDisable(GL_SCISSOR_TEST);
 }
@@ -170,10 +196,12 @@ void WidgetGraphBase::drawTraces()
     }
 }
 
-void WidgetGraphBase::drawOverlayLines()
+void WidgetGraphBase::drawOverlayLines(const QSize& pixels)
 {
     const QRect plot = mScene.layout.plot();
+    context()->functions()->glEnable(GL_SCISSOR_TEST);
     scissor(plot);
+    beginDrawing(pixels);
     const auto xOf = [this](double time) {
         return mScene.layout.xOf(time, mModel.xmin(), mModel.xmax());
     };
@@ -195,6 +223,8 @@ void WidgetGraphBase::drawOverlayLines()
                   static_cast<float>(pixelOf(mPointer.cursorActive ? 2.0 : 1.0)));
         drawCursorValue();
     }
+    endDrawing();
+    context()->functions()->glDisable(GL_SCISSOR_TEST);
 }
 
 void WidgetGraphBase::drawCursorValue()

@@ -43,7 +43,7 @@ public:
     /// Waits for the recomputations that follow a change of size or range.
     void settle()
     {
-        while (graph.model().recalcRunning()) {
+        while (graph.model().recalc().running()) {
             QTest::qWait(20);
         }
         QTest::qWait(60);

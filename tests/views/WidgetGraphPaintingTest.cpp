@@ -160,7 +160,7 @@ TYPED_TEST(WidgetGraphPainting, OneChangeGivesFourRecomputations)
     fixture.graph.startRecalc();
     fixture.settle();
     EXPECT_EQ(fixture.graph.paintCount(), before + 4);
-    EXPECT_EQ(fixture.graph.model().recalcCountdown(), -1);
+    EXPECT_EQ(fixture.graph.model().recalc().countdown(), -1);
 }
 
 TYPED_TEST(WidgetGraphPainting, AnySizeIsSafe)
