@@ -4,13 +4,13 @@
 #include "core/Diagnostics.h"
 #include "core/Progress.h"
 #include "core/Property.h"
-#include "export/DialogExportCsv.h"
 #include "gui/ApplicationControl.h"
 #include "gui/DialogAbout.h"
 #include "gui/DialogCard.h"
 #include "gui/DialogProfile.h"
 #include "gui/DialogProfileInfo.h"
 #include "gui/DialogStatusBar.h"
+#include "gui/ExportController.h"
 #include "gui/ImageHandler.h"
 #include "gui/MainActions.h"
 #include "gui/QwtComboBox.h"
@@ -50,7 +50,6 @@ DialogMain::DialogMain(AppContext& context) : DialogMain(context, StandardDialog
 DialogMain::DialogMain(AppContext& context, DialogService& dialogs)
     : mContext(context),
       mDialogs(dialogs),
-      mExportCsv(context.profile),
       mProfileSettings(context.settings, context.paths),
       mProjects(context.project, context.settings, dialogs, this)
 {
@@ -122,7 +121,7 @@ void DialogMain::createPanes()
 
 void DialogMain::createDialogs()
 {
-    mDialogExportCsv = new DialogExportCsv(mContext.settings, mDialogs, this);
+    mExports = new ExportController(mContext, mDialogs, this);
     mDialogAbout = new DialogAbout(this);
     mDialogProfileInfo = new DialogProfileInfo(mContext.profile, mProfileSettings, mDialogs, this);
     connect(mDialogProfileInfo, &DialogProfileInfo::signalProfileChanged, this,
@@ -210,6 +209,7 @@ void DialogMain::createStatusBar()
     mStatusBar = new DialogStatusBar(this);
     setStatusBar(mStatusBar);
     connect(mDialogData, &DialogData::signalNotice, mStatusBar, &DialogStatusBar::showNotice);
+    connect(mExports, &ExportController::signalNotice, mStatusBar, &DialogStatusBar::showNotice);
     Progress::setHook([this](int percent) { setProgress(percent); });
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "export/ExportCsv.h"
 #include "gui/AppContext.h"
 #include "gui/ProfileSettings.h"
 #include "gui/ProjectController.h"
@@ -20,11 +19,11 @@ namespace VELIX {
 class DialogAbout;
 class DialogCard;
 class DialogData;
-class DialogExportCsv;
 class DialogProfile;
 class DialogProfileInfo;
 class DialogService;
 class DialogStatusBar;
+class ExportController;
 class MainActions;
 class QwtComboBox;
 
@@ -72,7 +71,6 @@ private:
     void startTimers();
 
     void openCard();
-    void exportCsv();
     void reloadCard();
     bool loadRecords(const QString& path);
     void showLoaded();
@@ -98,7 +96,6 @@ private:
     AppContext mContext;
     Loaded mLoaded;
     DialogService& mDialogs;
-    ExportCsv mExportCsv;
     ProfileSettings mProfileSettings;
     ProjectController mProjects;
     QTimer mTimerStyle;
@@ -109,7 +106,7 @@ private:
     DialogCard* mDialogCard = nullptr;
     DialogProfile* mDialogProfile = nullptr;
     DialogData* mDialogData = nullptr;
-    DialogExportCsv* mDialogExportCsv = nullptr;
+    ExportController* mExports = nullptr;
     DialogProfileInfo* mDialogProfileInfo = nullptr;
     DialogAbout* mDialogAbout = nullptr;
     DialogStatusBar* mStatusBar = nullptr;

@@ -3,7 +3,6 @@
 #include "card/CardContainer.h"
 #include "core/Diagnostics.h"
 #include "core/Property.h"
-#include "export/DialogExportCsv.h"
 #include "gui/DialogAbout.h"
 #include "gui/DialogCard.h"
 #include "gui/DialogMain.h"
@@ -11,6 +10,7 @@
 #include "gui/DialogProfileInfo.h"
 #include "gui/DialogService.h"
 #include "gui/DialogStatusBar.h"
+#include "gui/ExportController.h"
 #include "gui/LoadSummary.h"
 #include "gui/MainActions.h"
 #include "gui/Project.h"
@@ -20,7 +20,6 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QDir>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -88,7 +87,7 @@ void DialogMain::slotMenu(QAction* action)
         present(*mDialogProfileInfo);
         break;
     case eActionExportCsv:
-        exportCsv();
+        mExports->exportCsv();
         break;
     default:
         break;
@@ -153,27 +152,6 @@ void DialogMain::reloadCard()
         mStatusBar->showNotice(
             tr("The folder %1 cannot be opened. Is the card in its reader?").arg(path));
     }
-}
-
-void DialogMain::exportCsv()
-{
-    CsvExportOptions options;
-    if (!mDialogExportCsv->getOptions(options)) {
-        return;
-    }
-    int written = 0;
-    {
-        const WaitCursor wait;
-        written = mExportCsv.exportData(mContext.card.recordData(), options);
-    }
-    if (written == 0) {
-        mStatusBar->showNotice(mExportCsv.lastError());
-        mDialogs.critical(this, tr("VELIX Viewer Warning"), tr("Exporting CSV file failed !"));
-        return;
-    }
-    const QDir folder(QString::fromStdString(options.directory));
-    mStatusBar->showNotice(
-        tr("Written to %1").arg(folder.absoluteFilePath(QString::fromStdString(options.fileName))));
 }
 
 void DialogMain::slotLoadRecord(const std::list<QString>& files)
