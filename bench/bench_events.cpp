@@ -1,5 +1,6 @@
 // Finding and listing the events of a record with 1,000,000 samples.
 
+#include "bench/WidgetBench.h"
 #include "card/LimitFinder.h"
 #include "card/WarningFinder.h"
 #include "gui/StandardDialogs.h"
@@ -7,10 +8,6 @@
 #include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
 #include "views/DialogDataLimit.h"
-
-#include <QApplication>
-
-#include <benchmark/benchmark.h>
 
 #include <cmath>
 #include <cstdio>
@@ -116,9 +113,5 @@ BENCHMARK(followCursor)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runOffscreenBenchmarks(argc, argv);
 }

@@ -1,14 +1,11 @@
 // Fault matrices with an hour of error words: what the cursor costs, and how much memory it takes.
 
+#include "bench/WidgetBench.h"
 #include "profile/Profile.h"
 #include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
 #include "views/DialogDataErrorMatrix.h"
 #include "views/FaultTimeline.h"
-
-#include <QApplication>
-
-#include <benchmark/benchmark.h>
 
 #include <atomic>
 #include <cstdio>
@@ -152,9 +149,5 @@ BENCHMARK(makeTimeline)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runOffscreenBenchmarks(argc, argv);
 }
