@@ -15,4 +15,6 @@ if(TARGET velix)
         endif()
     endforeach()
     install(FILES ${PROJECT_SOURCE_DIR}/packaging/velix.desktop DESTINATION share/applications)
+    install(FILES ${PROJECT_SOURCE_DIR}/resources/icons/velix.svg
+        DESTINATION share/icons/hicolor/scalable/apps)
 endif()
