@@ -25,6 +25,12 @@ struct AppContext
     ApplicationControl& control;
     QString styleFile;    ///< given with "-s", re-read while the program runs; else empty
     bool emuOnly = false; ///< "-emu": only the data window is shown
+
+    /// The style file given, else the built-in one.
+    QString styleInForce() const
+    {
+        return styleFile.isEmpty() ? QStringLiteral(":/styles/style.VELIX.css") : styleFile;
+    }
 };
 
 } // namespace VELIX

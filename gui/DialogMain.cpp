@@ -5,15 +5,19 @@
 #include "core/Progress.h"
 #include "core/Property.h"
 #include "gui/ApplicationControl.h"
+#include "gui/CardLoader.h"
 #include "gui/DialogAbout.h"
 #include "gui/DialogCard.h"
+#include "gui/DialogPreferences.h"
 #include "gui/DialogProfile.h"
 #include "gui/DialogProfileInfo.h"
 #include "gui/DialogStatusBar.h"
 #include "gui/ExportController.h"
 #include "gui/ImageHandler.h"
 #include "gui/MainActions.h"
-#include "gui/QwtComboBox.h"
+#include "gui/MainToolBar.h"
+#include "gui/PrintController.h"
+#include "gui/RecentMenu.h"
 #include "gui/StandardDialogs.h"
 #include "profile/Profile.h"
 #include "views/DialogData.h"
@@ -21,11 +25,10 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QCloseEvent>
-#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QSplitter>
-#include <QToolBar>
 #include <QVBoxLayout>
 
 namespace VELIX {
@@ -40,8 +43,6 @@ constexpr int kHeight = 800;
 constexpr int kLeftPaneMinimum = 310; ///< a cycle's line fits
 constexpr int kLeftPaneMaximum = 330; ///< the data has the space
 constexpr int kGap = 8;
-constexpr int kToolIconSize = 24;
-const QString kBuiltInStyle = QStringLiteral(":/styles/style.VELIX.css");
 
 } // namespace
 
@@ -66,10 +67,10 @@ DialogMain::DialogMain(AppContext& context, DialogService& dialogs)
     resize(kWidth, kHeight);
     updateEnabled();
     mLeftPane->setHidden(mContext.emuOnly);
+    acceptDrops();
 
     // The font size of the settings holds from the first picture on.
-    mContext.control.loadStyleFile(mContext.styleFile.isEmpty() ? kBuiltInStyle
-                                                                : mContext.styleFile);
+    mContext.control.loadStyleFile(mContext.styleInForce());
     loadProfile();
     updateTitle();
     show();
@@ -122,7 +123,11 @@ void DialogMain::createPanes()
 void DialogMain::createDialogs()
 {
     mExports = new ExportController(mContext, mDialogs, this);
+    mPrints = new PrintController(mContext.settings, mDialogs, this);
     mDialogAbout = new DialogAbout(this);
+    mDialogPreferences = new DialogPreferences(mContext, mProfileSettings, mDialogs, this);
+    connect(mDialogPreferences, &DialogPreferences::signalProfileFileChanged, this,
+            &DialogMain::slotProfileFileChanged);
     mDialogProfileInfo = new DialogProfileInfo(mContext.profile, mProfileSettings, mDialogs, this);
     connect(mDialogProfileInfo, &DialogProfileInfo::signalProfileChanged, this,
             &DialogMain::slotProfileFileChanged);
@@ -139,6 +144,7 @@ void DialogMain::createActions()
     connect(mActions->recentGroup(), &QActionGroup::triggered, this, &DialogMain::slotMenuRecent);
     connect(mDialogCard, &DialogCard::signalOpenCard, mActions->action(eActionOpenCard),
             &QAction::trigger);
+    connect(mDialogData, &DialogData::signalPageChanged, this, &DialogMain::slotCanChanged);
     addAction(mActions->action(eActionQuit)); // its key works without a menu, too
 }
 
@@ -156,52 +162,35 @@ void DialogMain::createMenu()
         }
         return menu;
     };
-    addMenu(tr("&File"), MainActions::Menu::File);
+    createRecentMenus(addMenu(tr("&File"), MainActions::Menu::File));
     connect(addMenu(tr("&Extras"), MainActions::Menu::Extras), &QMenu::aboutToShow, this,
             &DialogMain::slotMenuPrefAbout);
     addMenu(tr("&Help"), MainActions::Menu::Help);
 }
 
+void DialogMain::createRecentMenus(QMenu* fileMenu)
+{
+    QActionGroup& group = *mActions->recentGroup();
+    mRecentCards = new RecentMenu(RecentMenu::Kind::Cards, mContext.settings, group, fileMenu);
+    mRecentProjects =
+        new RecentMenu(RecentMenu::Kind::Projects, mContext.settings, group, fileMenu);
+    connect(mRecentCards, &RecentMenu::signalChosen, this,
+            qOverload<const QString&>(&DialogMain::openCard));
+    connect(mRecentProjects, &RecentMenu::signalChosen, this, &DialogMain::openProject);
+
+    const QList<QAction*> entries = fileMenu->actions();
+    QAction* next = entries.value(entries.indexOf(mActions->action(eActionOpenCard)) + 1);
+    fileMenu->insertMenu(next, mRecentCards);
+    fileMenu->insertMenu(next, mRecentProjects);
+}
+
 void DialogMain::createToolbar()
 {
-    mToolBar = addToolBar(tr("Main Toolbar"));
-    mToolBar->setMovable(false);
-    mToolBar->setIconSize({kToolIconSize, kToolIconSize});
-    mToolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it could not be shown again
-    for (const int id : {eActionOpenCard, eActionExportCsv}) {
-        mToolBar->addAction(mActions->action(id));
-    }
-    mToolBar->addSeparator();
-    for (const int id :
-         {eActionNewProject, eActionOpenProject, eActionSaveProject, eActionSaveProjectAs}) {
-        mToolBar->addAction(mActions->action(id));
-    }
-    mToolBar->addSeparator();
-
-    const auto addSelector = [this](const QString& label) {
-        auto* box = new QwtComboBox(mToolBar);
-        box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-        auto* text = new QLabel(label, mToolBar);
-        text->setBuddy(box);
-        text->setContentsMargins(kGap, 0, kGap / 2, 0);
-        mToolBar->addWidget(text);
-        mToolBar->addWidget(box);
-        return box;
-    };
-    mVariantBox = addSelector(tr("Variant"));
-    mVariantBox->setObjectName(QStringLiteral("selectorVariant"));
-    mVariantBox->setToolTip(tr("Variant of the profile"));
-    mVariantBox->setPlaceholderText(tr("All variants"));
-    connect(mVariantBox, qOverload<const QString&>(&QwtComboBox::signalActivated), this,
+    mToolBar = new MainToolBar(*mActions, this);
+    addToolBar(mToolBar);
+    connect(mToolBar, &MainToolBar::signalVariant, this,
             qOverload<const QString&>(&DialogMain::slotProfileChanged));
-
-    mUnitBox = addSelector(tr("Units"));
-    mUnitBox->setObjectName(QStringLiteral("selectorUnit"));
-    mUnitBox->setToolTip(tr("Unit system of all values"));
-    mUnitBox->addItem(tr("Metric"), int{eUnitMetric});
-    mUnitBox->addItem(tr("Imperial"), int{eUnitImperial});
-    connect(mUnitBox, qOverload<int>(&QwtComboBox::signalActivated), this,
-            &DialogMain::slotUnitChanged);
+    connect(mToolBar, &MainToolBar::signalUnit, this, &DialogMain::slotUnitChanged);
 }
 
 void DialogMain::createStatusBar()
@@ -210,7 +199,18 @@ void DialogMain::createStatusBar()
     setStatusBar(mStatusBar);
     connect(mDialogData, &DialogData::signalNotice, mStatusBar, &DialogStatusBar::showNotice);
     connect(mExports, &ExportController::signalNotice, mStatusBar, &DialogStatusBar::showNotice);
+    connect(mPrints, &PrintController::signalNotice, mStatusBar, &DialogStatusBar::showNotice);
     Progress::setHook([this](int percent) { setProgress(percent); });
+    mLoader = new CardLoader(mContext.card, *mDialogCard, *mDialogData, *mStatusBar, this);
+}
+
+/// A drop reaches the window from every pane, since none of them wants it.
+void DialogMain::acceptDrops()
+{
+    setAcceptDrops(true);
+    for (QLineEdit* editor : findChildren<QLineEdit*>()) {
+        editor->setAcceptDrops(false); // it would take the path as text
+    }
 }
 
 void DialogMain::startTimers()

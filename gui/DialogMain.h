@@ -7,25 +7,28 @@
 #include <QMainWindow>
 #include <QTimer>
 
-#include <functional>
 #include <list>
 
 class QAction;
+class QMenu;
 class QSplitter;
-class QToolBar;
 
 namespace VELIX {
 
+class CardLoader;
 class DialogAbout;
 class DialogCard;
 class DialogData;
+class DialogPreferences;
 class DialogProfile;
 class DialogProfileInfo;
 class DialogService;
 class DialogStatusBar;
 class ExportController;
 class MainActions;
-class QwtComboBox;
+class MainToolBar;
+class PrintController;
+class RecentMenu;
 
 /// The program's main window: it owns all dialogs and the data window, and passes on between them
 /// what the user opens, selects and switches.
@@ -44,6 +47,8 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private slots:
     void slotMenu(QAction* action);
@@ -66,16 +71,20 @@ private:
     void createDialogs();
     void createActions();
     void createMenu();
+    void createRecentMenus(QMenu* fileMenu);
     void createToolbar();
     void createStatusBar();
+    void acceptDrops();
     void startTimers();
 
     void openCard();
+    void printPage(int id);
     void reloadCard();
+    void openCard(const QString& path);
+    void openProject(const QString& path);
     bool loadRecords(const QString& path);
-    void showLoaded();
-    void load(const QString& text, const std::function<QString()>& job);
     void finishProjectAction(bool done);
+    void finishSaving();
     void showSelection();
     void loadProfile();
     void fillProfiles();
@@ -86,18 +95,11 @@ private:
     void cleanup();
     QString setting(const char* key) const;
 
-    /// What the views show, and the folder of the card that it is from.
-    struct Loaded
-    {
-        QString text;
-        QString card;
-    };
-
     AppContext mContext;
-    Loaded mLoaded;
     DialogService& mDialogs;
     ProfileSettings mProfileSettings;
     ProjectController mProjects;
+    QString mProfileProblem; ///< why the profile in force is empty; empty if it is not
     QTimer mTimerStyle;
     QTimer mTimerStart;
 
@@ -108,12 +110,15 @@ private:
     DialogData* mDialogData = nullptr;
     ExportController* mExports = nullptr;
     DialogProfileInfo* mDialogProfileInfo = nullptr;
+    PrintController* mPrints = nullptr;
     DialogAbout* mDialogAbout = nullptr;
+    DialogPreferences* mDialogPreferences = nullptr;
     DialogStatusBar* mStatusBar = nullptr;
+    CardLoader* mLoader = nullptr;
     MainActions* mActions = nullptr;
-    QToolBar* mToolBar = nullptr;
-    QwtComboBox* mVariantBox = nullptr; ///< null without a tool bar, like the unit selector
-    QwtComboBox* mUnitBox = nullptr;
+    RecentMenu* mRecentCards = nullptr;
+    RecentMenu* mRecentProjects = nullptr;
+    MainToolBar* mToolBar = nullptr; ///< null where only the data window is shown
 };
 
 } // namespace VELIX

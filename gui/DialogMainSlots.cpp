@@ -3,24 +3,29 @@
 #include "card/CardContainer.h"
 #include "core/Diagnostics.h"
 #include "core/Property.h"
+#include "gui/CardLoader.h"
 #include "gui/DialogAbout.h"
-#include "gui/DialogCard.h"
 #include "gui/DialogMain.h"
+#include "gui/DialogPreferences.h"
 #include "gui/DialogProfile.h"
 #include "gui/DialogProfileInfo.h"
 #include "gui/DialogService.h"
 #include "gui/DialogStatusBar.h"
+#include "gui/DroppedPath.h"
 #include "gui/ExportController.h"
-#include "gui/LoadSummary.h"
 #include "gui/MainActions.h"
+#include "gui/MainToolBar.h"
+#include "gui/PrintController.h"
 #include "gui/Project.h"
-#include "gui/QwtComboBox.h"
+#include "gui/RecentMenu.h"
 #include "profile/Profile.h"
 #include "views/DialogData.h"
+#include "views/Printable.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QSignalBlocker>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QLocale>
 
 #include <algorithm>
 
@@ -30,15 +35,6 @@ namespace {
 
 constexpr const char* kLastPath = "LastPath";
 constexpr const char* kUnit = "Unit";
-
-/// The busy cursor while one exists.
-struct WaitCursor
-{
-    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
-    WaitCursor(const WaitCursor&) = delete;
-    WaitCursor& operator=(const WaitCursor&) = delete;
-};
 
 void present(QWidget& dialog)
 {
@@ -73,7 +69,7 @@ void DialogMain::slotMenu(QAction* action)
     case eActionSaveProject:
     case eActionSaveProjectAs:
         mProjects.saveProject(id == eActionSaveProjectAs);
-        mStatusBar->showNotice(mProjects.lastError());
+        finishSaving();
         break;
     case eActionQuit:
         cleanup();
@@ -86,6 +82,16 @@ void DialogMain::slotMenu(QAction* action)
     case eActionProfile:
         present(*mDialogProfileInfo);
         break;
+    case eActionPrint:
+    case eActionSavePdf:
+        printPage(id);
+        break;
+    case eActionPreferences:
+        present(*mDialogPreferences);
+        break;
+    case eActionExportKml:
+        mExports->exportKml();
+        break;
     case eActionExportCsv:
         mExports->exportCsv();
         break;
@@ -95,6 +101,7 @@ void DialogMain::slotMenu(QAction* action)
     updateEnabled();
 }
 
+// Each of the menus opens its entries itself, since it knows what they are.
 void DialogMain::slotMenuRecent(QAction* /*action*/) {}
 
 void DialogMain::slotMenuPrefAbout()
@@ -104,12 +111,27 @@ void DialogMain::slotMenuPrefAbout()
 
 void DialogMain::finishProjectAction(bool done)
 {
-    mStatusBar->showNotice(mProjects.lastError());
     if (done) {
         showSelection();
         updateProfiles();
         updateTitle();
     }
+    finishSaving();
+}
+
+/// Tells what went wrong, and lists a file of the user's own among the recent ones.
+void DialogMain::finishSaving()
+{
+    mStatusBar->showNotice(mProjects.lastError());
+    if (mRecentProjects != nullptr && !mProjects.isRunFile()) {
+        mRecentProjects->add(mProjects.file());
+    }
+}
+
+void DialogMain::openProject(const QString& path)
+{
+    finishProjectAction(mProjects.openFile(path));
+    updateEnabled();
 }
 
 void DialogMain::showSelection()
@@ -121,87 +143,85 @@ void DialogMain::showSelection()
 void DialogMain::openCard()
 {
     const QString path = mDialogs.folder(this, tr("Open SD Card"), setting(kLastPath));
-    if (path.isEmpty()) {
-        return;
+    if (!path.isEmpty()) {
+        openCard(path);
     }
+}
+
+void DialogMain::openCard(const QString& path)
+{
     if (!loadRecords(path)) {
-        mStatusBar->showNotice(tr("The folder %1 cannot be opened.").arg(path));
         return;
     }
-    mStatusBar->showNotice({});
-    showLoaded();
     mContext.settings.setString(kLastPath, path.toStdString());
     mContext.settings.writeXmlFile();
+    if (mRecentCards != nullptr) {
+        mRecentCards->add(path);
+    }
     updateTitle();
 }
 
 bool DialogMain::loadRecords(const QString& path)
 {
-    const WaitCursor wait;
-    const bool read = mContext.card.readContainer(path);
-    if (read) {
-        mDialogCard->reloadCardInfo();
-    }
-    return read;
+    return mLoader->openCard(path);
 }
 
 void DialogMain::reloadCard()
 {
     const QString path = setting(kLastPath);
-    if (!path.isEmpty() && !loadRecords(path)) {
-        mStatusBar->showNotice(
-            tr("The folder %1 cannot be opened. Is the card in its reader?").arg(path));
+    if (!path.isEmpty()) {
+        loadRecords(path);
+    }
+}
+
+void DialogMain::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (DroppedPath::of(event->mimeData()).kind != DroppedPath::Kind::Nothing) {
+        event->acceptProposedAction();
+    }
+}
+
+void DialogMain::dropEvent(QDropEvent* event)
+{
+    const DroppedPath dropped = DroppedPath::of(event->mimeData());
+    event->acceptProposedAction();
+    if (dropped.kind == DroppedPath::Kind::Card) {
+        openCard(dropped.path);
+    } else if (dropped.kind == DroppedPath::Kind::Project) {
+        openProject(dropped.path);
     }
 }
 
 void DialogMain::slotLoadRecord(const std::list<QString>& files)
 {
-    load(tr("Loading %1...").arg(LoadSummary::files(files.size())), [&] {
-        return mContext.card.loadFiles(files) != 0 ? LoadSummary::files(files.size()) : QString();
-    });
+    mLoader->loadFiles(files);
+    updateEnabled();
 }
 
 void DialogMain::slotLoadCycle(unsigned int cycle, int flight)
 {
-    CardContainer& card = mContext.card;
-    load(tr("Loading %1...").arg(LoadSummary::cycle(card, cycle, flight)), [&] {
-        return card.loadCycle(cycle, flight) != 0 ? LoadSummary::cycle(card, cycle, flight)
-                                                  : QString();
-    });
-}
-
-/// job: loads and names what is loaded then; empty if that failed.
-void DialogMain::load(const QString& text, const std::function<QString()>& job)
-{
-    const WaitCursor wait;
-    mStatusBar->beginWork(text);
-    setProgress(0);
-    const CardContainer& card = mContext.card;
-    const RecordData* before = &card.loadedData();
-    mDialogData->releaseRecord();
-    const QString name = job();
-    mDialogData->updateRecord();
-    setProgress(100);
-    mStatusBar->endWork();
-
-    // A load that the card refused leaves what was loaded before.
-    const bool replaced = &card.loadedData() != before;
-    if (!card.hasRecord()) {
-        mLoaded = {};
-    } else if (replaced && !name.isEmpty()) {
-        mLoaded = {LoadSummary::withCounts(name, card), card.name()};
-    }
-    showLoaded();
-    mStatusBar->showNotice(card.lastError());
+    mLoader->loadCycle(cycle, flight);
     updateEnabled();
 }
 
-/// Another card may have been opened since; then the views still show the one before.
-void DialogMain::showLoaded()
+void DialogMain::printPage(int id)
 {
-    const bool otherCard = !mLoaded.text.isEmpty() && mLoaded.card != mContext.card.name();
-    mStatusBar->showLoaded(otherCard ? tr("%1 of card %2").arg(mLoaded.text, mLoaded.card)
-                                     : mLoaded.text);
+    const Printable* page = mDialogData->printablePage();
+    if (page == nullptr || !page->printHindrance().isEmpty()) {
+        return;
+    }
+    const RecordData& record = mContext.card.recordData();
+    const QDateTime& date =
+        record.flight.dateTime.isValid() ? record.flight.dateTime : record.startDateTime;
+    //: Format of a date and time of day on paper
+    const QString format = tr("d MMMM yyyy, hh:mm 'UTC'");
+    const PrintHeader header{mLoader->loadedCard(), mLoader->loadedName(),
+                             QLocale().toString(date, format)};
+    if (id == eActionPrint) {
+        mPrints->print(*page, header);
+    } else {
+        mPrints->savePdf(*page, header);
+    }
 }
 
 void DialogMain::slotCanChanged()
@@ -240,7 +260,8 @@ void DialogMain::loadProfile()
 {
     Profile& profile = mContext.profile;
     mContext.project.rememberSelection();
-    profile.loadProfile(mProfileSettings.profileFile());
+    const QString file = mProfileSettings.profileFile();
+    const bool usable = profile.loadProfile(file) != 0;
     const QString variant = mProfileSettings.variant();
     // A variant of another profile would leave little of this one.
     const bool known = profile.variants().empty() || hasVariant(profile, variant);
@@ -249,25 +270,23 @@ void DialogMain::loadProfile()
     fillProfiles();
     mDialogProfile->updateList();
     mDialogData->loadProfile();
+    const bool broken = !usable && QFileInfo::exists(file);
+    mProfileProblem = broken ? tr("The profile %1 cannot be read.").arg(file) : QString();
+    mStatusBar->showNotice(mProfileProblem);
 }
 
 void DialogMain::fillProfiles()
 {
-    if (mVariantBox == nullptr) {
-        return;
+    if (mToolBar != nullptr) {
+        mToolBar->fillVariants(mContext.profile.variants());
+        updateProfiles();
     }
-    mVariantBox->clear();
-    for (const ProfileVariant& variant : mContext.profile.variants()) {
-        mVariantBox->addItem(variant.name, variant.name);
-    }
-    mVariantBox->setEnabled(mVariantBox->count() > 0);
-    updateProfiles();
 }
 
 void DialogMain::updateProfiles()
 {
-    if (mVariantBox != nullptr) {
-        mVariantBox->selectText(mProfileSettings.variant());
+    if (mToolBar != nullptr) {
+        mToolBar->selectVariant(mProfileSettings.variant());
     }
 }
 
@@ -283,8 +302,8 @@ void DialogMain::updateUnit()
     const EUnit unit =
         mContext.settings.getInt(kUnit, eUnitMetric) == eUnitImperial ? eUnitImperial : eUnitMetric;
     mContext.profile.setCurrentUnit(unit);
-    if (mUnitBox != nullptr) {
-        mUnitBox->selectData(unit);
+    if (mToolBar != nullptr) {
+        mToolBar->selectUnit(unit);
     }
     mDialogProfile->updateUnits();
     mDialogData->updateProfile();
@@ -301,6 +320,9 @@ void DialogMain::slotTimeout()
     if (!mProjects.readLast() && !mProjects.lastError().isEmpty()) {
         mStatusBar->showNotice(mProjects.lastError());
     }
+    if (mStatusBar->notice().isEmpty()) {
+        mStatusBar->showNotice(mProfileProblem); // a card that was opened has taken it away
+    }
     showSelection();
     updateProfiles();
     updateTitle();
@@ -309,9 +331,20 @@ void DialogMain::slotTimeout()
 
 void DialogMain::updateEnabled()
 {
-    mActions->setUnavailable(eActionExportCsv, mContext.card.hasRecord()
-                                                   ? QString()
-                                                   : tr("Load a cycle or a flight to export it"));
+    const Printable* page = mDialogData->printablePage();
+    const QString hindrance =
+        page == nullptr ? tr("This page cannot be printed. The graph, the event lists and the tow "
+                             "statistic can.")
+                        : page->printHindrance();
+    mActions->setUnavailable(eActionPrint, hindrance);
+    mActions->setUnavailable(eActionSavePdf, hindrance);
+    const QString nothingLoaded =
+        mContext.card.hasRecord() ? QString() : tr("Load a cycle or a flight to export it");
+    mActions->setUnavailable(eActionExportKml, nothingLoaded);
+    mActions->setUnavailable(eActionExportCsv, nothingLoaded);
+    mActions->setUnavailable(
+        eActionSaveProject,
+        mProjects.isModified() ? QString() : tr("Nothing has changed since the project was saved"));
 }
 
 } // namespace VELIX

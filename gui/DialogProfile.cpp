@@ -7,8 +7,10 @@
 #include "gui/WidgetHint.h"
 #include "profile/Profile.h"
 
+#include <QAction>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScopedValueRollback>
@@ -57,6 +59,7 @@ DialogProfile::DialogProfile(Profile& profile, QWidget* parent)
       mProfile(profile),
       mTree(new QTreeWidget(this)),
       mSearch(new QLineEdit(this)),
+      mCount(new QLabel(this)),
       mButtonClear(new QPushButton(tr("Clear"), this)),
       mButtonConfirm(new QPushButton(tr("Confirm Selection"), this)),
       mHint(new WidgetHint(tr("No profile installed. Parameters come from a profile file."), this)),
@@ -88,6 +91,14 @@ void DialogProfile::createTree()
     mTree->setObjectName(QStringLiteral("treeParameters"));
     mTree->setAccessibleName(tr("Selected Parameters"));
     CopyFilter::install(mTree);
+    mTree->setContextMenuPolicy(Qt::ActionsContextMenu); // by mouse and by key
+    const auto addEntry = [this](const QString& text, bool selected) {
+        auto* action = new QAction(text, mTree);
+        connect(action, &QAction::triggered, this, [this, selected] { selectShown(selected); });
+        mTree->addAction(action);
+    };
+    addEntry(tr("Select &All Shown"), true);
+    addEntry(tr("Select &None Shown"), false);
 }
 
 QWidget* DialogProfile::createPage()
@@ -98,6 +109,8 @@ QWidget* DialogProfile::createPage()
     mSearch->setAccessibleName(mSearch->placeholderText());
     mSearch->setClearButtonEnabled(true);
     mSearch->addAction(images.icon(QStringLiteral("search")), QLineEdit::LeadingPosition);
+    mCount->setObjectName(QStringLiteral("countParameters"));
+    mCount->setProperty("role", QStringLiteral("muted"));
     mButtonClear->setObjectName(QStringLiteral("buttonClear"));
     mButtonClear->setIcon(images.icon(QStringLiteral("clear")));
     mButtonClear->setToolTip(tr("Show no parameter at all"));
@@ -115,7 +128,11 @@ QWidget* DialogProfile::createPage()
     layout->setSpacing(kGap);
     layout->addWidget(mSearch);
     layout->addWidget(mTree, 1);
+    layout->addWidget(mCount);
     layout->addLayout(buttons);
+    setTabOrder(mSearch, mTree);
+    setTabOrder(mTree, mButtonClear);
+    setTabOrder(mButtonClear, mButtonConfirm);
     return page;
 }
 
@@ -149,6 +166,7 @@ void DialogProfile::updateProfile(QTreeWidget* tree, ProfileInfo& info)
         item->setExpanded(!closed.contains(item->data(0, kDeviceRole).toString()));
     }
     TreeColumn::fit(*tree);
+    updateCount();
 }
 
 void DialogProfile::addParameter(QTreeWidgetItem* device, ProfileParameter& parameter)
@@ -185,6 +203,41 @@ void DialogProfile::updateProject()
     forEachItem([](QTreeWidgetItem& item, const ProfileParameter& parameter) {
         item.setCheckState(0, checkState(parameter));
     });
+    updateCount();
+}
+
+void DialogProfile::updateCount()
+{
+    mSelected = 0;
+    mTotal = 0;
+    for (const ProfileDevice& device : mProfile.data().devices) {
+        for (const auto& [id, parameter] : device.parameters) {
+            mSelected += parameter.selected ? 1 : 0;
+            ++mTotal;
+        }
+    }
+    showCount();
+}
+
+void DialogProfile::showCount()
+{
+    mCount->setText(tr("%1 of %2 selected").arg(mSelected).arg(mTotal));
+}
+
+void DialogProfile::selectShown(bool selected)
+{
+    bool changed = false;
+    forEachItem([&](QTreeWidgetItem& item, ProfileParameter& parameter) {
+        if (!item.isHidden() && parameter.selected != selected) {
+            parameter.selected = selected;
+            item.setCheckState(0, checkState(parameter));
+            changed = true;
+        }
+    });
+    updateCount();
+    if (changed) {
+        startBlinking();
+    }
 }
 
 void DialogProfile::focusSearch()
@@ -199,7 +252,17 @@ void DialogProfile::slotItemChanged(QTreeWidgetItem* item, int column)
     if (parameter == nullptr) { // a device follows its parameters
         return;
     }
-    parameter->selected = item->checkState(0) == Qt::Checked;
+    const bool selected = item->checkState(0) == Qt::Checked;
+    if (selected != parameter->selected) {
+        parameter->selected = selected;
+        mSelected += selected ? 1 : -1;
+        showCount();
+    }
+    startBlinking();
+}
+
+void DialogProfile::startBlinking()
+{
     if (!mTimerBlink.isActive()) {
         mTimerBlink.start(kBlinkMs);
     }

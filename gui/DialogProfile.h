@@ -8,6 +8,7 @@
 
 #include <functional>
 
+class QLabel;
 class QLineEdit;
 class QPushButton;
 class QStackedWidget;
@@ -55,6 +56,10 @@ private slots:
 
 private:
     void createTree();
+    void selectShown(bool selected);
+    void startBlinking();
+    void updateCount();
+    void showCount();
     QWidget* createPage();
     void addParameter(QTreeWidgetItem* device, ProfileParameter& parameter);
     void forEachItem(const std::function<void(QTreeWidgetItem&, ProfileParameter&)>& function);
@@ -64,11 +69,14 @@ private:
     Profile& mProfile;
     QTreeWidget* mTree;
     QLineEdit* mSearch;
+    QLabel* mCount;
     QPushButton* mButtonClear;
     QPushButton* mButtonConfirm;
     WidgetHint* mHint;
     QStackedWidget* mPages;
     QTimer mTimerBlink;
+    int mSelected = 0;
+    int mTotal = 0;
     bool mHighlighted = false;
     bool mUpdating = false; ///< the panel itself changes the ticks
 };

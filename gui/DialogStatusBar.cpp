@@ -11,6 +11,7 @@ namespace {
 constexpr int kProgressWidth = 200;
 constexpr int kProgressHeight = 16;
 constexpr int kPercentDone = 100;
+constexpr int kRepaintMs = 250;
 
 } // namespace
 
@@ -39,6 +40,7 @@ void DialogStatusBar::beginWork(const QString& text)
     mProgress->show();
     layout()->activate();
     repaint();
+    mSincePainted.start();
 }
 
 void DialogStatusBar::endWork()
@@ -53,6 +55,10 @@ void DialogStatusBar::setProgress(int percent)
     mProgress->setValue(
         qBound(0, percent, kPercentDone)); // repaints itself when it grew by a pixel
     mProgress->setVisible(mWorking || percent < kPercentDone);
+    if (mWorking && mSincePainted.elapsed() > kRepaintMs) {
+        window()->repaint();
+        mSincePainted.restart();
+    }
 }
 
 void DialogStatusBar::showLoaded(const QString& text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QStatusBar>
 
 class QLabel;
@@ -17,7 +18,8 @@ public:
     explicit DialogStatusBar(QWidget* parent = nullptr);
 
     /// Shows a text and the progress bar until endWork(), drawing at once: the event loop stands
-    /// still meanwhile, so that nothing else can start.
+    /// still meanwhile, so that nothing else can start. Progress then repaints the whole window now
+    /// and again, since other windows may have wiped parts of it.
     void beginWork(const QString& text);
     void endWork();
     /// percent: 0 to 100, values beyond are cut. Without work begun, 100 hides the bar.
@@ -37,6 +39,7 @@ private:
     QLabel* mText;
     QProgressBar* mProgress;
     bool mWorking = false;
+    QElapsedTimer mSincePainted;
     QString mLoadedText;
     QString mNoticeText;
 };

@@ -53,6 +53,13 @@ void ProfileSettings::storeVariant(const QString& variant)
     mSettings.setString(kProfile, variant.toStdString());
 }
 
+void ProfileSettings::chooseFile(const QString& path)
+{
+    const QString absolute = path.isEmpty() ? QString() : QFileInfo(path).absoluteFilePath();
+    mSettings.setString(kProfile, path.toStdString());
+    mSettings.setString(kProfileFile, absolute.toStdString());
+}
+
 void ProfileSettings::forgetChosenFile()
 {
     if (namesChosenFile(QString::fromStdString(mSettings.getString(kProfile, {})))) {

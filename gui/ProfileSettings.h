@@ -25,6 +25,8 @@ public:
     QString variant() const;
 
     void storeVariant(const QString& variant);
+    /// The file is in force, with all its elements until a variant is chosen.
+    void chooseFile(const QString& path);
     /// The installed profile is in force again.
     void forgetChosenFile();
 

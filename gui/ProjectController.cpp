@@ -76,9 +76,21 @@ bool ProjectController::openProject()
     }
     const QString file = mDialogs.openFile(mParent, tr("Open VELIX Project"), lastPath(),
                                            tr("Project Files (*.xml)"));
-    if (file.isEmpty()) {
-        return false;
-    }
+    return !file.isEmpty() && read(file);
+}
+
+bool ProjectController::openFile(const QString& file)
+{
+    return askSaveProject() && read(file);
+}
+
+bool ProjectController::isRunFile() const
+{
+    return isSamePath(mFile, mRunFile);
+}
+
+bool ProjectController::read(const QString& file)
+{
     if (mProject.readProject(file.toStdString()) == 0) {
         mLastError = tr("%1 could not be read as a project.").arg(file);
         return false;

@@ -35,11 +35,14 @@ public:
     bool isModified() const { return mModified; }
     /// The file that saving writes.
     const QString& file() const { return mFile; }
+    /// Whether that is the run's own file and not one of the user's.
+    bool isRunFile() const;
 
     /// Each of these asks what it has to; false if the user cancelled or a file failed, and then
     /// nothing has changed.
     [[nodiscard]] bool newProject();
     [[nodiscard]] bool openProject();
+    [[nodiscard]] bool openFile(const QString& file);
     bool saveProject(bool saveAs);
 
     /// Keeps the state of the run for the next one, without asking.
@@ -50,6 +53,7 @@ public:
 
 private:
     bool askSaveProject();
+    bool read(const QString& file);
     bool askFileName(QString& file);
     void remember(const QString& file);
     QString lastPath() const;

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <list>
+
+namespace VELIX {
+
+class CardContainer;
+class DialogCard;
+class DialogData;
+class DialogStatusBar;
+
+/// Opens cards and loads from them, and tells in the status bar how far it is and what came of it.
+///
+/// The event loop stands still meanwhile; the status bar repaints the window.
+class CardLoader : public QObject
+{
+    Q_OBJECT
+
+public:
+    CardLoader(CardContainer& card, DialogCard& browser, DialogData& views, DialogStatusBar& bar,
+               QObject* parent = nullptr);
+
+    /// Lists the card in the browser; what is loaded stays. False if there is no such folder.
+    bool openCard(const QString& path);
+    void loadFiles(const std::list<QString>& files);
+    /// flight: -1 for the whole cycle.
+    void loadCycle(unsigned int cycle, int flight);
+
+    /// What is loaded, for example "Cycle 3, flight 2", and the folder of the card that it is from.
+    const QString& loadedName() const { return mLoaded.name; }
+    const QString& loadedCard() const { return mLoaded.card; }
+
+private:
+    void load(const QString& text, const std::function<QString()>& job);
+    void showLoaded();
+
+    /// What the views show.
+    struct Loaded
+    {
+        QString text; ///< the name with the numbers of samples and identifiers
+        QString card;
+        QString name;
+    };
+
+    CardContainer& mCard;
+    DialogCard& mBrowser;
+    DialogData& mViews;
+    DialogStatusBar& mStatusBar;
+    Loaded mLoaded;
+};
+
+} // namespace VELIX
