@@ -2,6 +2,7 @@
 
 #include "platform/tessel/Gl.h"
 #include "platform/tessel/SmoothLines.h"
+#include "platform/tessel/StripSizes.h"
 
 namespace Tessel::OpenGL {
 
@@ -45,7 +46,7 @@ void LineStripsSimple::render(LineProgram& program, const MatrixSet& matrices)
     if (program.begin(matrices, mColor)) {
         const SmoothLines smooth(mAntiAliasing);
         glLineWidth(mWidth);
-        fillSizes();
+        fillStripSizes(mStarts, size, mSizes);
         glMultiDrawArrays(GL_LINE_STRIP, mStarts.data(), mSizes.data(),
                           static_cast<GLsizei>(mStarts.size()));
         glPointSize(mWidth);
@@ -61,16 +62,6 @@ void LineStripsSimple::render(LineProgram& program, const MatrixSet& matrices)
         LineProgram::end();
     }
     VertexBuffer::unbind();
-}
-
-void LineStripsSimple::fillSizes()
-{
-    mSizes.clear();
-    for (std::size_t i = 0; i < mStarts.size(); ++i) {
-        const int end =
-            i + 1 < mStarts.size() ? mStarts[i + 1] : static_cast<int>(mVertices.size());
-        mSizes.push_back(end - mStarts[i]);
-    }
 }
 
 } // namespace Tessel::OpenGL

@@ -31,8 +31,6 @@ public:
     void release() { mVertices.release(); }
 
 private:
-    void fillSizes();
-
     VertexBuffer mVertices;
     std::vector<int> mStarts; ///< index of the first vertex of each strip
     std::vector<int> mSizes;  ///< its number of vertices; kept for its memory

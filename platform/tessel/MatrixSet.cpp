@@ -1,5 +1,7 @@
 #include "platform/tessel/MatrixSet.h"
 
+#include <cmath>
+
 namespace Tessel::OpenGL {
 
 namespace {
@@ -62,6 +64,17 @@ void MatrixSet::scale(double x, double y, double z)
     step[0] = x;
     step[5] = y;
     step[10] = z;
+    mModelView = multiply(mModelView, step);
+}
+
+void MatrixSet::rotate(double degrees)
+{
+    const double angle = degrees * std::acos(-1.0) / 180.0;
+    Matrix step = kIdentity;
+    step[0] = std::cos(angle);
+    step[1] = std::sin(angle);
+    step[4] = -step[1];
+    step[5] = step[0];
     mModelView = multiply(mModelView, step);
 }
 

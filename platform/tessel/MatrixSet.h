@@ -25,6 +25,8 @@ public:
     /// Applied to the vertices before what the model-view matrix did so far.
     void translate(double x, double y, double z = 0.0);
     void scale(double x, double y, double z = 1.0);
+    /// About the z axis, from x towards y.
+    void rotate(double degrees);
 
     /// Keeps the model-view matrix for pop(). Without a kept one pop() does nothing.
     void push() { mStack.push_back(mModelView); }

@@ -1,7 +1,13 @@
+#include "platform/tessel/GlHandler.h"
+#include "platform/tessel/LineStrips.h"
 #include "platform/tessel/LineStripsSimple.h"
 #include "platform/tessel/Lines.h"
 #include "platform/tessel/MatrixSet.h"
+#include "platform/tessel/Texture.h"
+#include "platform/tessel/TextureFont.h"
+#include "platform/tessel/TriangleStrip.h"
 
+#include <QFile>
 #include <QImage>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
@@ -32,12 +38,15 @@ protected:
         mContext.functions()->glViewport(0, 0, kSize, kSize);
         clear();
         ASSERT_TRUE(mMatrices.setOrtho(0.0, kSize, 0.0, kSize));
+        ASSERT_TRUE(mGl.matrices().setOrtho(0.0, kSize, 0.0, kSize));
     }
 
     void TearDown() override
     {
         mProgram.release();
+        mGl.release();
         mPicture.reset();
+        EXPECT_EQ(mContext.functions()->glGetError(), 0U);
         mContext.doneCurrent();
     }
 
@@ -67,6 +76,7 @@ protected:
     std::unique_ptr<QOpenGLFramebufferObject> mPicture;
     LineProgram mProgram;
     MatrixSet mMatrices;
+    GlHandler mGl;
 };
 
 TEST_F(OpenGlTest, AStripIsDrawnInItsColourFromVertexToVertex)
@@ -176,6 +186,118 @@ TEST_F(OpenGlTest, SmoothLinesHaveSoftEdgesAndLeaveNoTrace)
     lines.render(mProgram, mMatrices);
     EXPECT_GT(lit(), hard);
     EXPECT_FALSE(mContext.functions()->glIsEnabled(GL_BLEND));
+}
+
+TEST_F(OpenGlTest, APathTakesTheColourOfEachVertexOrOneForAll)
+{
+    LineStrips path;
+    path.setVertexColors(true);
+    path.setColor({1.0F, 0.0F, 0.0F, 1.0F});
+    path.addVertex(2.5F, 4.5F, 900.0F);
+    path.setColor({0.0F, 0.0F, 1.0F, 1.0F});
+    path.addVertex(29.5F, 4.5F, 100.0F);
+    path.beginStrip();
+    path.addVertex(2.5F, 20.5F, 0.0F);
+    path.addVertex(29.5F, 20.5F, 0.0F);
+    ASSERT_TRUE(mGl.matrices().setOrtho(0.0, kSize, 0.0, kSize, -1000.0, 1000.0));
+    path.render(mGl);
+    EXPECT_GT(at(4, 4).red(), 200);
+    EXPECT_GT(at(27, 4).blue(), 200);
+    EXPECT_EQ(lit(QRect(0, 6, kSize, 13)), 0) << "strips are not connected";
+
+    clear();
+    path.setVertexColors(false);
+    path.setColor({0.0F, 1.0F, 0.0F, 1.0F});
+    path.render(mGl);
+    EXPECT_EQ(at(4, 4), QColor(0, 255, 0));
+    EXPECT_EQ(at(27, 20), QColor(0, 255, 0));
+}
+
+TEST_F(OpenGlTest, ATranslucentAreaShowsWhatIsBehindIt)
+{
+    TriangleStrip area;
+    area.setColor({1.0F, 1.0F, 1.0F, 0.5F});
+    area.addVertex(0.0F, 0.0F);
+    area.addVertex(16.0F, 0.0F);
+    area.addVertex(0.0F, 16.0F);
+    area.addVertex(16.0F, 16.0F);
+    area.render(mGl);
+    EXPECT_NEAR(at(8, 8).red(), 128, 2);
+    EXPECT_EQ(at(8, 8).alpha(), 255) << "the target stays opaque";
+    EXPECT_EQ(lit(), 256);
+}
+
+TEST_F(OpenGlTest, ATextureIsDrawnUprightTintedTurnedAndInParts)
+{
+    ASSERT_TRUE(mGl.matrices().setOrtho(0.0, kSize, kSize, 0.0)); // y downwards
+    QImage image(2, 2, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    image.setPixelColor(0, 0, Qt::white);
+    Texture texture;
+    texture.setImage(image);
+    texture.setColor({1.0F, 0.5F, 0.0F, 1.0F});
+    texture.render(mGl, 8.0, 8.0, 16.0, 16.0);
+    const QColor upperLeft = at(9, kSize - 1 - 9);
+    EXPECT_EQ(upperLeft.red(), 255);
+    EXPECT_NEAR(upperLeft.green(), 128, 2);
+    EXPECT_EQ(at(22, kSize - 1 - 22), QColor(Qt::black)) << "transparent";
+
+    clear();
+    mGl.matrices().push();
+    mGl.matrices().translate(16.0, 16.0);
+    mGl.matrices().rotate(90.0); // from right to down
+    texture.render(mGl, -8.0, -8.0, 16.0, 16.0);
+    mGl.matrices().pop();
+    EXPECT_EQ(at(22, kSize - 1 - 9).red(), 255);
+    EXPECT_EQ(at(9, kSize - 1 - 9), QColor(Qt::black));
+
+    clear();
+    texture.renderPart(mGl, 0.0, 0.0, 4.0, 4.0, {0.0, 0.0, 0.25, 0.25});
+    EXPECT_EQ(lit(), 16);
+    texture.release();
+}
+
+TEST_F(OpenGlTest, TextIsWhatItsWidthSaysAndMissingCharactersAreStoodInFor)
+{
+    ASSERT_TRUE(mGl.matrices().setOrtho(0.0, kSize, kSize, 0.0));
+    QFile file(QStringLiteral("/usr/share/fonts/truetype/dejavu/DejaVuSansMono.ttf"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray data = file.readAll();
+    TextureFont font;
+    ASSERT_TRUE(font.load(data.constData(), static_cast<std::size_t>(data.size()), "mono", 10));
+    EXPECT_NEAR(font.width(QStringLiteral("MMMM")), 2.0 * font.width(QStringLiteral("ii")), 1.0);
+    font.setColor({0.0F, 1.0F, 0.0F, 1.0F});
+    font.render(mGl, 2.0, 2.0, QStringLiteral("II"));
+    const int width = static_cast<int>(font.width(QStringLiteral("II"))) + 1;
+    const int height = static_cast<int>(font.height()) + 1;
+    EXPECT_GT(lit(), 10);
+    EXPECT_EQ(lit(QRect(2, kSize - 2 - height, width, height)), lit()) << "all inside its box";
+
+    for (const QString& text : {QStringLiteral("\u00e4\u00f6"), QStringLiteral("\u6f22"),
+                                QString::fromUcs4(U"\U0001F6E9"), QStringLiteral("e\u0301")}) {
+        clear();
+        font.render(mGl, 2.0, 2.0, text);
+        EXPECT_GT(lit(), 3) << text.toStdString();
+    }
+    clear();
+    font.render(mGl, 2.0, 2.0, QString());
+    font.render(mGl, 2.0, 2.0, QStringLiteral(" "));
+    EXPECT_EQ(lit(), 0);
+    font.release();
+}
+
+TEST_F(OpenGlTest, AnAtlasThatIsFullStartsAnew)
+{
+    ASSERT_TRUE(mGl.matrices().setOrtho(0.0, kSize, kSize, 0.0));
+    TextureFont font;
+    EXPECT_FALSE(font.load("no font", 7, "none", 200));
+    for (char32_t c = U'!'; c < U'\u0250'; ++c) {
+        font.render(mGl, 0.0, 0.0, QString::fromUcs4(&c, 1));
+    }
+    clear();
+    font.render(mGl, 0.0, -60.0, QStringLiteral("M"));
+    EXPECT_GT(lit(), 20);
+    font.release();
 }
 
 } // namespace

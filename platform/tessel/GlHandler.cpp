@@ -1,0 +1,12 @@
+#include "platform/tessel/GlHandler.h"
+
+namespace Tessel::OpenGL {
+
+void GlHandler::release()
+{
+    mLines.release();
+    mColors.release();
+    mTextures.release();
+}
+
+} // namespace Tessel::OpenGL

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/tessel/ColorProgram.h"
+#include "platform/tessel/LineProgram.h"
+#include "platform/tessel/MatrixSet.h"
+#include "platform/tessel/TextureProgram.h"
+
+namespace Tessel::OpenGL {
+
+/// What all primitives of one context share: the shader programs and the matrices in force.
+///
+/// It belongs to the context that is current at the first drawing; that context must be current
+/// again for release() and at destruction.
+class GlHandler
+{
+public:
+    [[nodiscard]] MatrixSet& matrices() { return mMatrices; }
+    [[nodiscard]] const MatrixSet& matrices() const { return mMatrices; }
+
+    [[nodiscard]] LineProgram& lines() { return mLines; }
+    [[nodiscard]] ColorProgram& colors() { return mColors; }
+    [[nodiscard]] TextureProgram& textures() { return mTextures; }
+
+    /// Gives the programs back to the graphics system; they are made again when needed.
+    void release();
+
+private:
+    MatrixSet mMatrices;
+    LineProgram mLines;
+    ColorProgram mColors;
+    TextureProgram mTextures;
+};
+
+} // namespace Tessel::OpenGL
