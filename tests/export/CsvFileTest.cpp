@@ -81,15 +81,6 @@ TEST_F(CsvFile, ReplacesAnOldOne)
     EXPECT_EQ(QDir(mFolder.path()).entryList(QDir::Files).size(), 1);
 }
 
-TEST_F(CsvFile, IsNotWrittenIntoAMissingFolder)
-{
-    mOptions.directory += "/no/such";
-    EXPECT_EQ(exportSamples(1), 0);
-    EXPECT_NE(mOutput.text().find("could not write file <" + mOptions.directory + "/größe.csv>"),
-              std::string::npos);
-    EXPECT_TRUE(QDir(mFolder.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries).isEmpty());
-}
-
 TEST_F(CsvFile, IsNotWrittenInPlaceOfAFolder)
 {
     QDir(mFolder.path()).mkdir(QString::fromUtf8("größe.csv"));

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <QBuffer>
+#include <QRegularExpression>
 
 namespace VELIX::Test {
 namespace {
@@ -37,7 +38,13 @@ protected:
     {
         QBuffer out;
         out.open(QIODevice::WriteOnly);
-        EXPECT_TRUE(ExportCsv(mProfile).writeTable(*mRecord.data(), options, out));
+        const auto data = mRecord.data();
+        ExportCsv writer(mProfile);
+        EXPECT_TRUE(writer.writeTable(*data, options, out));
+        static const QRegularExpression row(QStringLiteral("^\\d+:\\d\\d:\\d\\d\\.\\d{3}"),
+                                            QRegularExpression::MultilineOption);
+        EXPECT_EQ(writer.rows(*data, options),
+                  static_cast<std::size_t>(QString::fromUtf8(out.data()).count(row)));
         return out.data().toStdString();
     }
     static CsvExportOptions with(int resolution, bool aligned = false, char delimiter = ';')

@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 
 #include <cstdio>
 #include <memory>
@@ -110,17 +111,39 @@ QJsonObject at(const QJsonObject& object, const char* key)
 
 TEST_F(Command, WrongUsageEndsWithTwoAndASentence)
 {
-    for (const char* words :
-         {"info", "CARD", "info CARD", "list CARD --profile PROFILE",
-          "info CARD more --profile PROFILE", "info CARD --profile PROFILE --cycle one",
-          "info CARD --profile PROFILE --cycle -1", "info CARD --profile PROFILE --flight 0",
-          "info CARD --profile PROFILE --cycle 1 --flight x",
-          "info CARD --profile PROFILE --cycle 1 --file a.CAN",
-          "info CARD --profile PROFILE --unit us", "info CARD --profile PROFILE --time now",
-          "info CARD --profile PROFILE --nonsense", "csv CARD --profile PROFILE",
-          "csv CARD --profile PROFILE --cycle 1 --resolution 50",
-          "csv CARD --profile PROFILE --cycle 1 --delimiter ;",
-          "csv CARD --profile PROFILE --cycle 1 --select EMU/None"}) {
+    for (const char* words : {"info",
+                              "CARD",
+                              "info CARD",
+                              "list CARD --profile PROFILE",
+                              "info CARD more --profile PROFILE",
+                              "info CARD --profile PROFILE --cycle one",
+                              "info CARD --profile PROFILE --cycle -1",
+                              "info CARD --profile PROFILE --flight 0",
+                              "info CARD --profile PROFILE --cycle 1 --flight x",
+                              "info CARD --profile PROFILE --cycle 1 --file a.CAN",
+                              "info CARD --profile PROFILE --unit us",
+                              "info CARD --profile PROFILE --time now",
+                              "info CARD --profile PROFILE --nonsense",
+                              "csv CARD --profile PROFILE",
+                              "csv CARD --profile PROFILE --cycle 1 --resolution 50",
+                              "csv CARD --profile PROFILE --cycle 1 --delimiter ;",
+                              "csv CARD --profile PROFILE --cycle 1 --select EMU/None",
+                              "kml CARD --profile PROFILE",
+                              "kml CARD --profile PROFILE --cycle 1 --time-step 0",
+                              "kml CARD --profile PROFILE --cycle 1 --line-width wide",
+                              "kml CARD --profile PROFILE --cycle 1 --line-color #ff0000",
+                              "kml CARD --profile PROFILE --cycle 1 --line-alpha 256",
+                              "kml CARD --profile PROFILE --cycle 1 --polygon true",
+                              "kml CARD --profile PROFILE --cycle 1 --polygon-color red",
+                              "kml CARD --profile PROFILE --cycle 1 --polygon-alpha -1",
+                              "kml CARD --profile PROFILE --cycle 1 --placemarks",
+                              "kml CARD --profile PROFILE --cycle 1 --placemark-interval 1.5",
+                              "kml CARD --profile PROFILE --cycle 1 --placemark-color ff00000",
+                              "kml CARD --profile PROFILE --cycle 1 --events yes",
+                              "kml CARD --profile PROFILE --cycle 1 --limits ON",
+                              "kml CARD --profile PROFILE --cycle 1 --warnings 1",
+                              "kml CARD --profile PROFILE --cycle 1 --event-color 00gg00",
+                              "kml CARD --profile PROFILE --cycle 1 --select EMU/None"}) {
         const Outcome outcome = call(words);
         EXPECT_EQ(outcome.status, 2) << words;
         EXPECT_EQ(outcome.results, "") << words;
@@ -136,6 +159,7 @@ TEST_F(Command, WhatCannotBeReadEndsWithOneAndNoOutput)
           "info /no/such --profile PROFILE --output OLD", "info CARD --profile CARD --output OLD",
           "csv CARD --profile PROFILE --cycle 9 --output OLD",
           "csv CARD --profile PROFILE --file x.CAN --output OLD",
+          "kml CARD --profile PROFILE --cycle 9 --output OLD",
           "csv CARD --profile PROFILE --select No/Such --cycle 1 --output OLD"}) {
         QFile file(old);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
@@ -223,6 +247,81 @@ TEST_F(Command, CsvWritesTheTableOfTheChosenParameters)
     QFile file(target);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.readAll().startsWith("Time;Height [m];Label\n0:00:01.000;10.0\n"));
+}
+
+TEST_F(Command, KmlTakesItsOptions)
+{
+    ASSERT_TRUE(ProfileBuilder()
+                    .conversion("m", "ft", 2, 0)
+                    .threshold("T", {{0, "green", "OK"}, {50, "red", "LIMIT"}})
+                    .device("EMU")
+                    .parameter(1, QStringLiteral("Height"), "FLOAT")
+                    .set("unitMetric", "m")
+                    .set("unitImperial", "ft")
+                    .set("precision", "1")
+                    .set("thresholdId", "T")
+                    .parameter(1036, QStringLiteral("Lat"), "FLOAT")
+                    .parameter(1037, QStringLiteral("Lon"), "FLOAT")
+                    .write(mProfile));
+    mCard.add("c.CAN", RecordBuilder()
+                           .id(1036)
+                           .at(1)
+                           .floatValue(4)
+                           .id(1037)
+                           .floatValue(5)
+                           .id(1)
+                           .at(1)
+                           .floatValue(10)
+                           .at(3)
+                           .floatValue(60)
+                           .at(5)
+                           .floatValue(20));
+    const struct
+    {
+        const char* options;
+        const char* present; ///< after white space was removed
+        const char* absent;
+    } rows[] = {
+        {"", "<kml><Document>", "<value>10.0[m]</value>"},
+        {"", "<value>60.0</value>", "xmlns"},
+        {"", "<LineStyle><color>ff0000ff</color><width>1</width></LineStyle>", "ffcc00"},
+        {"--select EMU/Height", "<value>10.0[m]</value>", "<value>20.0[m]</value>"},
+        {"--select EMU/Height --placemark-interval 2", "<value>20.0[m]</value>", "#"},
+        {"--select EMU/Height --placemark-interval 2 --time-step 3", "<value>10.0[m]</value>",
+         "<value>20.0[m]</value>"},
+        {"--select EMU/Height --unit imperial", "<value>20.0[ft]</value>", "[m]"},
+        {"--select EMU/Height --placemarks off", "<value>60.0</value>", "[m]"},
+        {"--line-width 3 --line-color 010203 --line-alpha 0", "<color>00030201</color><width>3<",
+         "#"},
+        {"--polygon-color 010203 --polygon-alpha 16", "<color>10030201</color></PolyStyle>", "#"},
+        {"--polygon off", "<extrude>0</extrude>", "<extrude>1</extrude>"},
+        {"--placemark-color 010203", "<color>ff030201</color></IconStyle></Style><Style",
+         "ff00ccff"},
+        {"--event-color 010203", "<color>ff030201</color></IconStyle></Style><Placemark", "#"},
+        {"--events off", "<extrude>1</extrude>", "<value>60.0</value>"},
+        {"--limits off", "<extrude>1</extrude>", "<value>60.0</value>"},
+        {"--warnings off", "<value>60.0</value>", "#"},
+        {"--standard", "<styleUrl>#errorPlacemark</styleUrl>", "<kml>"},
+    };
+    for (const auto& row : rows) {
+        const Outcome outcome = call(QStringLiteral("kml CARD --profile PROFILE --file c.CAN %1")
+                                         .arg(QLatin1String(row.options))
+                                         .trimmed());
+        EXPECT_EQ(outcome.status, 0) << row.options;
+        EXPECT_EQ(outcome.complaints, "") << row.options;
+        const std::string text = QString::fromStdString(outcome.results)
+                                     .remove(QRegularExpression(QStringLiteral("\\s")))
+                                     .toStdString();
+        EXPECT_NE(text.find(row.present), std::string::npos) << row.options << '\n' << text;
+        EXPECT_EQ(text.find(row.absent), std::string::npos) << row.options << '\n' << text;
+    }
+    const QString zipped = mFolder.filePath(QStringLiteral("c.kmz"));
+    call(QStringLiteral("kml CARD --profile PROFILE --file c.CAN --output ") + zipped);
+    QFile file(zipped);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().startsWith("PK"));
+    EXPECT_EQ(call("kml CARD --profile PROFILE --file a.CAN").complaints,
+              "Warning: there are no positions, the path is empty.\n");
 }
 
 } // namespace
