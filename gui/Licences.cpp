@@ -17,6 +17,7 @@ std::vector<Licences::Entry> Licences::entries()
         {QStringLiteral("VELIX"), tr("All rights reserved"), file("velix")},
         {QStringLiteral("Qt %1").arg(QLatin1String(qVersion())), lgpl, file("qt")},
         {QStringLiteral("GeographicLib"), mit, file("geographiclib")},
+        {QStringLiteral("KArchive"), QStringLiteral("GNU LGPL 2+"), file("karchive")},
         {QStringLiteral("OpenGL, Mesa"), mit, file("opengl")},
         {tr("GNU C++ library"), tr("GNU GPL 3 with exception"), file("gcc")},
         {tr("DejaVu fonts"), tr("Bitstream Vera"), file("dejavu")},

@@ -56,7 +56,9 @@ TEST(ImageHandler, HasAPictureForEveryTabAndCommand)
                              "export-csv",      "cycle",         "flight",       "file",
                              "clear",           "confirm",       "search",       "snapshot",
                              "zoom-in",         "zoom-out",      "marker",       "cursor",
-                             "aircraft",        "warning",       "limit",        "velix"}) {
+                             "aircraft",        "warning",       "limit",        "velix",
+                             "print",           "save-pdf",      "recent",       "map",
+                             "map-center"}) {
         EXPECT_TRUE(names.contains(QLatin1String(name))) << name;
     }
 }
