@@ -15,8 +15,9 @@ namespace VELIX {
 
 /// Builds the document of one export, from its head to the path at its end.
 ///
-/// The program's files never kept to the schema of KML 2.2, and readers of them rely on their form:
-/// it stays unless the options ask for the standard. Elements are named in the order of the form.
+/// The default form does not pass the schema of KML 2.2: it has no namespace, another order of
+/// elements, and no "#" before the name of a style. Files are compared with older ones, so it stays
+/// as it is; the options can ask for the standard, which differs in these points only.
 class KmlDocument
 {
 public:

@@ -27,7 +27,7 @@ struct KmlExportOptions
     bool showWarning = true;
     std::string errorMarkColor = "ff0000";
     /// Keep to the schema of KML 2.2 (namespace, order of elements, "#" before a style's name),
-    /// with the same content. Off, the document has the form that the program's files always had.
+    /// with the same content.
     bool standard = false;
     /// The parameters of the placemarks, in profile order; valid until the profile is loaded again.
     std::vector<const ProfileParameter*> parameters;
