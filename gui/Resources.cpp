@@ -7,6 +7,7 @@ static void registerBuiltInFiles()
 {
     Q_INIT_RESOURCE(resources);
     Q_INIT_RESOURCE(translations);
+    Q_INIT_RESOURCE(help);
 }
 
 namespace VELIX {
