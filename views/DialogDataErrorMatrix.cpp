@@ -76,6 +76,11 @@ void DialogDataErrorMatrix::updateRecord(RecordData* record)
 
 void DialogDataErrorMatrix::setTime(double seconds)
 {
+    // What is painted at once takes along all that waits to be painted, so the bars go ahead of the
+    // cells.
+    for (const auto& [id, panel] : mPanels) {
+        panel->moveBar(seconds);
+    }
     for (const auto& [id, panel] : mPanels) {
         panel->setTime(seconds);
     }

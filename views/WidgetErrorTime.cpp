@@ -7,6 +7,9 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace VELIX {
 
 namespace {
@@ -60,10 +63,13 @@ void WidgetErrorTime::updateRecord(RecordData* record)
 
 void WidgetErrorTime::setTime(double seconds)
 {
-    const int before = cursorX();
+    const auto inBar = [this](int x) { return std::clamp(x, -1, width()); }; // or just beside it
+    const int before = inBar(cursorX());
     mCursor = seconds;
-    if (cursorX() != before) {
-        repaint(); // at once: the bar has to keep up with the replay
+    const int now = inBar(cursorX());
+    if (now != before) {
+        // At once, since the bar has to keep up with the replay.
+        repaint(std::min(before, now), 0, std::abs(now - before) + 1, height());
     }
 }
 

@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
+#include <QScrollBar>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -29,6 +30,28 @@ constexpr int kNarrowColumn = 20;
 constexpr int kMargin = 8;
 constexpr int kSideMargin = 4; // narrow: a window of 1000 pixels then shows all columns
 constexpr int kGap = 4;
+
+/// Of a given number of columns in a row those that hold the most bits with a type: the first one.
+int firstColumnShown(const FaultMatrix& matrix, int bits, int shown)
+{
+    const auto isUsed = [&](int column) {
+        const auto bit = matrix.bits.find(bits - 1 - column);
+        return bit != matrix.bits.end() && bit->second.errorType != eErrorNone;
+    };
+    int best = 0;
+    int most = 0;
+    for (int first = 0; first + shown <= bits; ++first) {
+        int used = 0;
+        for (int column = first; column < first + shown; ++column) {
+            used += isUsed(column) ? 1 : 0;
+        }
+        if (used > most) {
+            most = used;
+            best = first;
+        }
+    }
+    return best;
+}
 
 /// What a copy of the table says of a bit: the cell itself is a widget.
 class BitItem : public QTableWidgetItem
@@ -127,6 +150,9 @@ void WidgetFaultMatrix::createTable()
     mTable->setHorizontalHeaderLabels(labels);
     CopyFilter::install(mTable);
     mTable->installEventFilter(this);
+    const QScrollBar* bar = mTable->horizontalScrollBar();
+    connect(bar, &QScrollBar::rangeChanged, this, &WidgetFaultMatrix::showAssigned);
+    connect(bar, &QScrollBar::actionTriggered, this, [this] { mScrolled = true; });
 }
 
 void WidgetFaultMatrix::setData(const FaultMatrix& matrix)
@@ -163,9 +189,14 @@ void WidgetFaultMatrix::updateRecord(RecordData* record)
     }
 }
 
-void WidgetFaultMatrix::setTime(double seconds)
+void WidgetFaultMatrix::moveBar(double seconds)
 {
     mTime->setTime(seconds);
+}
+
+void WidgetFaultMatrix::setTime(double seconds)
+{
+    moveBar(seconds);
     if (mRecord != nullptr) {
         showWord(faultWordAt(mRecord->entries(static_cast<std::uint32_t>(mMatrix.id)), seconds));
     }
@@ -206,6 +237,21 @@ void WidgetFaultMatrix::fitColumns()
     }
     // The shared width may be a pixel too much, which is no reason to scroll.
     mTable->setHorizontalScrollBarPolicy(narrow ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+}
+
+/// A table that shows only some of its columns must not look as if the matrix had no bits at all.
+void WidgetFaultMatrix::showAssigned()
+{
+    const int width = mTable->columnWidth(0);
+    const int shown = mTable->viewport()->width() / width;
+    if (mScrolled || shown >= kBits) {
+        return;
+    }
+    const int first = firstColumnShown(mMatrix, kBits, shown);
+    // Where the keyboard begins: the table would else scroll back to it with the focus.
+    mTable->selectionModel()->setCurrentIndex(mTable->model()->index(0, first),
+                                              QItemSelectionModel::NoUpdate);
+    mTable->horizontalScrollBar()->setValue(first * width);
 }
 
 bool WidgetFaultMatrix::eventFilter(QObject* watched, QEvent* event)

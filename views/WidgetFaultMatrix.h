@@ -29,7 +29,9 @@ public:
     void setData(const FaultMatrix& matrix);
     /// Null for none: all cells go out. The record stays valid until the next call.
     void updateRecord(RecordData* record);
-    /// Shows the bits in force at a time (s); before the first and after the last sample none is.
+    /// Moves the cursor of the time bar (s), which is painted at once.
+    void moveBar(double seconds);
+    /// Moves the time bar and shows the bits in force at a time (s); before the first and after the last sample none is.
     void setTime(double seconds);
     /// Shows the bits of the message received last.
     void updateLiveData();
@@ -47,6 +49,7 @@ private:
     void createTitle();
     void createTable();
     void fitColumns();
+    void showAssigned();
     void showWord(std::uint32_t word);
     void showFocus(bool focused);
 
@@ -56,6 +59,7 @@ private:
     QLabel* mTitle = nullptr;
     WidgetErrorTime* mTime = nullptr;
     QTableWidget* mTable = nullptr;
+    bool mScrolled = false; ///< the user chose the columns in sight
 };
 
 } // namespace VELIX
