@@ -18,6 +18,13 @@ constexpr double kLiftOffHeight = 1.0;     // m
 constexpr double kObstacleHeight = 15.0;   // m
 constexpr double kSecondsPerHour = 3600.0; // fuel flows are per hour
 
+/// The unit of what flows in an hour.
+QString volumeOf(const QString& flowUnit)
+{
+    const QLatin1String perHour("/h");
+    return flowUnit.endsWith(perHour) ? flowUnit.chopped(perHour.size()) : flowUnit;
+}
+
 } // namespace
 
 double greatCircleDistance(double lat1, double lon1, double lat2, double lon2)
@@ -63,6 +70,12 @@ void FlightStatisticCalculator::walk(const char* role, const RecordFlight& fligh
 double FlightStatisticCalculator::valueAt(const char* role, double time)
 {
     return mValueAt(mProfile.getParameterFromVelixType(QString::fromLatin1(role)), time);
+}
+
+QString FlightStatisticCalculator::convertedUnit(const char* role) const
+{
+    const ProfileParameter p = mProfile.getParameterFromVelixType(QString::fromLatin1(role));
+    return mProfile.currentUnit() == eUnitImperial && p.hasConversion ? p.unitImperial : QString();
 }
 
 FlightStatisticCalculator::Point FlightStatisticCalculator::positionAt(double time)
@@ -174,6 +187,9 @@ void FlightStatisticCalculator::fill(RecordFlight& flight)
                                      h.liftOff.longitude);
     s.distance15 = greatCircleDistance(start.latitude, start.longitude, h.obstacle.latitude,
                                        h.obstacle.longitude);
+    s.heightUnit = convertedUnit("Altitude");
+    s.speedUnit = convertedUnit("GroundSpeed");
+    s.fuelUnit = volumeOf(convertedUnit("FuelA"));
     s.valid = true;
     flight.statistic = s;
 }

@@ -49,6 +49,8 @@ private:
     void walk(const char* role, const RecordFlight& flight,
               const std::function<bool(double, double)>& visit);
     double valueAt(const char* role, double time);
+    /// The unit to which the values of a role are converted; empty if they are not.
+    QString convertedUnit(const char* role) const;
     Point positionAt(double time);
 
     Point rollStart(const RecordFlight& flight);

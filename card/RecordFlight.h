@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QString>
 
 namespace VELIX {
 
@@ -22,6 +23,12 @@ struct FlightStatistic
     double fuelPer100 = 0.0;  ///< l per 100 m of climb
     double distance = 0.0;    ///< m over ground from the start of the roll to lift-off
     double distance15 = 0.0;  ///< m over ground from the start of the roll to 15 m height
+
+    // The figures stay as they were decoded when the cycle was loaded. Where the unit system in
+    // force then converted the values, this is what the units above really are; else empty.
+    QString heightUnit; ///< for m but not for the distances
+    QString speedUnit;  ///< for km/h
+    QString fuelUnit;   ///< for l
 };
 
 /// One flight of a power cycle. Times are seconds on the unit's clock.

@@ -94,6 +94,10 @@ void DialogDataStatistic::addStatistic()
     addNumber(tr("Take Off Distance"), metres, s.distance);
     addNumber(tr("Take Off Distance 15m"), metres, s.distance15);
     mText += QStringLiteral("</table>");
+    const QString note = FlightText::unitNote(s);
+    if (!note.isEmpty()) {
+        mText += QStringLiteral("<p>%1</p>").arg(note);
+    }
 }
 
 void DialogDataStatistic::addOverview()

@@ -13,6 +13,7 @@ namespace VELIX {
 namespace {
 
 const QString kTimeFormat = QStringLiteral("hh:mm:ss");
+const QString kNoGap = QStringLiteral(" style=\"padding-right: 0px;\""); // nothing follows
 
 QString number(double value, int decimals, const QString& unit)
 {
@@ -21,6 +22,16 @@ QString number(double value, int decimals, const QString& unit)
     }
     // A non-breaking thin space keeps number and unit on one line.
     return QLocale().toString(value, 'f', decimals) + QChar(0x202F) + unit;
+}
+
+QString fuelText(const FlightStatistic& s, double fuel)
+{
+    return number(fuel, 1, s.fuelUnit.isEmpty() ? QStringLiteral("l") : s.fuelUnit);
+}
+
+QString climbText(const FlightStatistic& s, double climb)
+{
+    return number(climb, 0, s.heightUnit.isEmpty() ? QStringLiteral("m") : s.heightUnit);
 }
 
 /// A sum of flight times may exceed a day, which a time of day cannot show.
@@ -50,7 +61,9 @@ QString cells(const QString& tag, const QStringList& texts)
     QString row = QStringLiteral("<tr>");
     QString side = QStringLiteral("left");
     for (const QString& text : texts) {
-        row += QStringLiteral("<%1 align=\"%2\">%3</%1>").arg(tag, side, text.toHtmlEscaped());
+        row +=
+            QStringLiteral("<%1 align=\"%2\"%3>%4</%1>")
+                .arg(tag, side, &text == &texts.last() ? kNoGap : QString(), text.toHtmlEscaped());
         side = QStringLiteral("right");
     }
     return row + QStringLiteral("</tr>");
@@ -71,7 +84,7 @@ QString FlightText::flights(const std::vector<RecordFlight>& flights)
     if (flights.empty()) {
         return {};
     }
-    QString table = QStringLiteral("<table>") +
+    QString table = QStringLiteral("<table cellspacing=\"0\">") +
                     cells(QStringLiteral("th"),
                           {tr("Flight"), tr("Take-off"), tr("Time"), tr("Fuel"), tr("Climb")});
     double time = 0.0;
@@ -83,20 +96,36 @@ QString FlightText::flights(const std::vector<RecordFlight>& flights)
         const double flightTime = flight.landingTime - flight.takeoffTime;
         table += cells(QStringLiteral("td"),
                        {QString::number(++count), takeoff(flight), duration(flightTime),
-                        number(s.fuel, 1, QStringLiteral("l")),
-                        number(s.climb, 0, QStringLiteral("m"))});
+                        fuelText(s, s.fuel), climbText(s, s.climb)});
         time += flightTime;
         fuel += s.fuel;
         climb += s.climb;
     }
     if (count > 1) {
-        table += cells(QStringLiteral("th"), {tr("Total"),
-                                              {},
-                                              duration(time),
-                                              number(fuel, 1, QStringLiteral("l")),
-                                              number(climb, 0, QStringLiteral("m"))});
+        const FlightStatistic& units = flights.front().statistic; // one load, one unit system
+        table += cells(
+            QStringLiteral("th"),
+            {tr("Total"), {}, duration(time), fuelText(units, fuel), climbText(units, climb)});
     }
     return table + QStringLiteral("</table>");
+}
+
+QString FlightText::unitNote(const FlightStatistic& statistic)
+{
+    QStringList units;
+    const auto add = [&units](const char* label, const QString& unit) {
+        if (!unit.isEmpty()) {
+            units.append(tr("%1 as %2").arg(QLatin1String(label), unit.toHtmlEscaped()));
+        }
+    };
+    add("m", statistic.heightUnit);
+    add("km/h", statistic.speedUnit);
+    add("l", statistic.fuelUnit);
+    return units.isEmpty()
+               ? QString()
+               : tr("The cycle was loaded in imperial units: read %1. Only the take-off "
+                    "distances are in m all the same.")
+                     .arg(units.join(QStringLiteral(", ")));
 }
 
 } // namespace VELIX

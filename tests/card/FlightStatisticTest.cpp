@@ -153,6 +153,28 @@ TEST_F(FlightStatistics, WithoutSamplesFiguresAreZeroOrNotFinite)
     EXPECT_EQ(s.flightTime, 100.0);
 }
 
+TEST_F(FlightStatistics, TellWhichUnitsTheyWereConvertedTo)
+{
+    ProfileBuilder builder;
+    builder.conversion("m", "ft", 3.0, 0.0).conversion("l/h", "gal/h", 0.25, 0.0).device("EMU");
+    builder.parameter(eAlt, QStringLiteral("Alt"), "FLOAT").set("velixDataType", "Altitude");
+    builder.set("unitMetric", "m").set("unitImperial", "ft");
+    builder.parameter(eFuelFlowA, QStringLiteral("Flow"), "FLOAT").set("velixDataType", "FuelA");
+    builder.set("unitMetric", "l/h").set("unitImperial", "gal/h");
+    builder.parameter(eSpeed, QStringLiteral("V"), "FLOAT").set("velixDataType", "GroundSpeed");
+    builder.set("unitMetric", "km/h").set("unitImperial", "kt"); // no such conversion
+    ASSERT_TRUE(builder.load(mProfile));
+    add(eAlt, {{100, 500}, {150, 600}});
+    mProfile.setCurrentUnit(eUnitImperial);
+    const FlightStatistic s = statistic(100, 200);
+    EXPECT_EQ(s.climb, 300.0);
+    EXPECT_EQ(s.heightUnit, QStringLiteral("ft"));
+    EXPECT_EQ(s.fuelUnit, QStringLiteral("gal"));
+    EXPECT_EQ(s.speedUnit, QString());
+    mProfile.setCurrentUnit(eUnitMetric);
+    EXPECT_EQ(statistic(100, 200).heightUnit, QString());
+}
+
 TEST(GreatCircle, IsANauticalMileAMinute)
 {
     EXPECT_NEAR(CardContainer::calcDistance(48.0, 11.0, 48.01, 11.0), 1111.2, 1e-3);

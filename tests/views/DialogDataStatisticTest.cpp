@@ -94,6 +94,22 @@ TEST_F(DialogDataStatisticTest, AFlightWithoutClimbHasFiguresThatAreNoNumbers)
     EXPECT_NE(text.find("Fuel / 100m\t-inf l\n"), std::string::npos);
 }
 
+TEST_F(DialogDataStatisticTest, FiguresOfAnotherUnitSystemSayHowToReadThem)
+{
+    data.flight = towFlight(0.0, 100.0);
+    data.flight.statistic.heightUnit = QStringLiteral("ft");
+    data.flight.statistic.fuelUnit = QStringLiteral("gal");
+    view.updateRecord(&data);
+    EXPECT_NE(copied().find("\nTotal Climb\t1000 m\n"), std::string::npos) << "labels are fixed";
+    EXPECT_NE(copied().find("read m as ft, l as gal."), std::string::npos);
+
+    data.cycleFlights = {data.flight, data.flight};
+    data.flight = RecordFlight();
+    view.updateRecord(&data);
+    EXPECT_NE(copied().find("6.3 gal\t1000 ft\n"), std::string::npos);
+    EXPECT_NE(copied().find("12.5 gal\t2000 ft"), std::string::npos) << copied();
+}
+
 TEST(FlightText, TimesAreTruncatedToSecondsOfADay)
 {
     const struct
