@@ -87,6 +87,8 @@ void DialogDataEvents::createTable()
 
     mTable->setColumnCount(2);
     mTable->setHorizontalHeaderLabels({tr("Time"), mTexts.header});
+    // In a narrow pane the middle of the column is out of sight.
+    mTable->horizontalHeaderItem(kColumnEvent)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     QHeaderView* header = mTable->horizontalHeader();
     QFont bold = header->font();
     bold.setWeight(kBold);

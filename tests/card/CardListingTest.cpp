@@ -96,13 +96,6 @@ TEST_F(CardListing, AMissingFolderChangesNothing)
     EXPECT_EQ(mOutput.text(), before);
 }
 
-TEST_F(CardListing, AnEmptyFolderIsAnEmptyCard)
-{
-    ASSERT_TRUE(mCard.readContainer(mFolder.path()));
-    EXPECT_TRUE(mCard.recordFiles().empty());
-    EXPECT_TRUE(mCard.recordCycles().empty());
-}
-
 TEST_F(CardListing, AnInvalidDateIsReckonedBackFromTheNextFile)
 {
     mFolder.add("a.CAN", endingAt(60)).add("b.CAN", dated(100, 12));

@@ -1,6 +1,5 @@
 #include "card/RecordData.h"
 #include "card/RecordFile.h"
-#include "core/Progress.h"
 #include "tests/support/CapturedDiagnostics.h"
 #include "tests/support/CardFolder.h"
 
@@ -128,31 +127,6 @@ TEST(DamagedRecordFile, AFolderInItsPlaceHoldsNothing)
     file.readRecordData(data);
     EXPECT_EQ(file.recordInfo().sampleCount, 0U);
     EXPECT_EQ(data.entryCount, 0U);
-}
-
-TEST(DamagedRecordFile, OneThatShrinksWhileItIsReadGivesWhatIsLeft)
-{
-    RecordBuilder record;
-    for (int i = 0; i < 1000; ++i) { // more than any buffer of the header's reading
-        record.at(i).id(1).ucharValue(1);
-    }
-    CardFolder card;
-    card.add("a.CAN", record);
-    RecordFile file;
-    file.readRecordInfo(card.file("a.CAN"));
-    CapturedDiagnostics output;
-    // The first report comes after the entries were counted and before they are read.
-    Progress::setHook([&card](int percent) {
-        if (percent == 0) {
-            QFile::resize(card.file("a.CAN"), 128 + 28 * 500 + 20);
-        }
-    });
-    RecordData data;
-    EXPECT_FALSE(file.readRecordData(data));
-    Progress::setHook({});
-    EXPECT_EQ(data.entryCount, 500U);
-    EXPECT_EQ(data.stopTime, 499.0);
-    EXPECT_NE(output.text().find("ends after 500 of 1000 entries"), std::string::npos);
 }
 
 TEST(DamagedRecordFile, AHugeSparseFileIsListedWithoutBeingRead)

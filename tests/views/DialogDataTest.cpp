@@ -82,14 +82,9 @@ struct DialogDataTest : ::testing::Test
     {
         return window->findChild<View*>()->template findChild<QTableWidget*>();
     }
-    template <class View = DialogDataTable>
     int tableRow()
     {
-        return tableOf<View>()->selectionModel()->currentIndex().row();
-    }
-    void call(const char* slot, double time)
-    {
-        ASSERT_TRUE(QMetaObject::invokeMethod(window.get(), slot, Q_ARG(double, time)));
+        return tableOf<DialogDataTable>()->selectionModel()->currentIndex().row();
     }
 
     QTemporaryDir folder;
@@ -163,46 +158,21 @@ TEST_F(DialogDataTest, EverySliderPositionCanBeReachedByKey)
 
 TEST_F(DialogDataTest, ViewsMoveTheCursorAndTheOthersFollow)
 {
-    load(100.0, 200.0);
-    call("slotLimitTime", 120.0);
-    EXPECT_EQ(window->cursorTime(), 120.0);
-    EXPECT_EQ(tableRow(), 20);
-    call("slotWarningTime", 130.0);
-    EXPECT_EQ(tableRow(), 30);
+    load(100.0, 200.0); // a warning at 150 s
     emit window->findChild<DialogDataTable*>()->signalTime(140.0);
     EXPECT_EQ(window->cursorTime(), 140.0);
-    EXPECT_EQ(tableRow(), 30); // it is the table that moved the cursor
     EXPECT_EQ(displayed("displayTime"), "00:02:20.000");
-    ASSERT_TRUE(QMetaObject::invokeMethod(window.get(), "slotCursor", Q_ARG(float, 150.1F),
-                                          Q_ARG(double, 3.0)));
-    EXPECT_EQ(window->cursorTime(), static_cast<double>(150.1F));
-}
-
-TEST_F(DialogDataTest, TheListsFollowAndMoveTheCursor)
-{
-    load(100.0, 200.0); // a warning at 150 s
-    auto* limits = tableOf<DialogDataLimit>();
-    ASSERT_EQ(limits->rowCount(), 1);
-    EXPECT_EQ(tableRow<DialogDataLimit>(), 0);
-    limits->clearSelection();
-    EXPECT_EQ(window->cursorTime(), 100.0);
-    limits->selectRow(0);
+    EXPECT_EQ(tableRow(), 0); // it is the table that moved the cursor
+    tableOf<DialogDataLimit>()->clearSelection();
+    EXPECT_EQ(window->cursorTime(), 140.0);
+    tableOf<DialogDataLimit>()->selectRow(0);
     EXPECT_EQ(window->cursorTime(), 150.0);
     EXPECT_EQ(tableRow(), 50);
     emit window->findChild<DialogDataWarning*>()->signalTime(120.0);
     EXPECT_EQ(tableRow(), 20);
-}
-
-TEST_F(DialogDataTest, WithoutARecordTheListsAreEmptied)
-{
-    load(100.0, 200.0);
-    window->releaseRecord();
-    EXPECT_EQ(tableOf<DialogDataLimit>()->rowCount(), 1) << "until the next record is there";
-    ASSERT_TRUE(RecordBuilder().write(folder.filePath(QStringLiteral("1.CAN"))));
-    ASSERT_TRUE(card.readContainer(folder.path()));
-    card.loadFiles({QStringLiteral("1.CAN")});
-    window->updateRecord();
-    EXPECT_EQ(tableOf<DialogDataLimit>()->rowCount(), 0);
+    ASSERT_TRUE(QMetaObject::invokeMethod(window.get(), "slotCursor", Q_ARG(float, 150.1F),
+                                          Q_ARG(double, 3.0)));
+    EXPECT_EQ(window->cursorTime(), static_cast<double>(150.1F));
 }
 
 TEST_F(DialogDataTest, ViewsTellWhatWentWrong)
@@ -250,7 +220,7 @@ TEST_F(DialogDataTest, SpeedSliderAndBoxShowTheSameSpeed)
     EXPECT_EQ(find<QDoubleSpinBox>("boxSpeed")->value(), 3.5);
 }
 
-TEST_F(DialogDataTest, RunningReplayGoesOnInTheNextRecord)
+TEST_F(DialogDataTest, RunningReplayGoesOnInTheNextRecordAndEndsWithoutOne)
 {
     load(100.0, 200.0);
     QTest::mouseClick(replay(), Qt::LeftButton);
@@ -258,18 +228,15 @@ TEST_F(DialogDataTest, RunningReplayGoesOnInTheNextRecord)
     EXPECT_EQ(replay()->text(), QStringLiteral("Replay Pause"));
     QTRY_VERIFY(window->cursorTime() > 500.0);
     EXPECT_LT(window->cursorTime(), 600.0);
-}
 
-TEST_F(DialogDataTest, WithoutARecordTheReplayEnds)
-{
-    load(100.0, 200.0);
-    QTest::mouseClick(replay(), Qt::LeftButton);
     window->releaseRecord();
     EXPECT_EQ(tableOf<DialogDataTable>()->rowCount(), 0);
+    EXPECT_EQ(tableOf<DialogDataLimit>()->rowCount(), 1) << "until the next record is there";
     ASSERT_TRUE(RecordBuilder().write(folder.filePath(QStringLiteral("1.CAN"))));
     ASSERT_TRUE(card.readContainer(folder.path()));
     card.loadFiles({QStringLiteral("1.CAN")});
     window->updateRecord();
+    EXPECT_EQ(tableOf<DialogDataLimit>()->rowCount(), 0);
     EXPECT_EQ(replay()->text(), QStringLiteral("Replay Start"));
     EXPECT_FALSE(replay()->isEnabled());
     EXPECT_EQ(displayed("displayTime"), "--:--:--.---");

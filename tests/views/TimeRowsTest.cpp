@@ -56,18 +56,5 @@ TEST(TimeRowsTest, RowsAreFoundFromAnyStartingPoint)
     }
 }
 
-TEST(TimeRowsTest, TheRowInForceIsTheLastOneNotAboveTheKey)
-{
-    RecordBuilder record;
-    record.at(10.0).id(1).floatValue(0.0F).at(10.1).floatValue(0.0F).at(12.0).floatValue(0.0F);
-    const auto data = record.data();
-    const TimeRows rows({&data->entries(1)});
-    EXPECT_EQ(rows.rowAt(timeKey(10.04)), 0U);
-    EXPECT_EQ(rows.rowAt(timeKey(10.06)), 1U);
-    EXPECT_EQ(rows.rowAt(timeKey(11.9)), 1U);
-    EXPECT_EQ(rows.rowAt(timeKey(0.0)), 0U);
-    EXPECT_EQ(rows.rowAt(timeKey(1e9)), 2U);
-}
-
 } // namespace
 } // namespace VELIX
