@@ -1,169 +1,90 @@
 #include "tools/velix-demo/DemoTour.h"
 
-#include "export/DialogExportCsv.h"
+#include "core/DataHandler.h"
 #include "gui/AppContext.h"
 #include "gui/DialogMain.h"
-#include "gui/DialogStatusBar.h"
-#include "gui/MainActions.h"
-#include "views/DialogData.h"
+#include "tools/velix-demo/DemoScenes.h"
+#include "tools/velix-demo/DemoStage.h"
+#include "tools/velix-demo/DialogVisit.h"
+#include "tools/velix-demo/PictureBook.h"
 
-#include <QAction>
 #include <QApplication>
+#include <QCursor>
 #include <QDir>
-#include <QElapsedTimer>
-#include <QFileInfo>
-#include <QLineEdit>
-#include <QTableWidget>
-#include <QThread>
-#include <QTimer>
-#include <QToolButton>
-#include <QTreeWidget>
+#include <QScreen>
 
-#include <utility>
+#include <algorithm>
 
 namespace VELIX {
 
 namespace {
 
-constexpr int kPatienceMs = 30000;
-constexpr unsigned long kPollMs = 10;
-constexpr int kSettleMs = 1200; ///< start-up sizes its panes one second after the window came up
-constexpr double kReplaySeconds = 1.5;
+using Kind = PictureBook::Kind;
 
-void runEventsFor(int milliseconds)
-{
-    QElapsedTimer clock;
-    clock.start();
-    while (clock.elapsed() < milliseconds) {
-        QApplication::processEvents();
-        QThread::msleep(kPollMs);
-    }
-}
+constexpr int kStartMs = 1300; ///< start-up sizes its panes one second after the window came up
+constexpr int kSettleMs = 600; ///< the graph has caught up with its final size
 
 } // namespace
 
-DemoTour::DemoTour(QString folder, QString suffix)
-    : mFolder(std::move(folder)), mSuffix(std::move(suffix))
-{}
+DemoTour::DemoTour(PictureBook& book) : mBook(book) {}
 
 bool DemoTour::run(AppContext& context)
 {
-    DialogMain window(context, mDialogs);
+    DialogMain window(context);
+    window.resize(mBook.kind() == Kind::Windows ? QSize(1280, 800) : QSize(1000, 700));
     QApplication::setActiveWindow(&window); // a virtual display has no window manager to do it
-    runEventsFor(kSettleMs);
-    return save(window, QStringLiteral("start")) && loadFlight(window) && replay(window) &&
-           exportTable(window);
+    QCursor::setPos(window.screen()->geometry().bottomRight()); // nothing is hovered
+    DemoStage::runEventsFor(kStartMs);
+
+    DemoStage stage(window);
+    const bool done = visitScenes(stage) && visitParts(stage) && visitDialogs(stage);
+    mError = stage.error();
+    window.close();
+    return done;
 }
 
-bool DemoTour::loadFlight(DialogMain& window)
+bool DemoTour::visitScenes(DemoStage& stage)
 {
-    const auto* status = window.findChild<DialogStatusBar*>();
-    auto* cycles = window.findChild<QTreeWidget*>(QStringLiteral("treeCycles"));
-    if (!waitFor([&] { return cycles->topLevelItemCount() > 0; },
-                 QStringLiteral("No cycle is listed; is there a card in \"LastPath\"?"))) {
-        return false;
-    }
-    QTreeWidgetItem* cycle = cycles->topLevelItem(0);
-    cycles->setCurrentItem(cycle);
-    if (!waitFor([&] { return cycle->childCount() > 0; },
-                 QStringLiteral("No flight was found in the first cycle."))) {
-        return false;
-    }
-    const QString whole = status->loaded();
-    cycles->setCurrentItem(cycle->child(0));
-    if (!waitFor([&] { return status->loaded() != whole; },
-                 QStringLiteral("The first flight was not loaded."))) {
-        return false;
-    }
-    const auto* view = window.findChild<QWidget*>(QStringLiteral("viewTable"));
-    const auto* table = view != nullptr ? view->findChild<QTableWidget*>() : nullptr;
-    if (table == nullptr || table->rowCount() == 0 || table->columnCount() < 2) {
-        return fail(QStringLiteral("The table is empty; does the project select parameters?"));
-    }
-    return true;
-}
-
-bool DemoTour::replay(DialogMain& window)
-{
-    const auto* data = window.findChild<DialogData*>();
-    auto* button = window.findChild<QToolButton*>(QStringLiteral("buttonReplay"));
-    const double start = data->cursorTime();
-    button->click();
-    if (!waitFor([&] { return data->cursorTime() > start + kReplaySeconds; },
-                 QStringLiteral("The replay does not move the cursor."))) {
-        return false;
-    }
-    button->click();
-    return save(window, QStringLiteral("main"));
-}
-
-bool DemoTour::exportTable(DialogMain& window)
-{
-    auto* wizard = window.findChild<DialogExportCsv*>();
-    bool driven = false;
-    QTimer::singleShot(0, wizard, [&] {
-        driven = driveWizard(*wizard);
-        if (!driven) {
-            wizard->reject(); // ends its event loop
+    const auto& scenes = demoScenes();
+    return std::all_of(scenes.begin(), scenes.end(), [&](const DemoScene& scene) {
+        if ((scene.prepare != nullptr && !scene.prepare(stage)) ||
+            (scene.view != nullptr && !stage.showView(scene.view))) {
+            return false;
         }
+        DemoStage::runEventsFor(kSettleMs);
+        QWidget* shown = &stage.window();
+        if (mBook.kind() == Kind::Manual && scene.view != nullptr) {
+            shown = stage.window().findChild<QWidget*>(QLatin1String(scene.view));
+        }
+        return mBook.add(*shown, QLatin1String(scene.name), QLatin1String(scene.caption)) ||
+               stage.fail(QStringLiteral("The pictures cannot be written."));
     });
-    window.findChild<MainActions*>()->action(eActionExportCsv)->trigger();
-    if (!driven) {
-        return false;
-    }
-    if (!mDialogs.complaint().isEmpty()) {
-        return fail(mDialogs.complaint());
-    }
-    const QFileInfo table(QDir(mFolder), QString::fromStdString(wizard->options().fileName));
-    return table.size() > 0 || fail(QStringLiteral("The table was not exported."));
 }
 
-bool DemoTour::driveWizard(DialogExportCsv& wizard)
+bool DemoTour::visitParts(DemoStage& stage)
 {
-    wizard.findChild<QLineEdit*>(QStringLiteral("exportPath"))->setText(mFolder);
-    if (!save(wizard, QStringLiteral("csv-path"))) {
-        return false;
+    if (mBook.kind() == Kind::Windows) {
+        return true; // they are in the pictures of the window
     }
-    wizard.next();
-    if (wizard.nextId() != -1) {
-        return fail(QStringLiteral("The CSV wizard refuses the folder %1.").arg(mFolder));
-    }
-    if (!save(wizard, QStringLiteral("csv-options"))) {
-        return false;
-    }
-    wizard.accept();
-    return true;
+    const auto& parts = demoParts();
+    return std::all_of(parts.begin(), parts.end(), [&](const DemoPart& part) {
+        QWidget* widget = part.find(stage);
+        return (widget != nullptr && mBook.add(*widget, QLatin1String(part.name), {})) ||
+               stage.fail(QStringLiteral("There is no %1.").arg(QLatin1String(part.name)));
+    });
 }
 
-bool DemoTour::save(QWidget& widget, const QString& name)
+bool DemoTour::visitDialogs(DemoStage& stage)
 {
-    QApplication::processEvents(); // what was just changed is painted
-    const QString file =
-        QDir(mFolder).filePath(QStringLiteral("velix-%1%2.png").arg(name, mSuffix));
-    return widget.grab().save(file) ||
-           fail(QStringLiteral("The picture %1 could not be written.").arg(file));
-}
-
-bool DemoTour::waitFor(const std::function<bool()>& condition, const QString& sentence)
-{
-    QElapsedTimer clock;
-    clock.start();
-    while (!condition()) {
-        if (clock.elapsed() > kPatienceMs) {
-            return fail(sentence);
-        }
-        QApplication::processEvents();
-        QThread::msleep(kPollMs);
+    QDir exports(QDir::home().filePath(QStringLiteral("Documents")));
+    exports.removeRecursively(); // a file of an earlier tour would be asked about
+    if (!QDir().mkpath(exports.path())) {
+        return stage.fail(QStringLiteral("%1 cannot be made.").arg(exports.path()));
     }
-    return true;
-}
-
-bool DemoTour::fail(const QString& sentence)
-{
-    if (mError.isEmpty()) {
-        mError = sentence;
-    }
-    return false;
+    DialogVisit visit(stage, mBook, exports.path());
+    const auto& dialogs = demoDialogs();
+    return std::all_of(dialogs.begin(), dialogs.end(),
+                       [&](const DemoDialog& dialog) { return visit.run(dialog); });
 }
 
 } // namespace VELIX

@@ -3,15 +3,17 @@
 #include "core/CmdLine.h"
 #include "core/DataHandler.h"
 #include "core/Kernel.h"
+#include "core/Language.h"
 #include "core/Property.h"
+#include "core/Toolkit.h"
 #include "gui/Palette.h"
 #include "gui/Resources.h"
 #include "tools/velix-demo/DemoTour.h"
+#include "tools/velix-demo/PictureBook.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QSurfaceFormat>
-#include <QTranslator>
+#include <QFont>
 
 #include <clocale>
 #include <cstdio>
@@ -26,37 +28,12 @@ int complain(const QString& sentence)
     return 1;
 }
 
-void prepareToolkit()
+/// Pictures show nothing that depends on the desktop or the moment.
+void prepareForPictures(QApplication& application, const std::string& look)
 {
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QSurfaceFormat format;
-    format.setDepthBufferSize(24);
-    format.setStencilBufferSize(8);
-    QSurfaceFormat::setDefaultFormat(format);
-}
-
-/// One tour in a language; a language without texts is left out.
-bool tour(const QString& folder, const QString& locale, QString& error)
-{
-    QTranslator toolkitTexts;
-    QTranslator texts;
-    if (!locale.isEmpty()) {
-        const QString resources = QStringLiteral(":/trl");
-        if (!texts.load(QStringLiteral("velix_") + locale, resources) || texts.isEmpty() ||
-            !toolkitTexts.load(QStringLiteral("qt_") + locale, resources)) {
-            return true;
-        }
-        QCoreApplication::installTranslator(&toolkitTexts);
-        QCoreApplication::installTranslator(&texts);
-    }
-    DemoTour visit(folder, locale.isEmpty() ? QString() : QStringLiteral("-") + locale);
-    AppContext context = Kernel::instance().makeContext();
-    const bool done = visit.run(context);
-    error = visit.error();
-    return done;
+    QApplication::setFont(QFont(QStringLiteral("DejaVu Sans")));
+    QApplication::setCursorFlashTime(0);
+    Palette::apply(application, look == "dark" ? Palette::Look::Dark : Palette::Look::Light);
 }
 
 } // namespace
@@ -64,38 +41,47 @@ bool tour(const QString& folder, const QString& locale, QString& error)
 int main(int argc, char** argv)
 {
     CmdLine& line = CmdLine::instance();
-    line.addParameter("--output", "folder for the pictures", "");
+    line.addParameter("--output", "folder for pictures of whole windows", "");
+    line.addParameter("--help-pictures", "folder for pictures of the manual", "");
     line.addParameter("--look", "light or dark", "light");
     line.addParameter("-s", "stylefile to load", "");
     std::string output;
+    std::string manual;
     std::string look;
     const bool understood = line.parse(argc, argv);
     line.getParameter("--output", output);
+    line.getParameter("--help-pictures", manual);
     line.getParameter("--look", look);
-    if (!understood || output.empty() || (look != "light" && look != "dark")) {
+    if (!understood || output.empty() == manual.empty() || (look != "light" && look != "dark")) {
         line.printUsage();
         return 2;
     }
 
-    prepareToolkit();
+    Toolkit::prepare();
     QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C"); // the toolkit takes the user's; files need the point
     initResources();
-    Palette::apply(application, look == "dark" ? Palette::Look::Dark : Palette::Look::Light);
+    prepareForPictures(application, look);
     Kernel::instance().setApplication(&application);
     Property& settings = Property::instance();
     settings.setConfigFile(DataHandler::instance().dataPath() + "/VELIX.ini");
     settings.readXmlFile();
+    const std::string locale = settings.getString("Locale", "us");
+    const Language language(locale);
 
-    const QString folder = QDir(QString::fromStdString(output)).absolutePath();
+    const QString folder = QDir(QString::fromStdString(manual + output)).absolutePath();
     if (!QDir().mkpath(folder)) {
         return complain(QStringLiteral("The folder %1 cannot be made.").arg(folder));
     }
-    for (const QString& locale : {QString(), QStringLiteral("de")}) {
-        QString error;
-        if (!tour(folder, locale, error)) {
-            return complain(error);
-        }
+    PictureBook book(manual.empty() ? PictureBook::Kind::Windows : PictureBook::Kind::Manual,
+                     folder, locale == "de" ? QStringLiteral("de") : QStringLiteral("en"));
+    DemoTour tour(book);
+    AppContext context = Kernel::instance().makeContext();
+    if (!tour.run(context)) {
+        return complain(tour.error());
+    }
+    if (manual.empty() && !book.writeIndex()) {
+        return complain(QStringLiteral("The index of the pictures cannot be written."));
     }
     std::printf("velix-demo: pictures are in %s\n", folder.toLocal8Bit().constData());
     return 0;

@@ -1,0 +1,40 @@
+#include "tools/velix-demo/PictureBook.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPixmap>
+#include <QSaveFile>
+#include <QWidget>
+
+#include <utility>
+
+namespace VELIX {
+
+PictureBook::PictureBook(Kind kind, QString folder, QString language)
+    : mKind(kind), mFolder(std::move(folder)), mLanguage(std::move(language))
+{}
+
+bool PictureBook::add(QWidget& widget, const QString& name, const QString& caption)
+{
+    mIndex << QStringLiteral("## %1\n").arg(caption)
+           << QStringLiteral("![English](%1-en.png) ![German](%1-de.png)\n").arg(name);
+    const QString form =
+        mKind == Kind::Windows ? QStringLiteral("%1-%2.png") : QStringLiteral("%2/%1.png");
+    const QFileInfo file(QDir(mFolder), form.arg(name, mLanguage));
+    return QDir().mkpath(file.path()) && widget.grab().save(file.filePath());
+}
+
+bool PictureBook::writeIndex() const
+{
+    QSaveFile file(QDir(mFolder).filePath(QStringLiteral("README.md")));
+    if (!file.open(QIODevice::WriteOnly)) {
+        return false;
+    }
+    file.write("# VELIX in pictures\n\n"
+               "All windows and dialogs on the demo card, in English and in German. "
+               "`./dev screenshots` makes them.\n\n");
+    file.write(mIndex.join(QLatin1Char('\n')).toUtf8());
+    return file.commit();
+}
+
+} // namespace VELIX
