@@ -20,15 +20,19 @@ public:
     /// Makes the buffer the target of all drawing, in the size given (pixels).
     /// @return false if there is no such buffer; the target is then what it was
     [[nodiscard]] bool begin(const QSize& pixels);
-    /// Whether a picture of that size was drawn since the last release().
+    /// The picture is drawn.
+    void end() const;
+    /// Whether there is a picture of that size.
     [[nodiscard]] bool holds(const QSize& pixels) const;
     /// Copies the picture to a frame buffer of the same size, which becomes the target.
     void copyTo(GLuint target) const;
-    /// Forgets picture and buffer.
-    void release() { mBuffer.reset(); }
+    /// Forgets picture and buffers.
+    void release();
 
 private:
-    std::unique_ptr<QOpenGLFramebufferObject> mBuffer;
+    std::unique_ptr<QOpenGLFramebufferObject> mDrawn; ///< several samples for each pixel
+    /// Their mean: finding it costs as much as many copies.
+    std::unique_ptr<QOpenGLFramebufferObject> mPicture;
 };
 
 } // namespace VELIX

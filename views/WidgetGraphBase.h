@@ -170,6 +170,7 @@ private:
     void updateScene();
     void adoptPlotWidth();
 
+    void showPlot(const QSize& pixels);
     void drawPlot(const QSize& pixels);
     void drawGround(const QSize& pixels);
     void releasePlot();

@@ -67,27 +67,34 @@ void WidgetGraphBase::paintGL()
     const QSize pixels(qRound(width() * devicePixelRatioF()),
                        qRound(height() * devicePixelRatioF()));
     const bool lines = !mScene.layout.empty() && VELIX::GraphTexts::hint(mModel).isEmpty();
-    if (!lines) {
-        drawGround(pixels);
-    } else if (!VELIX::GraphPlotBuffer::isSupported()) {
-        drawPlot(pixels);
-    } else {
-        if (mPlotStale || !mPlot.holds(pixels)) {
-            mPlotStale = !mPlot.begin(pixels);
-            drawPlot(pixels);
-        }
-        if (!mPlotStale) {
-            mPlot.copyTo(defaultFramebufferObject());
-        }
-    }
     if (lines) {
+        showPlot(pixels);
         drawOverlayLines(pixels);
+    } else {
+        drawGround(pixels);
     }
     if (!mScene.layout.empty()) {
         drawTexts(pixels);
     }
     mPaintedRevision = mModel.revision();
     mSinceRepaint.restart();
+}
+
+void WidgetGraphBase::showPlot(const QSize& pixels)
+{
+    if (!VELIX::GraphPlotBuffer::isSupported()) {
+        drawPlot(pixels);
+        return;
+    }
+    if (mPlotStale || !mPlot.holds(pixels)) {
+        mPlotStale = !mPlot.begin(pixels);
+        drawPlot(pixels);
+        if (mPlotStale) {
+            return; // drawn to the widget itself
+        }
+        mPlot.end();
+    }
+    mPlot.copyTo(defaultFramebufferObject());
 }
 
 void WidgetGraphBase::drawPlot(const QSize& pixels)
