@@ -2,6 +2,65 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de_DE" sourcelanguage="en_GB">
 <context>
+    <name>DialogHelp</name>
+    <message>
+        <source>VELIX Help</source>
+        <translation>VELIX – Hilfe</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>Search results</source>
+        <translation>Suchergebnisse</translation>
+    </message>
+    <message>
+        <source>Page of the manual</source>
+        <translation>Seite des Handbuchs</translation>
+    </message>
+    <message>
+        <source>Previous page</source>
+        <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message>
+        <source>Smaller text</source>
+        <translation>Kleinere Schrift</translation>
+    </message>
+    <message>
+        <source>Larger text</source>
+        <translation>Größere Schrift</translation>
+    </message>
+    <message>
+        <source>Search the manual</source>
+        <translation>Handbuch durchsuchen</translation>
+    </message>
+    <message>
+        <source>Previous hit</source>
+        <translation>Voriger Treffer</translation>
+    </message>
+    <message>
+        <source>Next hit</source>
+        <translation>Nächster Treffer</translation>
+    </message>
+    <message>
+        <source>The manual says nothing about &quot;%1&quot;. Try fewer or shorter words.</source>
+        <translation>Das Handbuch sagt nichts über „%1“. Weniger oder kürzere Wörter versuchen.</translation>
+    </message>
+    <message>
+        <source>%1 on this page</source>
+        <translation>%1 auf dieser Seite</translation>
+    </message>
+    <message>
+        <source>%1 of %2 on this page</source>
+        <translation>%1 von %2 auf dieser Seite</translation>
+    </message>
+</context>
+<context>
     <name>VELIX::CardContainer</name>
     <message>
         <source>Cycle %1</source>
@@ -25,6 +84,32 @@
     </message>
 </context>
 <context>
+    <name>VELIX::CardLoader</name>
+    <message>
+        <source>Reading the card %1...</source>
+        <translation>Lese die Karte %1...</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be opened. Is the card in its reader?</source>
+        <translation>Der Ordner %1 lässt sich nicht öffnen. Steckt die Datenkarte im Leser?</translation>
+    </message>
+    <message>
+        <source>Loading %1...</source>
+        <translation>Lade %1...</translation>
+    </message>
+    <message>
+        <source>%1 of card %2</source>
+        <translation>%1 der Karte %2</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::ColorButton</name>
+    <message>
+        <source>, %1 % opaque</source>
+        <translation>, zu %1 % deckend</translation>
+    </message>
+</context>
+<context>
     <name>VELIX::DialogAbout</name>
     <message>
         <source>About VELIX</source>
@@ -39,12 +124,16 @@
         <translation>Stand: %1</translation>
     </message>
     <message>
-        <source>Made with Qt %1, under the GNU Lesser General Public License, version 3</source>
-        <translation>Erstellt mit Qt %1 unter der GNU Lesser General Public License, Version 3</translation>
-    </message>
-    <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Licences</source>
+        <translation>&amp;Lizenzen</translation>
+    </message>
+    <message>
+        <source>Text of the licence</source>
+        <translation>Text der Lizenz</translation>
     </message>
 </context>
 <context>
@@ -258,6 +347,10 @@
         <source>The list could not be saved as %1: %2</source>
         <translation>Die Liste konnte nicht als %1 gespeichert werden: %2</translation>
     </message>
+    <message>
+        <source>No record loaded</source>
+        <translation>Keine Aufzeichnung geladen</translation>
+    </message>
 </context>
 <context>
     <name>VELIX::DialogDataGraph</name>
@@ -300,6 +393,18 @@
     <message>
         <source>Snapshot copied to the clipboard.</source>
         <translation>Schnappschuss in die Zwischenablage kopiert.</translation>
+    </message>
+    <message>
+        <source>Graph</source>
+        <translation>Graph</translation>
+    </message>
+    <message>
+        <source>No record loaded</source>
+        <translation>Keine Aufzeichnung geladen</translation>
+    </message>
+    <message>
+        <source>No parameter selected</source>
+        <translation>Keine Parameter ausgewählt</translation>
     </message>
 </context>
 <context>
@@ -476,10 +581,6 @@
 <context>
     <name>VELIX::DialogExportCsvOptions</name>
     <message>
-        <source>Every row has every column</source>
-        <translation>Jede Zeile hat alle Spalten</translation>
-    </message>
-    <message>
         <source>CSV Export</source>
         <translation>CSV-Export</translation>
     </message>
@@ -516,12 +617,6 @@
         <translation>Nur ausgewählte Parameter</translation>
     </message>
     <message>
-        <source>Parameters that have no sample at a time leave an empty cell.
-Without this, the cells after it move to the left.</source>
-        <translation>Parameter ohne Messwert zu einem Zeitpunkt lassen eine leere Zelle.
-Ohne diese Option rücken die folgenden Zellen nach links.</translation>
-    </message>
-    <message>
         <source>Limiter</source>
         <translation>Trennzeichen</translation>
     </message>
@@ -533,6 +628,22 @@ Ohne diese Option rücken die folgenden Zellen nach links.</translation>
         <source>Parameter Selection</source>
         <translation>Parameterauswahl</translation>
     </message>
+    <message>
+        <source>Aligned columns</source>
+        <translation>Ausgerichtete Spalten</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Without this, cells move left where a sample is missing</source>
+        <translation>Sonst rücken Zellen nach links, wo ein Messwert fehlt</translation>
+    </message>
+    <message>
+        <source>no parameter is selected or has samples</source>
+        <translation>kein Parameter ist ausgewählt oder hat Messwerte</translation>
+    </message>
 </context>
 <context>
     <name>VELIX::DialogExportCsvPath</name>
@@ -543,6 +654,162 @@ Ohne diese Option rücken die folgenden Zellen nach links.</translation>
     <message>
         <source>Save CSV Export</source>
         <translation>CSV-Export speichern</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogExportKml</name>
+    <message>
+        <source>KML Export for Virtual Globes</source>
+        <translation>KML-Export für virtuelle Globen</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogExportKmlOptions</name>
+    <message>
+        <source>Draw Polygon</source>
+        <translation>Polygon zeichnen</translation>
+    </message>
+    <message>
+        <source>Standard KML 2.2</source>
+        <translation>Standard-KML 2.2</translation>
+    </message>
+    <message>
+        <source>Polygon color</source>
+        <translation>Polygonfarbe</translation>
+    </message>
+    <message>
+        <source>KML Export</source>
+        <translation>KML-Export</translation>
+    </message>
+    <message>
+        <source>Select KML Option</source>
+        <translation>KML-Optionen wählen</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source>Line color</source>
+        <translation>Linienfarbe</translation>
+    </message>
+    <message>
+        <source>A curtain from the path down to the ground</source>
+        <translation>Ein Vorhang von der Flugbahn bis zum Boden</translation>
+    </message>
+    <message>
+        <source>Line Style</source>
+        <translation>Linienstil</translation>
+    </message>
+    <message>
+        <source>Line width</source>
+        <translation>Linienbreite</translation>
+    </message>
+    <message>
+        <source>For programs that refuse files or colors of the usual form</source>
+        <translation>Für Programme, die Dateien oder Farben der üblichen Form ablehnen</translation>
+    </message>
+    <message>
+        <source>Timestamp every :</source>
+        <translation>Zeitstempel alle:</translation>
+    </message>
+    <message>
+        <source>Select Line Color</source>
+        <translation>Linienfarbe wählen</translation>
+    </message>
+    <message>
+        <source>Select Polygon Color</source>
+        <translation>Polygonfarbe wählen</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogExportKmlPath</name>
+    <message>
+        <source>KML Export</source>
+        <translation>KML-Export</translation>
+    </message>
+    <message>
+        <source>A name that ends in &quot;.kmz&quot; makes a compressed file.</source>
+        <translation>Ein Name mit der Endung „.kmz“ ergibt eine komprimierte Datei.</translation>
+    </message>
+    <message>
+        <source>This record has no positions. The file will have no flight path.</source>
+        <translation>Diese Aufzeichnung hat keine Positionen. Die Datei wird keine Flugbahn haben.</translation>
+    </message>
+    <message>
+        <source>Save KML Export</source>
+        <translation>KML-Export speichern</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogExportKmlPlacemark</name>
+    <message>
+        <source>Draw selected parameters as placemarks</source>
+        <translation>Ausgewählte Parameter als Ortsmarken zeichnen</translation>
+    </message>
+    <message>
+        <source>Show Limit exceedance / Warning Lamps</source>
+        <translation>Grenzwertüberschreitungen und Warnlampen zeigen</translation>
+    </message>
+    <message>
+        <source>Limit Exceedance</source>
+        <translation>Grenzwertüberschreitungen</translation>
+    </message>
+    <message>
+        <source>Warning Lamps</source>
+        <translation>Warnlampen</translation>
+    </message>
+    <message>
+        <source>KML Export</source>
+        <translation>KML-Export</translation>
+    </message>
+    <message>
+        <source>Select KML Placemarks</source>
+        <translation>KML-Ortsmarken wählen</translation>
+    </message>
+    <message>
+        <source> samples</source>
+        <translation> Messwerte</translation>
+    </message>
+    <message>
+        <source>Path points</source>
+        <translation>Bahnpunkte</translation>
+    </message>
+    <message>
+        <source>Placemarks of parameters</source>
+        <translation>Ortsmarken von Parametern</translation>
+    </message>
+    <message>
+        <source>Placemarks of events</source>
+        <translation>Ortsmarken von Ereignissen</translation>
+    </message>
+    <message>
+        <source>Placemark Color</source>
+        <translation>Ortsmarkenfarbe</translation>
+    </message>
+    <message>
+        <source>Exceedance Placemark Color</source>
+        <translation>Ortsmarkenfarbe der Ereignisse</translation>
+    </message>
+    <message>
+        <source>Placemark every</source>
+        <translation>Ortsmarke alle</translation>
+    </message>
+    <message>
+        <source>the record has no positions</source>
+        <translation>die Aufzeichnung hat keine Positionen</translation>
+    </message>
+    <message>
+        <source>no parameter is selected</source>
+        <translation>kein Parameter ist ausgewählt</translation>
+    </message>
+    <message>
+        <source>Select Placemark Color</source>
+        <translation>Ortsmarkenfarbe wählen</translation>
+    </message>
+    <message>
+        <source>Select Exceedance Placemark Color</source>
+        <translation>Ortsmarkenfarbe der Ereignisse wählen</translation>
     </message>
 </context>
 <context>
@@ -647,68 +914,12 @@ Ohne diese Option rücken die folgenden Zellen nach links.</translation>
         <translation>&amp;Hilfe</translation>
     </message>
     <message>
-        <source>Main Toolbar</source>
-        <translation>Hauptwerkzeugleiste</translation>
-    </message>
-    <message>
-        <source>Variant</source>
-        <translation>Variante</translation>
-    </message>
-    <message>
-        <source>Variant of the profile</source>
-        <translation>Variante des Profils</translation>
-    </message>
-    <message>
-        <source>All variants</source>
-        <translation>Alle Varianten</translation>
-    </message>
-    <message>
-        <source>Units</source>
-        <translation>Einheiten</translation>
-    </message>
-    <message>
-        <source>Unit system of all values</source>
-        <translation>Einheitensystem aller Werte</translation>
-    </message>
-    <message>
-        <source>Metric</source>
-        <translation>Metrisch</translation>
-    </message>
-    <message>
-        <source>Imperial</source>
-        <translation>Imperial</translation>
-    </message>
-    <message>
         <source>VELIX %1</source>
         <translation>VELIX %1</translation>
     </message>
     <message>
         <source>Open SD Card</source>
         <translation>SD-Karte öffnen</translation>
-    </message>
-    <message>
-        <source>The folder %1 cannot be opened.</source>
-        <translation>Der Ordner %1 lässt sich nicht öffnen.</translation>
-    </message>
-    <message>
-        <source>The folder %1 cannot be opened. Is the card in its reader?</source>
-        <translation>Der Ordner %1 lässt sich nicht öffnen. Steckt die Datenkarte im Leser?</translation>
-    </message>
-    <message>
-        <source>VELIX Viewer Warning</source>
-        <translation>VELIX Viewer – Warnung</translation>
-    </message>
-    <message>
-        <source>Exporting CSV file failed !</source>
-        <translation>Der Export der CSV-Datei ist fehlgeschlagen.</translation>
-    </message>
-    <message>
-        <source>Written to %1</source>
-        <translation>Geschrieben nach %1</translation>
-    </message>
-    <message>
-        <source>Loading %1...</source>
-        <translation>Lade %1...</translation>
     </message>
     <message>
         <source>Load a cycle or a flight to export it</source>
@@ -771,16 +982,80 @@ Replace it ?</source>
 Soll die Datei ersetzt werden?</translation>
     </message>
     <message>
-        <source>%1 of card %2</source>
-        <translation>%1 der Karte %2</translation>
-    </message>
-    <message>
         <source>The project of the last run could not be read. It is kept as %1.</source>
         <translation>Das Projekt des letzten Laufs war nicht lesbar. Es bleibt als %1 erhalten.</translation>
     </message>
     <message>
         <source>%1 is not a VELIX project. Saving will not write to it.</source>
         <translation>%1 ist kein VELIX-Projekt. Beim Speichern bleibt die Datei unberührt.</translation>
+    </message>
+    <message>
+        <source>d MMMM yyyy, hh:mm &apos;UTC&apos;</source>
+        <extracomment>Format of a date and time of day on paper</extracomment>
+        <translation>d. MMMM yyyy, hh:mm &apos;UTC&apos;</translation>
+    </message>
+    <message>
+        <source>The profile %1 cannot be read.</source>
+        <translation>Das Profil %1 ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>This page cannot be printed. The graph, the event lists and the tow statistic can.</source>
+        <translation>Diese Seite lässt sich nicht drucken. Das geht mit Graph, Ereignislisten und Schleppstatistik.</translation>
+    </message>
+    <message>
+        <source>Nothing has changed since the project was saved</source>
+        <translation>Seit dem Speichern des Projekts hat sich nichts geändert</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogPreferences</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Map</source>
+        <translation>Karte</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>VELIX Info</source>
+        <translation>VELIX – Information</translation>
+    </message>
+    <message>
+        <source>Please restart VELIX to load new language !</source>
+        <translation>Die neue Sprache gilt nach einem Neustart von VELIX.</translation>
+    </message>
+    <message>
+        <source>Restart now</source>
+        <translation>Jetzt neu starten</translation>
+    </message>
+    <message>
+        <source>Restart later: changes will not applied until next restart</source>
+        <translation>Später neu starten: Die Änderung gilt erst dann</translation>
+    </message>
+    <message>
+        <source>Select Profile File</source>
+        <translation>Profildatei wählen</translation>
+    </message>
+    <message>
+        <source>VELIX Profile (*.xml);;All files (*.*)</source>
+        <translation>VELIX-Profile (*.xml);;Alle Dateien (*.*)</translation>
+    </message>
+    <message>
+        <source>%1 is not a VELIX profile.</source>
+        <translation>%1 ist kein VELIX-Profil.</translation>
     </message>
 </context>
 <context>
@@ -816,6 +1091,18 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>Show the ticked parameters in all views</source>
         <translation>Die angekreuzten Parameter in allen Ansichten zeigen</translation>
+    </message>
+    <message>
+        <source>Select &amp;All Shown</source>
+        <translation>&amp;Angezeigte auswählen</translation>
+    </message>
+    <message>
+        <source>Select &amp;None Shown</source>
+        <translation>Angezeigte a&amp;bwählen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>%1 von %2 ausgewählt</translation>
     </message>
 </context>
 <context>
@@ -904,14 +1191,56 @@ Soll die Datei ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>VELIX::ExportColorButton</name>
+    <message>
+        <source>Select</source>
+        <translation>Wählen</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::ExportController</name>
+    <message>
+        <source>Writing %1</source>
+        <translation>Schreibe %1</translation>
+    </message>
+    <message>
+        <source>The export was cancelled. Nothing was written.</source>
+        <translation>Der Export wurde abgebrochen. Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>Written to %1</source>
+        <translation>Geschrieben nach %1</translation>
+    </message>
+    <message>
+        <source>KML Export</source>
+        <translation>KML-Export</translation>
+    </message>
+    <message>
+        <source>VELIX Warning</source>
+        <translation>VELIX – Warnung</translation>
+    </message>
+    <message>
+        <source>Exporting KML file failed !</source>
+        <translation>Der Export der KML-Datei ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>CSV Export</source>
+        <translation>CSV-Export</translation>
+    </message>
+    <message>
+        <source>VELIX Viewer Warning</source>
+        <translation>VELIX Viewer – Warnung</translation>
+    </message>
+    <message>
+        <source>Exporting CSV file failed !</source>
+        <translation>Der Export der CSV-Datei ist fehlgeschlagen.</translation>
+    </message>
+</context>
+<context>
     <name>VELIX::ExportPathPage</name>
     <message>
         <source>Select the output directory and file</source>
         <translation>Ausgabeordner und Datei wählen</translation>
-    </message>
-    <message>
-        <source>Browse...</source>
-        <translation>Durchsuchen...</translation>
     </message>
     <message>
         <source>Export Path</source>
@@ -950,6 +1279,21 @@ Soll die Datei ersetzt werden?</translation>
 Replace it ?</source>
         <translation>Die Datei „%1“ ist bereits vorhanden.
 Soll sie ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>Bro&amp;wse...</source>
+        <translation>Dur&amp;chsuchen...</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::ExportSummary</name>
+    <message>
+        <source>What will be written</source>
+        <translation>Was geschrieben wird</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
     </message>
 </context>
 <context>
@@ -1107,6 +1451,37 @@ Soll sie ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>VELIX::Licences</name>
+    <message>
+        <source>All rights reserved</source>
+        <translation>Alle Rechte vorbehalten</translation>
+    </message>
+    <message>
+        <source>GNU C++ library</source>
+        <translation>GNU-C++-Bibliothek</translation>
+    </message>
+    <message>
+        <source>GNU GPL 3 with exception</source>
+        <translation>GNU GPL 3 mit Ausnahme</translation>
+    </message>
+    <message>
+        <source>DejaVu fonts</source>
+        <translation>DejaVu-Schriften</translation>
+    </message>
+    <message>
+        <source>Bitstream Vera</source>
+        <translation>Bitstream Vera</translation>
+    </message>
+    <message>
+        <source>Map data</source>
+        <translation>Kartendaten</translation>
+    </message>
+    <message>
+        <source>Public domain, ODbL</source>
+        <translation>Gemeinfrei, ODbL</translation>
+    </message>
+</context>
+<context>
     <name>VELIX::MainActions</name>
     <message>
         <source>&amp;New Project</source>
@@ -1187,6 +1562,208 @@ Soll sie ersetzt werden?</translation>
     <message>
         <source>Show License Information</source>
         <translation>Lizenzhinweise zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Print ...</source>
+        <translation>D&amp;rucken ...</translation>
+    </message>
+    <message>
+        <source>Print the page in front</source>
+        <translation>Die vordere Seite drucken</translation>
+    </message>
+    <message>
+        <source>Save as PDF ...</source>
+        <translation>Als PDF speichern ...</translation>
+    </message>
+    <message>
+        <source>Save the page in front as a PDF file</source>
+        <translation>Die vordere Seite als PDF-Datei speichern</translation>
+    </message>
+    <message>
+        <source>Export Google KML File</source>
+        <translation>Google-KML-Datei exportieren</translation>
+    </message>
+    <message>
+        <source>Export Google Earth KML File</source>
+        <translation>Google-Earth-KML-Datei exportieren</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Open Preferences Dialog</source>
+        <translation>Einstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Help Window</source>
+        <translation>Hilfefenster</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::MainToolBar</name>
+    <message>
+        <source>Main Toolbar</source>
+        <translation>Hauptwerkzeugleiste</translation>
+    </message>
+    <message>
+        <source>&amp;Variant</source>
+        <translation>&amp;Variante</translation>
+    </message>
+    <message>
+        <source>Variant of the profile</source>
+        <translation>Variante des Profils</translation>
+    </message>
+    <message>
+        <source>All variants</source>
+        <translation>Alle Varianten</translation>
+    </message>
+    <message>
+        <source>&amp;Units</source>
+        <translation>E&amp;inheiten</translation>
+    </message>
+    <message>
+        <source>Unit system of all values</source>
+        <translation>Einheitensystem aller Werte</translation>
+    </message>
+    <message>
+        <source>Metric</source>
+        <translation>Metrisch</translation>
+    </message>
+    <message>
+        <source>Imperial</source>
+        <translation>Imperial</translation>
+    </message>
+    <message>
+        <source>The profile has no variants</source>
+        <translation>Das Profil hat keine Varianten</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::PreferencesGeneral</name>
+    <message>
+        <source>&amp;Select...</source>
+        <translation>&amp;Wählen...</translation>
+    </message>
+    <message>
+        <source>&amp;Use Installed Profile</source>
+        <translation>&amp;Installiertes Profil</translation>
+    </message>
+    <message>
+        <source>Use a profile file where it lies, without installing it</source>
+        <translation>Eine Profildatei von ihrem Ort aus nutzen, ohne sie zu installieren</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;Font size</source>
+        <translation>Sch&amp;riftgröße</translation>
+    </message>
+    <message>
+        <source>&amp;Profile file</source>
+        <translation>&amp;Profildatei</translation>
+    </message>
+    <message>
+        <source>Go back to the profile that was installed</source>
+        <translation>Zum installierten Profil zurückkehren</translation>
+    </message>
+    <message>
+        <source>The installed profile is in use</source>
+        <translation>Das installierte Profil ist in Gebrauch</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::PreferencesMap</name>
+    <message>
+        <source>&amp;Shade the terrain</source>
+        <translation>Gelände &amp;schattieren</translation>
+    </message>
+    <message>
+        <source>Base address of the server; zoom, x and y of a tile follow</source>
+        <translation>Grundadresse des Servers; Zoomstufe, x und y einer Kachel folgen</translation>
+    </message>
+    <message>
+        <source>&amp;Defaults</source>
+        <translation>Standar&amp;dwerte</translation>
+    </message>
+    <message>
+        <source>&amp;Tile server</source>
+        <translation>&amp;Kachelserver</translation>
+    </message>
+    <message>
+        <source>&amp;Contrast</source>
+        <translation>K&amp;ontrast</translation>
+    </message>
+    <message>
+        <source>&amp;Brightness</source>
+        <translation>&amp;Helligkeit</translation>
+    </message>
+    <message>
+        <source>F&amp;actor</source>
+        <translation>&amp;Faktor</translation>
+    </message>
+    <message>
+        <source>The terrain is not shaded</source>
+        <translation>Das Gelände wird nicht schattiert</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::PrintController</name>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
+    </message>
+    <message>
+        <source>Sent to the printer %1.</source>
+        <translation>An den Drucker %1 gesendet.</translation>
+    </message>
+    <message>
+        <source>The printer %1 does not answer.</source>
+        <translation>Der Drucker %1 antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>Save as PDF</source>
+        <translation>Als PDF speichern</translation>
+    </message>
+    <message>
+        <source>PDF files (*.pdf)</source>
+        <translation>PDF-Dateien (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Saved as %1.</source>
+        <translation>Gespeichert als %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 could not be written: %2</source>
+        <translation>Die Datei %1 ließ sich nicht schreiben: %2</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::PrintPages</name>
+    <message>
+        <source>Page %1 of %2</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::RecentMenu</name>
+    <message>
+        <source>&amp;Recent Cards</source>
+        <translation>Letzte &amp;Karten</translation>
+    </message>
+    <message>
+        <source>Recent Pro&amp;jects</source>
+        <translation>Letzte Pro&amp;jekte</translation>
+    </message>
+    <message>
+        <source>None opened yet</source>
+        <translation>Noch keine geöffnet</translation>
     </message>
 </context>
 <context>
