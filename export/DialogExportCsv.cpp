@@ -5,6 +5,7 @@
 #include "export/DialogExportCsvPath.h"
 
 #include <limits>
+#include <utility>
 
 namespace VELIX {
 
@@ -24,14 +25,15 @@ char delimiter(int code)
 
 } // namespace
 
-DialogExportCsv::DialogExportCsv(Property& settings, DialogService& dialogs, QWidget* parent)
-    : QWizard(parent), mSettings(settings)
+DialogExportCsv::DialogExportCsv(Property& settings, DialogService& dialogs, RowCounter rows,
+                                 QWidget* parent)
+    : QWizard(parent), mSettings(settings), mRows(std::move(rows))
 {
     setWindowTitle(tr("CSV Export"));
     setWizardStyle(QWizard::ModernStyle);
     setOption(QWizard::NoBackButtonOnStartPage);
     addPage(new DialogExportCsvPath(dialogs, mOptions, this));
-    addPage(new DialogExportCsvOptions(mOptions, this));
+    addPage(new DialogExportCsvOptions(mOptions, mRows, this));
 }
 
 bool DialogExportCsv::getOptions(CsvExportOptions& options)

@@ -4,6 +4,9 @@
 
 #include <QWizard>
 
+#include <cstddef>
+#include <functional>
+
 namespace VELIX {
 
 class DialogService;
@@ -15,7 +18,12 @@ class DialogExportCsv : public QWizard
     Q_OBJECT
 
 public:
-    DialogExportCsv(Property& settings, DialogService& dialogs, QWidget* parent = nullptr);
+    /// Says how many rows an export of the record in hand would write; called on every change of
+    /// the options.
+    using RowCounter = std::function<std::size_t(const CsvExportOptions&)>;
+
+    DialogExportCsv(Property& settings, DialogService& dialogs, RowCounter rows,
+                    QWidget* parent = nullptr);
 
     /// Asks the user; false if the wizard was cancelled: neither `options` nor settings change.
     [[nodiscard]] bool getOptions(CsvExportOptions& options);
@@ -30,6 +38,7 @@ public:
 
 private:
     Property& mSettings;
+    RowCounter mRows;
     CsvExportOptions mOptions;
 };
 

@@ -1,15 +1,19 @@
 #include "export/DialogExportCsvOptions.h"
 
 #include "export/CsvExportOptions.h"
+#include "export/ExportSummary.h"
 #include "gui/QwtComboBox.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
+#include <QLabel>
+#include <QVariant>
 
 namespace VELIX {
 
 namespace {
 
+constexpr int kGap = 8;
 constexpr int kAllParameters = 0;
 constexpr int kSelectedParameters = 1;
 
@@ -27,13 +31,16 @@ void select(QwtComboBox& box, int data, Function store)
 
 } // namespace
 
-DialogExportCsvOptions::DialogExportCsvOptions(CsvExportOptions& options, QWidget* parent)
+DialogExportCsvOptions::DialogExportCsvOptions(CsvExportOptions& options, const RowCounter& rows,
+                                               QWidget* parent)
     : QWizardPage(parent),
       mOptions(options),
+      mRows(rows),
       mLimiter(new QwtComboBox(this)),
       mResolution(new QwtComboBox(this)),
       mParameter(new QwtComboBox(this)),
-      mAligned(new QCheckBox(tr("Every row has every column"), this))
+      mAligned(new QCheckBox(tr("Aligned columns"), this)),
+      mSummary(new ExportSummary(this))
 {
     setTitle(tr("CSV Export"));
     setSubTitle(tr("Select CSV Option"));
@@ -50,8 +57,7 @@ void DialogExportCsvOptions::createControls()
     mResolution->addItem(tr("10 ms"), 10);
     mParameter->addItem(tr("All Parameter"), kAllParameters);
     mParameter->addItem(tr("Selected Parameter only"), kSelectedParameters);
-    mAligned->setToolTip(tr("Parameters that have no sample at a time leave an empty cell.\n"
-                            "Without this, the cells after it move to the left."));
+    mSummary->addLine(tr("Rows"));
 
     mLimiter->setObjectName(QStringLiteral("csvLimiter"));
     mResolution->setObjectName(QStringLiteral("csvResolution"));
@@ -69,10 +75,15 @@ void DialogExportCsvOptions::createLayout()
 {
     auto* layout = new QFormLayout(this);
     layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    layout->setSpacing(kGap);
     layout->addRow(tr("Limiter"), mLimiter);
     layout->addRow(tr("Resolution"), mResolution);
     layout->addRow(tr("Parameter Selection"), mParameter);
     layout->addRow(QString(), mAligned);
+    auto* reason = new QLabel(tr("Without this, cells move left where a sample is missing"), this);
+    reason->setProperty("role", QStringLiteral("muted"));
+    layout->addRow(QString(), reason);
+    layout->addRow(mSummary);
 }
 
 void DialogExportCsvOptions::initializePage()
@@ -81,6 +92,17 @@ void DialogExportCsvOptions::initializePage()
     select(*mResolution, mOptions.resolution, [this](int ms) { slotResolution(ms); });
     mParameter->selectData(mOptions.allParameters ? kAllParameters : kSelectedParameters);
     mAligned->setChecked(mOptions.aligned);
+    mSummary->setFile(mOptions.directory, mOptions.fileName);
+    updateSummary();
+}
+
+void DialogExportCsvOptions::updateSummary()
+{
+    const std::size_t rows = mRows(mOptions);
+    mSummary->setCount(0, rows,
+                       rows == 0 && !mOptions.allParameters
+                           ? tr("no parameter is selected or has samples")
+                           : QString());
 }
 
 void DialogExportCsvOptions::slotLimiter(int code)
@@ -91,11 +113,13 @@ void DialogExportCsvOptions::slotLimiter(int code)
 void DialogExportCsvOptions::slotResolution(int milliseconds)
 {
     mOptions.resolution = milliseconds;
+    updateSummary();
 }
 
 void DialogExportCsvOptions::slotParameter(int index)
 {
     mOptions.allParameters = index != kSelectedParameters;
+    updateSummary();
 }
 
 void DialogExportCsvOptions::slotAligned(bool on)

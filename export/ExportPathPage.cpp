@@ -1,7 +1,7 @@
 #include "export/ExportPathPage.h"
 
+#include "export/ExportNote.h"
 #include "gui/DialogService.h"
-#include "gui/ImageHandler.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -14,7 +14,6 @@ namespace VELIX {
 
 namespace {
 
-constexpr int kIconSize = 16;
 constexpr int kGap = 8;
 
 } // namespace
@@ -27,8 +26,8 @@ ExportPathPage::ExportPathPage(DialogService& dialogs, std::string& directory,
       mFileName(fileName),
       mPathEdit(new QLineEdit(this)),
       mFileEdit(new QLineEdit(this)),
-      mProblemIcon(new QLabel(this)),
-      mProblem(new QLabel(this))
+      mProblem(new ExportNote(this)),
+      mRemark(new ExportNote(this))
 {
     setSubTitle(tr("Select the output directory and file"));
     createLayout();
@@ -38,24 +37,20 @@ ExportPathPage::ExportPathPage(DialogService& dialogs, std::string& directory,
 
 void ExportPathPage::createLayout()
 {
-    auto* browse = new QPushButton(tr("Browse..."), this);
+    auto* browse = new QPushButton(tr("Bro&wse..."), this);
+    browse->setAutoDefault(false);
     connect(browse, &QPushButton::clicked, this, &ExportPathPage::slotPathSelect);
     auto* pathLabel = new QLabel(tr("Export Path"), this);
     auto* fileLabel = new QLabel(tr("Export Filename"), this);
     pathLabel->setBuddy(mPathEdit);
     fileLabel->setBuddy(mFileEdit);
 
-    mProblemIcon->setPixmap(
-        ImageHandler::instance().icon(QStringLiteral("warning")).pixmap(kIconSize));
     mPathEdit->setObjectName(QStringLiteral("exportPath"));
     mFileEdit->setObjectName(QStringLiteral("exportFile"));
     mProblem->setObjectName(QStringLiteral("exportProblem"));
-    mProblem->setTextFormat(Qt::PlainText);
-    mProblem->setWordWrap(true);
-    auto* problem = new QHBoxLayout;
-    problem->setSpacing(kGap);
-    problem->addWidget(mProblemIcon, 0, Qt::AlignTop);
-    problem->addWidget(mProblem, 1);
+    mRemark->setObjectName(QStringLiteral("exportRemark"));
+    setTabOrder(mPathEdit, browse);
+    setTabOrder(browse, mFileEdit);
 
     auto* layout = new QGridLayout(this);
     layout->setHorizontalSpacing(kGap);
@@ -65,9 +60,9 @@ void ExportPathPage::createLayout()
     layout->addWidget(browse, 0, 2);
     layout->addWidget(fileLabel, 1, 0);
     layout->addWidget(mFileEdit, 1, 1, 1, 2);
-    layout->addLayout(problem, 2, 1, 1, 2);
-    layout->setRowStretch(3, 1);
-    showProblem({});
+    layout->addWidget(mProblem, 2, 1, 1, 2);
+    layout->addWidget(mRemark, 3, 1, 1, 2);
+    layout->setRowStretch(4, 1);
 }
 
 void ExportPathPage::initializePage()
@@ -77,7 +72,8 @@ void ExportPathPage::initializePage()
     }
     mPathEdit->setText(directory());
     mFileEdit->setText(fileName());
-    showProblem({});
+    mProblem->setNote({});
+    mReplaced.clear();
 }
 
 QString ExportPathPage::directory() const
@@ -117,26 +113,34 @@ QString ExportPathPage::problem(const QString& directory, const QString& fileNam
 bool ExportPathPage::validatePage()
 {
     const QString sentence = problem(directory(), fileName());
-    showProblem(sentence);
+    mProblem->setNote(sentence);
     if (!sentence.isEmpty()) {
         return false;
     }
-    return !QFileInfo::exists(QDir(directory()).filePath(fileName())) ||
-           mDialogs.confirm(this, title(),
-                            tr("The file \"%1\" exists already.\nReplace it ?").arg(fileName()));
+    const QString file = QDir(directory()).filePath(fileName());
+    if (!QFileInfo::exists(file) || file == mReplaced) {
+        return true;
+    }
+    const bool agreed = mDialogs.confirm(
+        this, title(), tr("The file \"%1\" exists already.\nReplace it ?").arg(fileName()));
+    mReplaced = agreed ? file : QString();
+    return agreed;
 }
 
-void ExportPathPage::showProblem(const QString& sentence)
+void ExportPathPage::setRemark(const QString& sentence)
 {
-    mProblemIcon->setVisible(!sentence.isEmpty());
-    mProblem->setVisible(!sentence.isEmpty());
-    mProblem->setText(sentence);
+    mRemark->setNote(sentence);
+}
+
+void ExportPathPage::setFileHint(const QString& sentence)
+{
+    mFileEdit->setToolTip(sentence);
 }
 
 void ExportPathPage::slotPath(const QString& path)
 {
     mDirectory = path.toStdString();
-    showProblem({});
+    mProblem->setNote({});
 }
 
 void ExportPathPage::slotPathSelect()
@@ -150,7 +154,7 @@ void ExportPathPage::slotPathSelect()
 void ExportPathPage::slotFile(const QString& file)
 {
     mFileName = file.toStdString();
-    showProblem({});
+    mProblem->setNote({});
 }
 
 } // namespace VELIX

@@ -4,12 +4,12 @@
 
 #include <string>
 
-class QLabel;
 class QLineEdit;
 
 namespace VELIX {
 
 class DialogService;
+class ExportNote;
 
 /// The first page of an export wizard: folder and name of the file to write.
 ///
@@ -32,6 +32,10 @@ public:
 protected:
     /// Title of the folder chooser.
     virtual QString chooserTitle() const = 0;
+    /// What the user should know before anything is written; none takes it away.
+    void setRemark(const QString& sentence);
+    /// What a name of the file can bring about, told where the mouse rests on it.
+    void setFileHint(const QString& sentence);
 
 private slots:
     void slotPath(const QString& path);
@@ -40,7 +44,6 @@ private slots:
 
 private:
     void createLayout();
-    void showProblem(const QString& sentence);
     QString directory() const;
     QString fileName() const;
 
@@ -49,8 +52,9 @@ private:
     std::string& mFileName;
     QLineEdit* mPathEdit;
     QLineEdit* mFileEdit;
-    QLabel* mProblemIcon;
-    QLabel* mProblem;
+    ExportNote* mProblem;
+    ExportNote* mRemark;
+    QString mReplaced; ///< the existing file that the user agreed to replace
 };
 
 } // namespace VELIX

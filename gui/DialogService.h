@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QString>
 
 class QPrinter;
@@ -34,6 +35,10 @@ public:
     /// An information with two answers of its own; true for `accept`. Closing the box declines.
     virtual bool choose(QWidget* parent, const QString& title, const QString& text,
                         const QString& accept, const QString& decline) = 0;
+
+    /// A colour, with `opacity` also how much it covers; invalid if the user cancelled.
+    virtual QColor color(QWidget* parent, const QString& title, const QColor& start,
+                         bool opacity) = 0;
 
     /// Lets the user choose a printer and set it up; false if the user cancelled.
     virtual bool choosePrinter(QWidget* parent, QPrinter& printer, const QString& title) = 0;

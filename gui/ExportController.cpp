@@ -1,10 +1,13 @@
 #include "gui/ExportController.h"
 
 #include "card/CardContainer.h"
+#include "core/Property.h"
 #include "export/DialogExportCsv.h"
+#include "export/DialogExportKml.h"
 #include "gui/DialogService.h"
 
 #include <QDir>
+#include <QScopedValueRollback>
 
 namespace VELIX {
 
@@ -14,7 +17,18 @@ ExportController::ExportController(const AppContext& context, DialogService& dia
       mContext(context),
       mDialogs(dialogs),
       mWindow(window),
-      mDialogExportCsv(new DialogExportCsv(context.settings, dialogs, window))
+      mDialogExportKml(new DialogExportKml(
+          context.settings, dialogs,
+          [this](const KmlExportOptions& options) {
+              return mExportKml.summary(mContext.card.recordData(), options);
+          },
+          window)),
+      mDialogExportCsv(new DialogExportCsv(
+          context.settings, dialogs,
+          [this](const CsvExportOptions& options) {
+              return mExportCsv.rows(mContext.card.recordData(), options);
+          },
+          window))
 {}
 
 void ExportController::takeProfile()
@@ -30,8 +44,15 @@ bool ExportController::write(Engine& engine, const Options& options, const QStri
     const QString file = folder.absoluteFilePath(QString::fromStdString(options.fileName));
     int written = 0;
     {
+        const QScopedValueRollback<bool> writing(mWriting, true);
         ExportProgressBox box(mWindow, title, tr("Writing %1").arg(file), mPatience);
+        engine.setProgress([&box](int percent) { return box.report(percent); });
         written = engine.exportData(mContext.card.recordData(), options);
+        engine.setProgress({});
+    }
+    if (engine.cancelled()) {
+        emit signalNotice(tr("The export was cancelled. Nothing was written."));
+        return true;
     }
     if (written == 0) {
         emit signalNotice(engine.lastError());
@@ -39,6 +60,26 @@ bool ExportController::write(Engine& engine, const Options& options, const QStri
     }
     emit signalNotice(tr("Written to %1").arg(file));
     return true;
+}
+
+QString ExportController::kmlFileName(const QString& cardPath)
+{
+    const QString folder = QDir::cleanPath(cardPath).section(QLatin1Char('/'), -1);
+    const QString name = folder.section(QLatin1Char('.'), 0, 0);
+    return (name.isEmpty() ? QStringLiteral("ExportVelix") : name) + QStringLiteral(".kml");
+}
+
+void ExportController::exportKml()
+{
+    takeProfile();
+    KmlExportOptions options;
+    options.fileName =
+        kmlFileName(QString::fromStdString(mContext.settings.getString("LastPath", {})))
+            .toStdString();
+    options.parameters = mProfile.selectedParameters();
+    if (mDialogExportKml->getOptions(options) && !write(mExportKml, options, tr("KML Export"))) {
+        mDialogs.critical(mWindow, tr("VELIX Warning"), tr("Exporting KML file failed !"));
+    }
 }
 
 void ExportController::exportCsv()

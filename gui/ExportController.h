@@ -1,19 +1,19 @@
 #pragma once
 
 #include "export/ExportCsv.h"
+#include "export/ExportKml.h"
 #include "gui/AppContext.h"
 #include "gui/ExportProgressBox.h"
 #include "profile/Profile.h"
 
 #include <QObject>
 
-#include <functional>
-
 class QWidget;
 
 namespace VELIX {
 
 class DialogExportCsv;
+class DialogExportKml;
 class DialogService;
 
 /// What happens from the menu entry of an export to the written file: the wizard, the writing with
@@ -26,7 +26,13 @@ public:
     /// window: what boxes and wizards stand before; it outlives this.
     ExportController(const AppContext& context, DialogService& dialogs, QWidget* window);
 
+    void exportKml();
     void exportCsv();
+    /// Whether a file is being written. What is loaded must stay as it is until that ends.
+    bool isWriting() const { return mWriting; }
+
+    /// The file name that is offered for a card: that of its folder, up to the first dot.
+    static QString kmlFileName(const QString& cardPath);
 
     /// How long an export may take until its progress is shown, in ms.
     void setPatience(int milliseconds) { mPatience = milliseconds; }
@@ -47,8 +53,11 @@ private:
     /// The profile as it was when the export began. Timers run while progress is shown, and a
     /// replay that goes on decodes positions, whose filter an export must have for itself.
     Profile mProfile;
+    ExportKml mExportKml{mProfile};
     ExportCsv mExportCsv{mProfile};
+    DialogExportKml* mDialogExportKml;
     DialogExportCsv* mDialogExportCsv;
+    bool mWriting = false;
 };
 
 } // namespace VELIX

@@ -1,5 +1,6 @@
 #include "gui/StandardDialogs.h"
 
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPrintDialog>
@@ -69,6 +70,14 @@ bool StandardDialogs::choose(QWidget* parent, const QString& title, const QStrin
     box.setEscapeButton(declined);
     box.exec();
     return box.clickedButton() == accepted;
+}
+
+QColor StandardDialogs::color(QWidget* parent, const QString& title, const QColor& start,
+                              bool opacity)
+{
+    QColorDialog::ColorDialogOptions options;
+    options.setFlag(QColorDialog::ShowAlphaChannel, opacity);
+    return QColorDialog::getColor(start, parent, title, options);
 }
 
 bool StandardDialogs::choosePrinter(QWidget* parent, QPrinter& printer, const QString& title)

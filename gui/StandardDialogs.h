@@ -21,6 +21,8 @@ public:
     bool choose(QWidget* parent, const QString& title, const QString& text, const QString& accept,
                 const QString& decline) override;
 
+    QColor color(QWidget* parent, const QString& title, const QColor& start, bool opacity) override;
+
     bool choosePrinter(QWidget* parent, QPrinter& printer, const QString& title) override;
 
     void information(QWidget* parent, const QString& title, const QString& text) override;

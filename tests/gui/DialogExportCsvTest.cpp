@@ -1,6 +1,6 @@
 #include "export/DialogExportCsv.h"
 
-#include "export/ExportPathPage.h"
+#include "export/ExportNote.h"
 #include "gui/QwtComboBox.h"
 #include "tests/gui/TestProgram.h"
 
@@ -34,9 +34,19 @@ protected:
         edit("exportPath").setText(program.home.path());
     }
     QString subTitle() const { return wizard.currentPage()->subTitle(); }
+    QString label(const char* name) const
+    {
+        return wizard.findChild<QLabel*>(QLatin1String(name))->text();
+    }
+    /// A record with a row per 100 ms of 2 minutes, or ten times as many; all of the selected
+    /// parameters are without samples.
+    static std::size_t rows(const CsvExportOptions& options)
+    {
+        return options.allParameters ? 120000U / static_cast<unsigned>(options.resolution) : 0U;
+    }
 
     TestProgram program;
-    DialogExportCsv wizard{program.settings, program.dialogs};
+    DialogExportCsv wizard{program.settings, program.dialogs, rows};
 };
 
 const QString kPathPage = QStringLiteral("Select the output directory and file");
@@ -44,18 +54,11 @@ const QString kOptionsPage = QStringLiteral("Select CSV Option");
 
 } // namespace
 
-TEST_F(DialogExportCsvTest, StartsWithDefaults)
+TEST_F(DialogExportCsvTest, SaysWhatIsWrongWithAPlaceAndStaysThere)
 {
     wizard.loadOptions();
     EXPECT_EQ(edit("exportPath").text(), QStringLiteral("."));
     EXPECT_EQ(edit("exportFile").text(), QStringLiteral("ExportVelix.csv"));
-    EXPECT_EQ(wizard.options().delimiter, ';');
-    EXPECT_EQ(wizard.options().resolution, 100);
-    EXPECT_TRUE(wizard.options().allParameters);
-}
-
-TEST_F(DialogExportCsvTest, SaysWhatIsWrongWithAPlaceAndStaysThere)
-{
     open();
     ASSERT_TRUE(TestProgram::write(program.home.filePath(QStringLiteral("plain")), "x"));
     const QString home = program.home.path();
@@ -77,7 +80,7 @@ TEST_F(DialogExportCsvTest, SaysWhatIsWrongWithAPlaceAndStaysThere)
         {home, QStringLiteral("VELIX"),
          QStringLiteral("\"VELIX\" is a folder. Enter another name.")},
     };
-    const auto* problem = wizard.findChild<QLabel*>(QStringLiteral("exportProblem"));
+    const auto* problem = wizard.findChild<ExportNote*>(QStringLiteral("exportProblem"));
     for (const auto& row : rows) {
         edit("exportPath").setText(row.path);
         edit("exportFile").setText(row.file);
@@ -85,7 +88,7 @@ TEST_F(DialogExportCsvTest, SaysWhatIsWrongWithAPlaceAndStaysThere)
         wizard.next();
         EXPECT_EQ(subTitle(), kPathPage);
         EXPECT_TRUE(problem->isVisible());
-        EXPECT_EQ(problem->text(), row.sentence);
+        EXPECT_EQ(problem->note(), row.sentence);
     }
     edit("exportPath").setText(home);
     edit("exportFile").setText(QStringLiteral("a.csv"));
@@ -93,16 +96,27 @@ TEST_F(DialogExportCsvTest, SaysWhatIsWrongWithAPlaceAndStaysThere)
     EXPECT_EQ(subTitle(), kOptionsPage);
 }
 
-TEST_F(DialogExportCsvTest, AsksBeforeItReplacesAFile)
+TEST_F(DialogExportCsvTest, AsksOnceBeforeItReplacesAFile)
 {
+    for (const char* name : {"ExportVelix.csv", "other.csv"}) {
+        ASSERT_TRUE(TestProgram::write(program.home.filePath(QLatin1String(name)), "x"));
+    }
     open();
-    ASSERT_TRUE(TestProgram::write(program.home.filePath(QStringLiteral("ExportVelix.csv")), "x"));
     wizard.next();
     EXPECT_EQ(subTitle(), kPathPage);
     EXPECT_EQ(program.dialogs.takeAsked().size(), 1);
     program.dialogs.agrees = true;
     wizard.next();
     EXPECT_EQ(subTitle(), kOptionsPage);
+    EXPECT_EQ(program.dialogs.takeAsked().size(), 1);
+
+    wizard.back();
+    wizard.next();
+    EXPECT_TRUE(program.dialogs.takeAsked().isEmpty()); // the answer is known
+    wizard.back();
+    edit("exportFile").setText(QStringLiteral("other.csv"));
+    wizard.next();
+    EXPECT_EQ(program.dialogs.takeAsked().size(), 1);
 }
 
 TEST_F(DialogExportCsvTest, BrowsesForTheFolder)
@@ -117,6 +131,19 @@ TEST_F(DialogExportCsvTest, BrowsesForTheFolder)
     program.dialogs.file = QStringLiteral("/tmp");
     browse->click();
     EXPECT_EQ(wizard.options().directory, "/tmp");
+}
+
+TEST_F(DialogExportCsvTest, SumsUpWhatWillBeWritten)
+{
+    open();
+    wizard.next();
+    EXPECT_EQ(label("summary0"), QStringLiteral("1,200"));
+    EXPECT_EQ(label("summaryFile"), program.home.filePath(QStringLiteral("ExportVelix.csv")));
+    activate("csvResolution", 1);
+    EXPECT_EQ(label("summary0"), QStringLiteral("12,000"));
+    activate("csvParameter", 1);
+    EXPECT_TRUE(label("summary0").startsWith(QStringLiteral("0 ")));
+    EXPECT_TRUE(label("summary0").contains(QStringLiteral("no parameter is selected")));
 }
 
 TEST_F(DialogExportCsvTest, HandsOutTheAnswersAndKeepsThemForNextTime)
@@ -144,8 +171,9 @@ TEST_F(DialogExportCsvTest, HandsOutTheAnswersAndKeepsThemForNextTime)
     EXPECT_EQ(program.storedSetting("CsvLimiter"), QStringLiteral("9"));
     EXPECT_EQ(program.storedSetting("CsvResolution"), QStringLiteral("10"));
     EXPECT_EQ(program.storedSetting("CsvAllParameter"), QStringLiteral("false"));
+    EXPECT_EQ(program.storedSetting("CsvAligned"), QStringLiteral("true"));
 
-    DialogExportCsv next(program.settings, program.dialogs);
+    DialogExportCsv next(program.settings, program.dialogs, rows);
     next.loadOptions();
     EXPECT_EQ(next.options().delimiter, '\t');
     EXPECT_EQ(next.options().fileName, "ExportVelix.csv");

@@ -46,6 +46,16 @@ public:
         note(title, QStringLiteral("%1 [%2|%3]").arg(text, accept, decline));
         return agrees;
     }
+    QColor chosenColor; ///< the next answer to a colour chooser; invalid cancels
+    QColor lastColor;   ///< with which the last colour chooser started
+    bool lastOpacity = false;
+    QColor color(QWidget*, const QString& title, const QColor& start, bool opacity) override
+    {
+        asked.append(title);
+        lastColor = start;
+        lastOpacity = opacity;
+        return chosenColor;
+    }
     /// The printer becomes one that prints to `file`.
     bool choosePrinter(QWidget*, QPrinter& printer, const QString& title) override
     {

@@ -1,0 +1,17 @@
+#pragma once
+
+namespace VELIX::KmlOptionRanges {
+
+/// What the user may choose; numbers of a settings file are cut to it.
+struct Range
+{
+    int least;
+    int most;
+};
+
+constexpr Range kTimeStep = {1, 60};  ///< s
+constexpr Range kLineWidth = {1, 6};  ///< pixels
+constexpr Range kInterval = {5, 600}; ///< path points
+constexpr Range kAlpha = {0, 255};
+
+} // namespace VELIX::KmlOptionRanges

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "export/ExportKml.h"
+
+#include <functional>
+
+namespace VELIX {
+
+/// Says what a KML export of the record in hand would write; called on every change of the options.
+using KmlSummarizer = std::function<KmlSummary(const KmlExportOptions&)>;
+
+} // namespace VELIX
