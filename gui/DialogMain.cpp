@@ -8,6 +8,7 @@
 #include "gui/CardLoader.h"
 #include "gui/DialogAbout.h"
 #include "gui/DialogCard.h"
+#include "gui/DialogHelp.h"
 #include "gui/DialogPreferences.h"
 #include "gui/DialogProfile.h"
 #include "gui/DialogProfileInfo.h"
@@ -125,6 +126,7 @@ void DialogMain::createDialogs()
     mExports = new ExportController(mContext, mDialogs, this);
     mPrints = new PrintController(mContext.settings, mDialogs, this);
     mDialogAbout = new DialogAbout(this);
+    mDialogHelp = new DialogHelp(mContext.settings, this);
     mDialogPreferences = new DialogPreferences(mContext, mProfileSettings, mDialogs, this);
     connect(mDialogPreferences, &DialogPreferences::signalProfileFileChanged, this,
             &DialogMain::slotProfileFileChanged);

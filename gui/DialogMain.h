@@ -9,6 +9,7 @@
 
 #include <list>
 
+class DialogHelp;
 class QAction;
 class QMenu;
 class QSplitter;
@@ -91,6 +92,7 @@ private:
     void updateProfiles();
     void updateUnit();
     void updateTitle();
+    void showHelp();
     void updateEnabled();
     void cleanup();
     QString setting(const char* key) const;
@@ -112,6 +114,7 @@ private:
     DialogProfileInfo* mDialogProfileInfo = nullptr;
     PrintController* mPrints = nullptr;
     DialogAbout* mDialogAbout = nullptr;
+    DialogHelp* mDialogHelp = nullptr;
     DialogPreferences* mDialogPreferences = nullptr;
     DialogStatusBar* mStatusBar = nullptr;
     CardLoader* mLoader = nullptr;

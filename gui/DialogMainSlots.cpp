@@ -5,6 +5,8 @@
 #include "core/Property.h"
 #include "gui/CardLoader.h"
 #include "gui/DialogAbout.h"
+#include "gui/DialogCard.h"
+#include "gui/DialogHelp.h"
 #include "gui/DialogMain.h"
 #include "gui/DialogPreferences.h"
 #include "gui/DialogProfile.h"
@@ -23,6 +25,7 @@
 #include "views/Printable.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLocale>
@@ -76,6 +79,9 @@ void DialogMain::slotMenu(QAction* action)
         mTimerStart.stop();
         close();
         break;
+    case eActionHelp:
+        showHelp();
+        break;
     case eActionAbout:
         present(*mDialogAbout);
         break;
@@ -107,6 +113,18 @@ void DialogMain::slotMenuRecent(QAction* /*action*/) {}
 void DialogMain::slotMenuPrefAbout()
 {
     updateEnabled();
+}
+
+/// Opens the manual at what the user has at hand.
+void DialogMain::showHelp()
+{
+    const QWidget* focus = QApplication::focusWidget();
+    const auto holds = [focus](const QWidget* pane) {
+        return focus != nullptr && pane->isAncestorOf(focus);
+    };
+    mDialogHelp->showPage(holds(mDialogCard)      ? QStringLiteral("cards")
+                          : holds(mDialogProfile) ? QStringLiteral("parameters")
+                                                  : mDialogData->helpTopic());
 }
 
 void DialogMain::finishProjectAction(bool done)
@@ -194,18 +212,12 @@ void DialogMain::dropEvent(QDropEvent* event)
 
 void DialogMain::slotLoadRecord(const std::list<QString>& files)
 {
-    if (mExports->isWriting()) {
-        return; // a choice from just before, when its delay ends: the record is in use
-    }
     mLoader->loadFiles(files);
     updateEnabled();
 }
 
 void DialogMain::slotLoadCycle(unsigned int cycle, int flight)
 {
-    if (mExports->isWriting()) {
-        return; // a choice from just before, when its delay ends: the record is in use
-    }
     mLoader->loadCycle(cycle, flight);
     updateEnabled();
 }

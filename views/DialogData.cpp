@@ -17,12 +17,15 @@
 #include "views/ReplayControls.h"
 #include "views/ReplayKeys.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTime>
 #include <QToolButton>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace VELIX {
 
@@ -251,6 +254,25 @@ void DialogData::loadProfile()
     mFaultMatrix->loadProfile();
     mFaultMatrix->updateRecord(mRecord);
     mFaultMatrix->setTime(mClock.cursor());
+}
+
+QString DialogData::helpTopic() const
+{
+    const QWidget* focus = QApplication::focusWidget();
+    if (focus != nullptr && (mMap == focus || mMap->isAncestorOf(focus))) {
+        return QStringLiteral("map");
+    }
+    const QWidget* page = mStack->currentWidget();
+    const std::pair<const QWidget*, const char*> topics[] = {
+        {mTable, "table"},          {mGraph, "graph"},     {mFaultMatrix, "fault"},
+        {mLimit, "limit"},          {mWarning, "warning"}, {mStatistic, "statistic"},
+        {mInstrument, "instrument"}};
+    for (const auto& [view, topic] : topics) {
+        if (view == page) {
+            return QLatin1String(topic);
+        }
+    }
+    return {};
 }
 
 const Printable* DialogData::printablePage() const

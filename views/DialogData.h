@@ -55,6 +55,8 @@ public:
 
     /// The page in front, if it can be put onto paper; else null.
     const Printable* printablePage() const;
+    /// The page of the manual on the view that has the focus, or else on the page in front.
+    QString helpTopic() const;
 
     /// Seconds on the record's time axis.
     double cursorTime() const { return mClock.cursor(); }
