@@ -212,12 +212,18 @@ void DialogMain::dropEvent(QDropEvent* event)
 
 void DialogMain::slotLoadRecord(const std::list<QString>& files)
 {
+    if (mExports->isWriting()) {
+        return; // a choice from just before, when its delay ends: the record is in use
+    }
     mLoader->loadFiles(files);
     updateEnabled();
 }
 
 void DialogMain::slotLoadCycle(unsigned int cycle, int flight)
 {
+    if (mExports->isWriting()) {
+        return; // a choice from just before, when its delay ends: the record is in use
+    }
     mLoader->loadCycle(cycle, flight);
     updateEnabled();
 }
