@@ -26,6 +26,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QDragEnterEvent>
 #include <QFileInfo>
 #include <QLocale>
@@ -239,7 +240,7 @@ void DialogMain::printPage(int id)
         record.flight.dateTime.isValid() ? record.flight.dateTime : record.startDateTime;
     //: Format of a date and time of day on paper
     const QString format = tr("d MMMM yyyy, hh:mm 'UTC'");
-    const PrintHeader header{mLoader->loadedCard(), mLoader->loadedName(),
+    const PrintHeader header{QDir(mLoader->loadedCard()).dirName(), mLoader->loadedName(),
                              QLocale().toString(date, format)};
     if (id == eActionPrint) {
         mPrints->print(*page, header);

@@ -188,7 +188,8 @@ void GraphOverlay::paintLegendEntry(int row, const QRect& place)
     const bool shown = mModel.isShown(trace);
     const QFontMetrics fixed(mScene.fixedFont);
     const int line = std::max(mMetrics.height(), fixed.height());
-    const bool selected = shown && mScene.shown.size() > 1 && mModel.selectedTrace() == trace;
+    const bool selected =
+        shown && mScene.shown.size() > 1 && !mLook.onPaper && mModel.selectedTrace() == trace;
 
     const QRect swatch(place.left(), place.top() + (line - kSwatch) / 2, kSwatch, kSwatch);
     if (selected) {

@@ -31,6 +31,7 @@ GraphPrint::GraphPrint(const GraphModel& model, const GraphLook& look, bool mark
     mLook.label = kInk;
     mLook.grid = kGrid;
     mLook.onPaper = true;
+    mLook.cursorOn = false;                          // its readouts would hide traces for good
     mFont.setPixelSize(QFontInfo(font).pixelSize()); // one in points would grow with the device
 }
 
