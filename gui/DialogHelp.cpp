@@ -155,7 +155,8 @@ QToolButton* DialogHelp::addButton(QBoxLayout* row, const QIcon& icon, const QSt
     button->setAutoRaise(true);
     button->setIconSize({kIconSize, kIconSize});
     button->setIcon(icon);
-    button->setShortcut(key);
+    // A shortcut of the button itself would press it visibly first, and so act late.
+    connect(new QShortcut(key, this), &QShortcut::activated, button, &QToolButton::click);
     button->setToolTip(QStringLiteral("%1 (%2)").arg(tip, key.toString(QKeySequence::NativeText)));
     button->setAccessibleName(tip);
     row->addWidget(button);

@@ -76,7 +76,7 @@ bool readPage(QIODevice& file, HelpPage& page)
 }
 
 /// What one word contributes to the rank of a section; 0 if it does not occur there.
-int weightOf(const QString& word, const HelpPage& page, const HelpSection& section)
+int weightOf(const QString& word, const HelpSection& section)
 {
     int weight = 0;
     if (section.title.contains(word, Qt::CaseInsensitive)) {
@@ -91,11 +91,25 @@ int weightOf(const QString& word, const HelpPage& page, const HelpSection& secti
             break;
         }
     }
-    if (page.title.contains(word, Qt::CaseInsensitive) &&
-        (weight > 0 || section.anchor.isEmpty())) {
-        weight += kPageTitleWeight;
-    }
     return weight;
+}
+
+/// The rank of a section; 0 if a word is missing. The title of the page stands for words that its
+/// sections leave out, but does not alone make all of them worth reading.
+int scoreOf(const QStringList& words, const HelpPage& page, const HelpSection& section)
+{
+    int own = 0;
+    int lent = 0;
+    for (const QString& word : words) {
+        const int weight = weightOf(word, section);
+        const bool inTitle = page.title.contains(word, Qt::CaseInsensitive);
+        if (weight == 0 && !inTitle) {
+            return 0;
+        }
+        own += weight;
+        lent += inTitle ? kPageTitleWeight : 0;
+    }
+    return own > 0 ? own + lent : 0;
 }
 
 QString snippetOf(const QString& text, const QStringList& words)
@@ -181,13 +195,7 @@ std::vector<HelpHit> HelpManual::search(const QString& words) const
     }
     for (std::size_t i = 0; i < mPages.size(); ++i) {
         for (const HelpSection& section : mPages[i].sections) {
-            int score = 0;
-            const bool all = std::all_of(wanted.begin(), wanted.end(), [&](const QString& word) {
-                const int weight = weightOf(word, mPages[i], section);
-                score += weight;
-                return weight > 0;
-            });
-            if (all) {
+            if (const int score = scoreOf(wanted, mPages[i], section); score > 0) {
                 hits.push_back(
                     {i, section.anchor, section.title, snippetOf(section.text, wanted), score});
             }
