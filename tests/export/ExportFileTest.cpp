@@ -3,6 +3,7 @@
 #include "card/RecordData.h"
 #include "export/ExportCsv.h"
 #include "export/ExportKml.h"
+#include "export/OutputFile.h"
 #include "profile/Profile.h"
 #include "tests/support/CapturedDiagnostics.h"
 #include "tests/support/ProfileBuilder.h"
@@ -13,8 +14,30 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace VELIX::Test {
 namespace {
+
+/// While it lives, files cannot grow beyond a size: that stands for the full disk.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t size)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &mBefore);
+        const rlimit small{size, mBefore.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &mBefore); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit mBefore{};
+};
 
 struct Kml
 {
@@ -40,20 +63,30 @@ protected:
                         .parameter(1036, QStringLiteral("Lat"), "FLOAT")
                         .parameter(1037, QStringLiteral("Lon"), "FLOAT")
                         .load(mProfile));
-        for (int i = 0; i < 100; ++i) {
-            mRecord.at(i).id(1036).floatValue(48).id(1037).floatValue(11);
-        }
+        fly(100);
         mOptions.directory = mFolder.path().toStdString();
-        mOptions.fileName = "old";
+        mOptions.fileName = "größe";
         QFile file(path());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write("old");
     }
-    QString path() const { return mFolder.filePath(QStringLiteral("old")); }
+    QString path() const { return mFolder.filePath(QString::fromUtf8("größe")); }
+    void fly(int seconds)
+    {
+        mRecord = RecordBuilder();
+        for (int i = 0; i < seconds; ++i) {
+            mRecord.at(i).id(1036).floatValue(48).id(1037).floatValue(11);
+        }
+    }
     QByteArray content() const
     {
         QFile file(path());
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("nothing");
+    }
+    void expectOldFileAlone() const
+    {
+        EXPECT_EQ(content(), "old");
+        EXPECT_EQ(QDir(mFolder.path()).entryList(QDir::Files).size(), 1) << "left a temporary";
     }
     int run() { return mWriter.exportData(*mRecord.data(), mOptions); }
 
@@ -92,22 +125,47 @@ TYPED_TEST(ExportFile, ACancelledExportKeepsTheOldFile)
         EXPECT_EQ(this->run(), 0) << last;
         EXPECT_TRUE(this->mWriter.cancelled());
         EXPECT_EQ(this->mWriter.lastError(), QString()) << "the user knows";
-        EXPECT_EQ(this->content(), "old");
-        EXPECT_EQ(QDir(this->mFolder.path()).entryList(QDir::Files).size(), 1);
+        this->expectOldFileAlone();
     }
     this->mWriter.setProgress(nullptr);
     EXPECT_EQ(this->run(), 1);
     EXPECT_FALSE(this->mWriter.cancelled());
 }
 
+TYPED_TEST(ExportFile, AFullDiskLeavesTheOldFile)
+{
+    for (const int seconds : {1, 2000, 50000}) { // below and above the buffers in between
+        this->fly(seconds);
+        const FullDisk disk(10);
+        EXPECT_EQ(this->run(), 0) << seconds;
+        EXPECT_FALSE(this->mWriter.lastError().isEmpty());
+        this->expectOldFileAlone();
+    }
+}
+
 TYPED_TEST(ExportFile, AFailureSaysWhy)
 {
-    this->mOptions.directory += "/no/such";
-    EXPECT_EQ(this->run(), 0);
-    EXPECT_FALSE(this->mWriter.cancelled());
-    EXPECT_FALSE(this->mWriter.lastError().isEmpty());
-    EXPECT_NE(this->mOutput.text().find("could not write file <" + this->mOptions.directory),
-              std::string::npos);
+    const std::string folder = this->mOptions.directory;
+    for (const std::string& bad : {folder + "/no/such", folder}) {
+        this->mOptions.directory = bad;
+        QDir(this->mFolder.path()).remove(QString::fromUtf8("größe"));
+        QDir(this->mFolder.path()).mkdir(QString::fromUtf8("größe")); // no file takes its place
+        EXPECT_EQ(this->run(), 0);
+        EXPECT_FALSE(this->mWriter.cancelled());
+        EXPECT_FALSE(this->mWriter.lastError().isEmpty());
+        EXPECT_NE(this->mOutput.text().find("could not write file <" + bad + "/größe>"),
+                  std::string::npos);
+        EXPECT_TRUE(QFileInfo(this->path()).isDir());
+    }
+}
+
+TEST(OutputFile, DevicesAreWrittenToAndStay)
+{
+    const auto fill = [](QIODevice& out) { return out.write("text") == 4; };
+    EXPECT_EQ(writeOutputFile(QStringLiteral("/dev/null"), fill), QString());
+    EXPECT_FALSE(QFileInfo(QStringLiteral("/dev/null")).isFile());
+    EXPECT_FALSE(writeOutputFile(QStringLiteral("/dev/full"), fill).isEmpty());
+    EXPECT_FALSE(QFileInfo(QStringLiteral("/dev/full")).isFile());
 }
 
 } // namespace
