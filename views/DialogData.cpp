@@ -4,6 +4,7 @@
 #include "core/Property.h"
 #include "gui/ImageHandler.h"
 #include "gui/StandardDialogs.h"
+#include "gui/WidgetHint.h"
 #include "platform/tessel/Timer.h"
 #include "views/CursorTime.h"
 #include "views/DialogDataErrorMatrix.h"
@@ -125,6 +126,10 @@ QBoxLayout* DialogData::createTabs()
 {
     mStack = new QStackedWidget;
     mStack->setObjectName(QStringLiteral("viewStack"));
+    mLoading = new WidgetHint(tr("Loading the record ..."), mStack);
+    mLoading->setObjectName(QStringLiteral("hintLoading"));
+    mLoading->setAutoFillBackground(true);
+    mLoading->hide();
     mTabs = new PageTabBar;
     mTabs->setObjectName(QStringLiteral("tabBar"));
     mTabs->setExpanding(false);
@@ -223,17 +228,23 @@ void DialogData::updateRecord()
     updateDisplay();
     mRoutes.updateRecord(mRecord);
     mRoutes.setTime(ECursorSource::Reload, mClock.cursor());
+    mLoading->hide();
 }
 
 void DialogData::releaseRecord()
 {
     mRecord = nullptr; // a running replay waits for the next record
     mRoutes.updateRecord(nullptr);
+    // Pages without a record would ask for one that is already on its way.
+    mLoading->setGeometry(mStack->rect());
+    mLoading->raise();
+    mLoading->show();
 }
 
 void DialogData::closeRecord()
 {
     releaseRecord();
+    mLoading->hide();
     mLimit->clear(); // lists wait for a next record with what they show
     mWarning->clear();
     mReplayTimer.stop();

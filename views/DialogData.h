@@ -29,6 +29,7 @@ class Profile;
 class Property;
 class ReplayControls;
 class ReplayKeys;
+class WidgetHint;
 
 /// The data window: it hosts all views of the open record, owns the common time cursor and the
 /// replay that moves it, and tells every view of each change.
@@ -113,6 +114,7 @@ private:
     QButtonGroup* mMapButtons = nullptr;
     QSplitter* mSplitter = nullptr;
     QStackedWidget* mStack = nullptr;
+    WidgetHint* mLoading = nullptr; ///< lies over the pages between two records
     DialogDataTable* mTable = nullptr;
     DialogDataGraph* mGraph = nullptr;
     PlaceholderView* mInstrument = nullptr;

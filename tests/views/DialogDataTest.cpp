@@ -82,10 +82,7 @@ struct DialogDataTest : ::testing::Test
     {
         return window->findChild<View*>()->template findChild<QTableWidget*>();
     }
-    int tableRow()
-    {
-        return tableOf<DialogDataTable>()->selectionModel()->currentIndex().row();
-    }
+    int tableRow() { return tableOf<DialogDataTable>()->selectionModel()->currentIndex().row(); }
 
     QTemporaryDir folder;
     Profile profile;
@@ -229,7 +226,10 @@ TEST_F(DialogDataTest, RunningReplayGoesOnInTheNextRecordAndEndsWithoutOne)
     QTRY_VERIFY(window->cursorTime() > 500.0);
     EXPECT_LT(window->cursorTime(), 600.0);
 
+    EXPECT_FALSE(find<QWidget>("hintLoading")->isVisible());
     window->releaseRecord();
+    EXPECT_TRUE(find<QWidget>("hintLoading")->isVisible());
+    EXPECT_EQ(find<QWidget>("hintLoading")->size(), find<QWidget>("viewStack")->size());
     EXPECT_EQ(tableOf<DialogDataTable>()->rowCount(), 0);
     EXPECT_EQ(tableOf<DialogDataLimit>()->rowCount(), 1) << "until the next record is there";
     ASSERT_TRUE(RecordBuilder().write(folder.filePath(QStringLiteral("1.CAN"))));
@@ -239,6 +239,7 @@ TEST_F(DialogDataTest, RunningReplayGoesOnInTheNextRecordAndEndsWithoutOne)
     EXPECT_EQ(tableOf<DialogDataLimit>()->rowCount(), 0);
     EXPECT_EQ(replay()->text(), QStringLiteral("Replay Start"));
     EXPECT_FALSE(replay()->isEnabled());
+    EXPECT_FALSE(find<QWidget>("hintLoading")->isVisible());
     EXPECT_EQ(displayed("displayTime"), "--:--:--.---");
 }
 
