@@ -13,6 +13,7 @@
 #include <QAction>
 #include <QButtonGroup>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QLabel>
 
 #include <algorithm>
@@ -81,13 +82,7 @@ void DialogDataGraph::createCommands()
 void DialogDataGraph::createHint()
 {
     mHint = new WidgetHint(this);
-    connect(mHint, &WidgetHint::signalLink, this, [this] {
-        if (mOffersInstall) {
-            emit signalInstallProfile();
-        } else {
-            emit signalSelectParameters();
-        }
-    });
+    connect(mHint, &WidgetHint::signalLink, this, &DialogDataGraph::followHint);
     mSurplus = new QLabel(this);
     mSurplus->setObjectName(QStringLiteral("labelSurplus"));
     mSurplus->setWordWrap(true);
@@ -191,6 +186,7 @@ void DialogDataGraph::showAround(double seconds)
 void DialogDataGraph::updateRecord(RecordData* record)
 {
     mRecord = record;
+    mCleared = false;
     mGraph->clear();
     updateHint();
     if (record == nullptr) {
@@ -209,6 +205,7 @@ void DialogDataGraph::updateRecord(RecordData* record)
 void DialogDataGraph::updateProfile()
 {
     takeParameters();
+    mCleared = false;
     mGraph->clear();
     updateHint();
     if (mRecord != nullptr) {
@@ -294,6 +291,10 @@ void DialogDataGraph::slotCommandPress(int id)
 
 void DialogDataGraph::slotCommandRelease(int id)
 {
+    if (QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
+        mCommand = eGraphNoCommand; // dragged off the button: the user thinks better of it
+        return;
+    }
     switch (id) {
     case eGraphZoomAll:
         zoomAll();
@@ -303,9 +304,12 @@ void DialogDataGraph::slotCommandRelease(int id)
         break;
     case eGraphZoomMarker:
         mGraph->zoomToMarker();
+        updateControls(); // it leaves the automatic mode
         break;
     case eGraphClear:
         mGraph->clear();
+        mCleared = true;
+        updateHint();
         break;
     case eGraphAuto:
         mData.graphMode =

@@ -91,6 +91,7 @@ private:
     void fillRecord();
     void takeParameters();
     void updateHint();
+    void followHint();
     void updateSurplus(std::size_t selected);
 
     bool noteUserRange();
@@ -117,7 +118,9 @@ private:
     QLabel* mSurplus = nullptr;
     WidgetGraph* mGraph = nullptr;
     WidgetHint* mHint = nullptr;
-    bool mOffersInstall = false; ///< what the link of the hint does
+    enum class Offer { SelectParameters, InstallProfile, Refill };
+    Offer mOffer = Offer::SelectParameters; ///< what the link of the hint does
+    bool mCleared = false;                  ///< the user took the samples away
     GraphStatisticTable* mStatistic = nullptr;
     DialogGraphSetup* mSetup = nullptr;
 };

@@ -27,8 +27,9 @@ void DialogDataGraph::updateHint()
 {
     QString text;
     QString link;
-    mOffersInstall = mProfile.isEmpty();
+    mOffer = Offer::SelectParameters;
     if (mProfile.isEmpty()) {
+        mOffer = Offer::InstallProfile;
         text = tr("No parameter profile is installed. Without the profile of your engine, "
                   "recorded messages cannot be turned into values.");
         link = tr("Install a profile");
@@ -38,10 +39,29 @@ void DialogDataGraph::updateHint()
     } else if (mTraceNames.isEmpty()) {
         text = tr("No parameter selected. Choose parameters in the list on the left and confirm.");
         link = tr("Select parameters");
+    } else if (mCleared) {
+        mOffer = Offer::Refill;
+        text = tr("The graph has been cleared.");
+        link = tr("Show the record again");
     }
     mHint->setHint(text, link);
     mHint->setVisible(!text.isEmpty());
     mGraph->setVisible(text.isEmpty());
+}
+
+void DialogDataGraph::followHint()
+{
+    switch (mOffer) {
+    case Offer::SelectParameters:
+        emit signalSelectParameters();
+        break;
+    case Offer::InstallProfile:
+        emit signalInstallProfile();
+        break;
+    case Offer::Refill:
+        updateProfile();
+        break;
+    }
 }
 
 void DialogDataGraph::updateSurplus(std::size_t selected)

@@ -19,6 +19,8 @@ public:
     /// Swaps them if the first lies behind the second.
     void sort();
 
+    bool operator==(const GraphMarkers&) const = default;
+
 private:
     double mFirst = 0.0;
     double mSecond = 0.0;

@@ -30,6 +30,7 @@ private:
     {
         QString text;
         QColor colour;
+        double distance = 0.0; ///< pixels from the mouse to the trace
     };
 
     void paintTimeAxis();
@@ -53,6 +54,9 @@ private:
     void paintReadouts(double time, int y, const std::vector<Note>& notes);
     void paintNote(const QPoint& anchor, const Note& note, const QRect& area);
     void paintBox(const QPoint& anchor, const std::vector<Note>& notes);
+    /// Lines of a box that leaves most of the plot to be seen.
+    [[nodiscard]] int boxLines(const std::vector<Note>& notes) const;
+    [[nodiscard]] double distanceToMouse(std::size_t place, double time) const;
     /// The outermost pixels of a rectangle.
     void paintFrame(const QRect& frame, const QColor& colour);
     void paintTimeTag(double time, const QColor& colour);

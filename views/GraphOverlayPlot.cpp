@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace VELIX {
 
@@ -18,6 +19,9 @@ constexpr int kTriangle = 5; ///< half the width of a top marker
 constexpr int kGroundAlpha = 205;
 constexpr int kNameAlpha = 120;
 constexpr int kMarkedAlpha = 22;
+/// Of the plot a box of readouts covers no more than one part in so many, if it has few lines.
+constexpr int kBoxPart = 3;
+constexpr int kFewLines = 4;
 
 } // namespace
 
@@ -153,14 +157,32 @@ void GraphOverlay::paintHover()
     const double time = mouseTime();
     const bool named = !bandsHoldText();
     std::vector<Note> notes;
-    for (const unsigned int trace : mScene.shown) {
+    for (std::size_t place = 0; place < mScene.shown.size(); ++place) {
+        const unsigned int trace = mScene.shown[place];
         QString text = GraphTexts::hover(mModel, trace, time);
         if (named) {
             text.prepend(mModel.parameter(trace).name + QStringLiteral("  "));
         }
-        notes.push_back({text, GraphLook::readable(colourOf(trace), mLook.back)});
+        notes.push_back(
+            {text, GraphLook::readable(colourOf(trace), mLook.back), distanceToMouse(place, time)});
+    }
+    if (named && static_cast<int>(notes.size()) > boxLines(notes)) {
+        std::stable_sort(notes.begin(), notes.end(),
+                         [](const Note& a, const Note& b) { return a.distance < b.distance; });
     }
     paintReadouts(time, mPointer.mouse.y(), notes);
+}
+
+double GraphOverlay::distanceToMouse(std::size_t place, double time) const
+{
+    const unsigned int trace = mScene.shown[place];
+    double value = 0.0;
+    if (!mModel.getValue(trace, time, value) || !std::isfinite(value)) {
+        return std::numeric_limits<double>::infinity();
+    }
+    const GraphYScale& scale = mModel.scaleOf(trace);
+    return std::abs(mPointer.mouse.y() -
+                    GraphLayout::yOf(value, mScene.bandOf(place), scale.minimum, scale.maximum));
 }
 
 void GraphOverlay::paintReadouts(double time, int y, const std::vector<Note>& notes)
@@ -230,11 +252,24 @@ QRect GraphOverlay::notePlace(const QPoint& anchor, const Note& note, const QRec
     return GraphLayout::placeBeside(anchor, size, area);
 }
 
+int GraphOverlay::boxLines(const std::vector<Note>& notes) const
+{
+    const QSize plot = mScene.layout.plot().size();
+    const int line = mMetrics.height();
+    const int fitting = std::max(0, (plot.height() - 4 * kPadding) / line);
+    int width = 1;
+    for (const Note& note : notes) {
+        width = std::max(width, textWidth(note.text) + 2 * kPadding);
+    }
+    const int modest = plot.width() * plot.height() / (kBoxPart * width * line);
+    return std::clamp(modest, std::min(kFewLines, fitting), fitting);
+}
+
 void GraphOverlay::paintBox(const QPoint& anchor, const std::vector<Note>& notes)
 {
     const QRect area = mScene.layout.plot().adjusted(kPadding, kPadding, -kPadding, -kPadding);
     const int line = mMetrics.height();
-    const int fitting = std::max(0, (area.height() - 2 * kPadding) / line);
+    const int fitting = boxLines(notes);
     const int count = static_cast<int>(notes.size());
     // The last line counts what does not fit.
     const int shown = count <= fitting ? count : std::max(0, fitting - 1);

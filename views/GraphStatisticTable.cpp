@@ -87,10 +87,12 @@ QString GraphStatisticTable::heading() const
 
 void GraphStatisticTable::update(const GraphModel& model)
 {
-    if (model.revision() == mRevision) {
+    const GraphMarkers& markers = model.markers();
+    if (model.plotRevision() == mRevision && markers == mMarkers) {
         return;
     }
-    mRevision = model.revision();
+    mRevision = model.plotRevision();
+    mMarkers = markers;
     showSpan(model);
     int row = 0;
     mTable->setRowCount(static_cast<int>(model.nrActive()));
@@ -104,9 +106,9 @@ void GraphStatisticTable::update(const GraphModel& model)
 
 void GraphStatisticTable::showSpan(const GraphModel& model)
 {
-    const bool marked = model.marker1() != model.marker2();
-    const double from = marked ? std::min(model.marker1(), model.marker2()) : model.xmin();
-    const double to = marked ? std::max(model.marker1(), model.marker2()) : model.xmax();
+    const bool marked = !mMarkers.coincide();
+    const double from = marked ? mMarkers.start() : model.xmin();
+    const double to = marked ? mMarkers.stop() : model.xmax();
     const QString text = marked ? tr("Between the markers: %1 to %2, %3 s")
                                 : tr("In the visible range: %1 to %2, %3 s");
     const auto time = [](double value) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "views/GraphMarkers.h"
+
 #include <QWidget>
 
 #include <cstdint>
@@ -39,6 +41,7 @@ private:
     QLabel* mHeading;
     QTableWidget* mTable;
     std::uint64_t mRevision = ~std::uint64_t{0};
+    GraphMarkers mMarkers;
 };
 
 } // namespace VELIX

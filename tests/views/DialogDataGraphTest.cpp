@@ -279,6 +279,10 @@ TEST_F(DialogDataGraphTest, CommandsActWhenTheirButtonIsReleased)
 
     button(eGraphClear)->click();
     EXPECT_TRUE(model().parameter(0).trace.isEmpty());
+    EXPECT_EQ(hint(), QStringLiteral("The graph has been cleared."));
+    emit view->findChild<WidgetHint*>()->signalLink();
+    EXPECT_FALSE(model().parameter(0).trace.isEmpty());
+    EXPECT_EQ(hint(), QString());
 
     button(eGraphSingle)->click();
     EXPECT_EQ(model().displayMode(), GraphModel::DisplaySingle);
