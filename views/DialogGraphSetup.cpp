@@ -1,6 +1,6 @@
 #include "views/DialogGraphSetup.h"
 
-#include "gui/Palette.h"
+#include "gui/ColorButton.h"
 #include "views/GraphData.h"
 
 #include <QCheckBox>
@@ -11,7 +11,6 @@
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPushButton>
 #include <QScopedValueRollback>
 
@@ -22,27 +21,8 @@ namespace VELIX {
 namespace {
 
 constexpr int kLeastWidth = 420;
+constexpr int kLimitWidth = 96;
 constexpr int kMargin = 8;
-constexpr int kSwatchWidth = 32;
-constexpr int kSwatchHeight = 16;
-constexpr int kSwatchGap = 6;
-
-/// A framed field of the colour: a button in that colour could not be told from a disabled one.
-void showColor(QPushButton* button, const std::string& name)
-{
-    const qreal ratio = button->devicePixelRatioF();
-    QPixmap swatch(QSize(kSwatchWidth + kSwatchGap, kSwatchHeight) * ratio);
-    swatch.setDevicePixelRatio(ratio);
-    swatch.fill(Qt::transparent);
-    QPainter painter(&swatch);
-    painter.fillRect(0, 0, kSwatchWidth, kSwatchHeight, Palette::current().controlLine);
-    painter.fillRect(1, 1, kSwatchWidth - 2, kSwatchHeight - 2,
-                     QColor(QString::fromStdString(name)));
-    painter.end();
-    button->setIcon(QIcon(swatch));
-    button->setIconSize({kSwatchWidth + kSwatchGap, kSwatchHeight});
-    button->setAccessibleDescription(QString::fromStdString(name));
-}
 
 QHBoxLayout* rowOf(std::initializer_list<QWidget*> widgets)
 {
@@ -105,14 +85,16 @@ void DialogGraphSetup::createSwitches(QFormLayout* form)
     mYmax = limitEdit(tr("Y maximum"), "editYmax", &DialogGraphSetup::slotYmax);
     form->addRow(tr("Cursor On/Mode :"), rowOf({mCursorOn, mCursorMode}));
     form->addRow(tr("Legend :"), rowOf({mLegendOn}));
-    form->addRow(tr("Y-Scale :"), rowOf({mAutoscaleOn, mYmin, mYmax}));
+    QHBoxLayout* scale = rowOf({mAutoscaleOn, mYmin, mYmax});
+    scale->setStretchFactor(mYmin, 1);
+    scale->setStretchFactor(mYmax, 1);
+    form->addRow(tr("Y-Scale :"), scale);
 }
 
-QPushButton* DialogGraphSetup::colorButton(const char* name, void (DialogGraphSetup::*slot)())
+ColorButton* DialogGraphSetup::colorButton(const char* name, void (DialogGraphSetup::*slot)())
 {
-    auto* button = new QPushButton(tr("Select"));
+    auto* button = new ColorButton(tr("Select"));
     button->setObjectName(QLatin1String(name));
-    button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, slot);
     return button;
 }
@@ -133,6 +115,9 @@ QLineEdit* DialogGraphSetup::limitEdit(const QString& text, const char* name,
     edit->setObjectName(QLatin1String(name));
     edit->setAccessibleName(text);
     edit->setPlaceholderText(text);
+    // As wide as the dialog leaves room for: what an editor asks for would widen it.
+    edit->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    edit->setMinimumWidth(kLimitWidth);
     auto* validator = new QDoubleValidator(edit);
     validator->setLocale(QLocale::c()); // the text is read with a decimal point in any language
     edit->setValidator(validator);
@@ -143,10 +128,10 @@ QLineEdit* DialogGraphSetup::limitEdit(const QString& text, const char* name,
 void DialogGraphSetup::updateDialog()
 {
     const QScopedValueRollback<bool> updating(mUpdating, true);
-    showColor(mBackColor, mData.backColor);
-    showColor(mGridColor, mData.gridColor);
-    showColor(mLabelColor, mData.labelColor);
-    showColor(mLabelBackColor, mData.labelBackColor);
+    mBackColor->setColor(QColor(QString::fromStdString(mData.backColor)));
+    mGridColor->setColor(QColor(QString::fromStdString(mData.gridColor)));
+    mLabelColor->setColor(QColor(QString::fromStdString(mData.labelColor)));
+    mLabelBackColor->setColor(QColor(QString::fromStdString(mData.labelBackColor)));
     const auto state = [](bool on) { return on ? Qt::Checked : Qt::Unchecked; };
     mGridOn->setCheckState(state(mData.gridOn));
     mCursorOn->setCheckState(state(mData.cursorOn));
@@ -174,7 +159,7 @@ void DialogGraphSetup::showScale()
     }
 }
 
-void DialogGraphSetup::chooseColor(std::string& color, QPushButton* button)
+void DialogGraphSetup::chooseColor(std::string& color, ColorButton* button)
 {
     const QColor chosen =
         QColorDialog::getColor(QColor(QString::fromStdString(color)), this, windowTitle());
@@ -182,7 +167,7 @@ void DialogGraphSetup::chooseColor(std::string& color, QPushButton* button)
         return;
     }
     color = chosen.name().toStdString();
-    showColor(button, color);
+    button->setColor(chosen);
     emit signalChanged();
 }
 

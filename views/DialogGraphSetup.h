@@ -8,10 +8,10 @@ class QCheckBox;
 class QComboBox;
 class QFormLayout;
 class QLineEdit;
-class QPushButton;
 
 namespace VELIX {
 
+class ColorButton;
 struct GraphData;
 
 /// Edits the display settings of the graph in place; every change is told at once.
@@ -49,22 +49,22 @@ protected:
 private:
     void createColors(QFormLayout* form);
     void createSwitches(QFormLayout* form);
-    QPushButton* colorButton(const char* name, void (DialogGraphSetup::*slot)());
+    ColorButton* colorButton(const char* name, void (DialogGraphSetup::*slot)());
     QCheckBox* switchBox(const QString& text, const char* name,
                          void (DialogGraphSetup::*slot)(int));
     QLineEdit* limitEdit(const QString& text, const char* name,
                          void (DialogGraphSetup::*slot)(const QString&));
-    void chooseColor(std::string& color, QPushButton* button);
+    void chooseColor(std::string& color, ColorButton* button);
     void setSwitch(bool& value, int state);
     void setLimit(double& value, const QString& text);
     void showScale();
 
     GraphData& mData;
     bool mUpdating = false; ///< the dialog itself writes its controls
-    QPushButton* mBackColor = nullptr;
-    QPushButton* mGridColor = nullptr;
-    QPushButton* mLabelColor = nullptr;
-    QPushButton* mLabelBackColor = nullptr;
+    ColorButton* mBackColor = nullptr;
+    ColorButton* mGridColor = nullptr;
+    ColorButton* mLabelColor = nullptr;
+    ColorButton* mLabelBackColor = nullptr;
     QCheckBox* mGridOn = nullptr;
     QCheckBox* mCursorOn = nullptr;
     QComboBox* mCursorMode = nullptr;
