@@ -14,7 +14,7 @@ namespace VELIX {
 
 namespace {
 
-constexpr double kCursor = 0.42; ///< in the climb of the demo card's first flight
+constexpr double kCursor = 0.42; ///< shortly after the first limit of the demo card's second flight
 
 template <int Action>
 bool trigger(DemoStage& stage)
@@ -39,7 +39,7 @@ const std::vector<DemoScene>& demoScenes()
          "viewStatistic"},
         {"statistic", "Tow statistic: one flight",
          [](DemoStage& stage) {
-             return stage.loadFlight(0, 0) && stage.replay() && stage.setPosition(kCursor);
+             return stage.loadFlight(0, 1) && stage.replay() && stage.setPosition(kCursor);
          },
          "viewStatistic"},
         {"table", "Data: the value table", nullptr, "viewTable"},
