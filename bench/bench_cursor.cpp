@@ -1,0 +1,139 @@
+// All views with an hour of data: what one move of the common cursor costs.
+
+#include "bench/EngineHour.h"
+#include "bench/WidgetBench.h"
+#include "core/Property.h"
+#include "gui/StandardDialogs.h"
+#include "views/CursorRoutes.h"
+#include "views/DialogDataErrorMatrix.h"
+#include "views/DialogDataGraph.h"
+#include "views/DialogDataLimit.h"
+#include "views/DialogDataStatistic.h"
+#include "views/DialogDataTable.h"
+#include "views/DialogDataWarning.h"
+#include "views/PlaceholderView.h"
+
+#include <QStackedWidget>
+
+#include <random>
+#include <vector>
+
+namespace {
+
+using namespace VELIX;
+
+constexpr int kMatrices = 3;
+constexpr int kBits = 32;
+constexpr int kFirstMatrixId = 0x4F0;
+
+/// Fault matrices of which every bit has a type.
+void addMatrices(Profile& profile)
+{
+    for (int i = 0; i < kMatrices; ++i) {
+        FaultMatrix matrix;
+        matrix.id = kFirstMatrixId + i;
+        for (int bit = 0; bit < kBits; ++bit) {
+            matrix.bits[bit].name = QStringLiteral("Sensor %1").arg(bit);
+            matrix.bits[bit].errorType = 1 + bit % 3;
+        }
+        profile.data().devices.front().errorMatrices.push_back(matrix);
+    }
+}
+
+/// Their messages, ten a second, the bits at random.
+void addFaultWords(RecordData& record)
+{
+    std::mt19937 random(3);
+    Test::RecordBuilder words;
+    for (int row = 0; row < EngineHour::kRows; ++row) {
+        words.at(row / 10.0);
+        for (int i = 0; i < kMatrices; ++i) {
+            words.id(static_cast<std::uint32_t>(kFirstMatrixId + i));
+            words.blongValue(static_cast<std::uint32_t>(random()));
+        }
+    }
+    for (const RecordEntry& entry : words.entries()) {
+        record.append(entry);
+    }
+    record.finish(record.stopTime);
+}
+
+/// The pages of the data window, and the order in which it tells them of the cursor.
+struct Pages
+{
+    EngineHour hour;
+    Property settings;
+    DialogService& dialogs = StandardDialogs::instance();
+    QStackedWidget stack;
+    CursorRoutes routes;
+
+    Pages()
+    {
+        addMatrices(*hour.profile);
+        addFaultWords(*hour.record);
+        Profile& profile = *hour.profile;
+        add(EView::Table, new DialogDataTable(profile));
+        add(EView::Graph, new DialogDataGraph(profile, settings, dialogs));
+        add(EView::FaultMatrix, new DialogDataErrorMatrix(profile));
+        add(EView::Limit, new DialogDataLimit(profile, dialogs));
+        add(EView::Warning, new DialogDataWarning(profile, dialogs));
+        add(EView::Statistic, new DialogDataStatistic);
+        add(EView::Instrument, new PlaceholderView);
+        add(EView::Map, new PlaceholderView);
+        stack.resize(1600, 900);
+        stack.show();
+        routes.updateRecord(hour.record.get());
+    }
+
+private:
+    template <class View>
+    void add(EView place, View* view)
+    {
+        stack.addWidget(view);
+        routes.setView(place, *view);
+    }
+};
+
+/// To times at random, with one page in front.
+void moveCursor(benchmark::State& state, bool paint)
+{
+    static Pages* const pages = new Pages; // the application ends before what is static does
+    pages->stack.setCurrentIndex(static_cast<int>(state.range(0)));
+    QApplication::processEvents();
+    std::mt19937 random(5);
+    std::uniform_real_distribution<double> anywhere(0.0, EngineHour::kRows / 10.0);
+    std::vector<double> times(4096);
+    for (double& time : times) {
+        time = anywhere(random);
+    }
+    std::size_t at = 0;
+    for (auto _ : state) {
+        pages->routes.setTime(ECursorSource::Replay, times[at++ % times.size()]);
+        if (paint) {
+            QApplication::processEvents();
+        }
+    }
+}
+
+/// Without what is painted later: of the fault matrix only the time bars.
+void setTime(benchmark::State& state)
+{
+    moveCursor(state, false);
+}
+
+/// With all of it: a tick of the replay.
+void setTimeAndPaint(benchmark::State& state)
+{
+    moveCursor(state, true);
+}
+
+// The page in front: table, graph, fault matrix, limits.
+BENCHMARK(setTime)->DenseRange(0, 3)->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(setTimeAndPaint)->DenseRange(0, 3)->Unit(benchmark::kMicrosecond)->UseRealTime();
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return runWidgetBenchmarks(argc, argv);
+}
