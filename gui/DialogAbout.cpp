@@ -76,6 +76,7 @@ QWidget* DialogAbout::createLicences()
 {
     auto* pane = new QWidget(this);
     mList = new QListWidget(pane);
+    mList->setSpacing(kGap / 4); // between entries of two lines
     for (const Licences::Entry& entry : Licences::entries()) {
         mList->addItem(entry.licence.isEmpty()
                            ? entry.name

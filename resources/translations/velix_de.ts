@@ -285,6 +285,10 @@
         <source>Tile Map Display Vertically</source>
         <translation>Landkarte untereinander anordnen</translation>
     </message>
+    <message>
+        <source>Loading the record ...</source>
+        <translation>Lade die Aufzeichnung ...</translation>
+    </message>
 </context>
 <context>
     <name>VELIX::DialogDataErrorMatrix</name>
@@ -406,6 +410,14 @@
         <source>No parameter selected</source>
         <translation>Keine Parameter ausgewählt</translation>
     </message>
+    <message>
+        <source>The graph has been cleared.</source>
+        <translation>Der Graph wurde geleert.</translation>
+    </message>
+    <message>
+        <source>Show the record again</source>
+        <translation>Aufzeichnung wieder zeigen</translation>
+    </message>
 </context>
 <context>
     <name>VELIX::DialogDataLimit</name>
@@ -515,6 +527,14 @@
     <message>
         <source>Total</source>
         <translation>Summe</translation>
+    </message>
+    <message>
+        <source>%1 as %2</source>
+        <translation>%1 als %2</translation>
+    </message>
+    <message>
+        <source>The cycle was loaded in imperial units: read %1. Only the take-off distances are in m all the same.</source>
+        <translation>Der Zyklus wurde in imperialen Einheiten geladen: %1 lesen. Nur die Startstrecken stehen trotzdem in m.</translation>
     </message>
 </context>
 <context>
