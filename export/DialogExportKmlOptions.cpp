@@ -16,6 +16,7 @@ namespace VELIX {
 namespace {
 
 constexpr int kGap = 8;
+constexpr int kIndent = 24; ///< of the text below its check box
 
 } // namespace
 
@@ -70,6 +71,7 @@ QGroupBox* DialogExportKmlOptions::createLineGroup()
 {
     auto* group = new QGroupBox(tr("Line Style"), this);
     auto* layout = new QFormLayout(group);
+    layout->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     layout->setSpacing(kGap);
     layout->addRow(tr("Line width"), mLineWidth);
     layout->addRow(tr("Line color"), mLineColor);
@@ -83,7 +85,9 @@ void DialogExportKmlOptions::createLayout()
     auto* standardText =
         new QLabel(tr("For programs that refuse files or colors of the usual form"), this);
     standardText->setProperty("role", QStringLiteral("muted"));
+    standardText->setIndent(kIndent);
     auto* layout = new QFormLayout(this);
+    layout->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     layout->setSpacing(kGap);
     layout->addRow(tr("Timestamp every :"), mTimestamp);
     layout->addRow(createLineGroup());

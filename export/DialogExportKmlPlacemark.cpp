@@ -24,6 +24,7 @@ enum ESummaryLine : int { ePathLine, eMarksLine, eEventsLine };
 QFormLayout* detailsOf(QWidget* details)
 {
     auto* layout = new QFormLayout(details);
+    layout->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     layout->setContentsMargins(kIndent, 0, 0, 0);
     layout->setSpacing(kGap);
     return layout;

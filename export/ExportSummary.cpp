@@ -26,7 +26,7 @@ ExportSummary::ExportSummary(QWidget* parent)
     mLayout->addRow(tr("File"), mFile);
 }
 
-int ExportSummary::addLine(const QString& label)
+void ExportSummary::addLine(const QString& label)
 {
     auto* count = new QLabel(this);
     count->setTextFormat(Qt::PlainText);
@@ -34,7 +34,6 @@ int ExportSummary::addLine(const QString& label)
     count->setObjectName(QStringLiteral("summary%1").arg(line));
     mLayout->insertRow(line, label, count);
     mCounts.push_back(count);
-    return line;
 }
 
 void ExportSummary::setCount(int line, std::size_t count, const QString& remark)

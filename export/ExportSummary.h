@@ -19,8 +19,8 @@ class ExportSummary : public QGroupBox
 public:
     explicit ExportSummary(QWidget* parent = nullptr);
 
-    /// Adds a line below the others; the number by which setCount() knows it.
-    int addLine(const QString& label);
+    /// Adds a line below the others; setCount() knows them by their order, from 0.
+    void addLine(const QString& label);
     /// remark: why it is so little; behind the number.
     void setCount(int line, std::size_t count, const QString& remark = {});
     /// The file of a folder and a name (UTF-8), shown from the root on.

@@ -34,7 +34,7 @@ void ExportProgressBox::createBox()
     mBox->setWindowTitle(mTitle);
     mBox->setLabelText(mText);
     mBox->setRange(0, kDone);
-    mBox->setWindowModality(Qt::WindowModal);
+    mBox->setWindowModality(Qt::ApplicationModal);
     mBox->setMinimumWidth(kLeastWidth);
     mBox->setMinimumDuration(std::numeric_limits<int>::max()); // it is shown here, not by itself
     mBox->setAutoClose(false);

@@ -216,7 +216,7 @@ TEST_F(DialogExportKmlTest, SumsUpWhatWillBeWritten)
 {
     openLastPage();
     EXPECT_EQ(label("summaryFile"), program.home.filePath(QStringLiteral("ExportVelix.kml")));
-    EXPECT_EQ(label("summary0"), QStringLiteral("7,200"));
+    EXPECT_EQ(label("summary0"), QStringLiteral("7200"));
     EXPECT_TRUE(label("summary1").startsWith(QStringLiteral("720 ")));
     EXPECT_TRUE(label("summary1").contains(QStringLiteral("no parameter is selected")));
     EXPECT_EQ(label("summary2"), QStringLiteral("7"));
