@@ -109,7 +109,7 @@ void DialogHelp::createContents()
     }
     connect(mContents, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (item != nullptr) {
-            open(item->data(0, kTopicRole).toString(), item->data(0, kAnchorRole).toString());
+            goTo(item->data(0, kTopicRole).toString(), item->data(0, kAnchorRole).toString());
         }
     });
 }
@@ -224,7 +224,7 @@ void DialogHelp::showPage(const QString& topic)
 {
     if (!mManual.pages().empty()) {
         const HelpPage* page = mManual.page(topic);
-        open(page != nullptr ? topic : mManual.pages().front().topic, {});
+        goTo(page != nullptr ? topic : mManual.pages().front().topic, {});
     }
     show();
     raise();
@@ -232,7 +232,7 @@ void DialogHelp::showPage(const QString& topic)
     mBrowser->setFocus();
 }
 
-void DialogHelp::open(const QString& topic, const QString& anchor)
+void DialogHelp::goTo(const QString& topic, const QString& anchor)
 {
     QUrl address;
     address.setScheme(QStringLiteral("qrc"));
@@ -297,7 +297,7 @@ void DialogHelp::slotResult(int row)
         return;
     }
     const HelpHit& hit = mHits[static_cast<std::size_t>(row)];
-    open(mManual.pages()[hit.page].topic, hit.anchor);
+    goTo(mManual.pages()[hit.page].topic, hit.anchor);
     mBrowser->goToMarkOfSection();
     showCount();
 }

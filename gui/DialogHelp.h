@@ -47,7 +47,7 @@ private:
     void createKeys();
     QToolButton* addButton(QBoxLayout* row, const QIcon& icon, const QString& tip,
                            const QKeySequence& key);
-    void open(const QString& topic, const QString& anchor);
+    void goTo(const QString& topic, const QString& anchor);
     void stepMark(int step);
     bool stepResult(int step);
     void zoom(int pixels);

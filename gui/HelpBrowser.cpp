@@ -92,7 +92,7 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name)
         mPictures.clear();
         mPictureWidth = viewport()->width() - 2 * kPageMargin;
     }
-    const QVariant content = QTextBrowser::loadResource(type, name);
+    QVariant content = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource) {
         return content;
     }
