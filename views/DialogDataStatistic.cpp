@@ -64,7 +64,10 @@ QString DialogDataStatistic::printHindrance() const
 std::unique_ptr<PrintLayout> DialogDataStatistic::printLayout(QPaintDevice& device,
                                                               const QSizeF& room) const
 {
-    return std::make_unique<TextPrint>(mText, device, room);
+    // What the overview says about choosing a flight makes no sense on paper.
+    const bool overview = mRecord != nullptr && !mRecord->flight.statistic.valid;
+    return std::make_unique<TextPrint>(
+        overview ? FlightText::flights(mRecord->cycleFlights) : mText, device, room);
 }
 
 void DialogDataStatistic::addStatistic()
