@@ -128,7 +128,7 @@ bool DialogVisit::picturePages(QWidget& window)
     } else if (list != nullptr && window.findChild<QStackedWidget*>() != nullptr) {
         pages = list->count();
     }
-    pages = std::min(pages, mDialog->pages);
+    pages = std::clamp(pages, 1, mDialog->pages); // the list may be empty
     for (int page = 1; page <= pages; ++page) {
         if (tabs != nullptr && pages > 1) {
             tabs->setCurrentIndex(page - 1);
