@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/openstreetmap/CoastLines.h"
+#include "platform/openstreetmap/MapProjection.h"
+#include "platform/openstreetmap/TileTextures.h"
+#include "platform/openstreetmap/TileView.h"
+#include "platform/tessel/GlHandler.h"
+#include "platform/tessel/Lines.h"
+#include "platform/tessel/TextureFont.h"
+
+#include <vector>
+
+namespace OpenStreet {
+
+/// Draws the map from the pictures that are there. The context rule of Tessel::OpenGL::GlHandler
+/// holds.
+class MapPainter
+{
+public:
+    [[nodiscard]] TileTextures& tiles() { return mTiles; }
+    [[nodiscard]] TileTextures& shades() { return mShades; }
+    [[nodiscard]] CoastLines& coast() { return mCoast; }
+    [[nodiscard]] Tessel::OpenGL::TextureFont& font() { return mFont; }
+
+    /// Makes the window's pixels the units of all that is drawn until the next begin().
+    void begin(const MapProjection& projection);
+    /// Ground, graticule and coasts.
+    void drawOutline(const MapProjection& projection);
+    /// Each tile itself, or what stands in for it. False if there is a hole.
+    bool drawTiles(const std::vector<PlacedTile>& tiles, double brightness);
+    void drawShades(const std::vector<PlacedTile>& tiles);
+    /// Whether each tile is there itself or in an ancestor.
+    [[nodiscard]] bool covers(const std::vector<PlacedTile>& tiles) const;
+
+    void release();
+
+private:
+    bool drawAncestor(TileTextures& textures, const PlacedTile& tile,
+                      const Tessel::OpenGL::Color& color);
+    void drawDescendants(const PlacedTile& tile, int levels, const Tessel::OpenGL::Color& color);
+
+    Tessel::OpenGL::GlHandler mGl;
+    TileTextures mTiles;
+    TileTextures mShades;
+    CoastLines mCoast;
+    Tessel::OpenGL::TextureFont mFont;
+    Tessel::OpenGL::Lines mGrid;
+    Tessel::OpenGL::Lines mCoastLines;
+};
+
+} // namespace OpenStreet

@@ -1,0 +1,82 @@
+#pragma once
+
+namespace OpenStreet {
+
+/// Degrees; east and north positive.
+struct GeoPoint
+{
+    double latitude = 0.0;
+    double longitude = 0.0;
+};
+
+/// A place in the window: device pixels, from the upper left corner, y downwards.
+struct WindowPoint
+{
+    double x = 0.0;
+    double y = 0.0;
+};
+
+/// A place on the Web Mercator map: metres at the equator, from 0 N 0 E, y northwards.
+struct MercatorPoint
+{
+    double x = 0.0;
+    double y = 0.0;
+};
+
+/// Half the circumference of the map's sphere: the map reaches that far in all four directions.
+inline constexpr double kMercatorHalf = 20037508.342789244;
+/// The latitude at which the square map ends.
+inline constexpr double kLatitudeLimit = 85.051128779806604;
+
+/// Latitudes beyond the limit are taken at the limit.
+MercatorPoint toMercator(const GeoPoint& place);
+/// The longitude comes as it is, not brought into -180 to 180.
+GeoPoint fromMercator(const MercatorPoint& place);
+/// The same meridian, at least -180 and below 180; not a number stays as it is.
+double normalizedLongitude(double degrees);
+
+/// Where places appear in a window that looks at the Web Mercator map from above, north up.
+///
+/// Extents are metres on the ground at the centre's latitude, as a scale bar there measures them.
+class MapProjection
+{
+public:
+    void setCentre(const GeoPoint& centre);
+    /// Extent of the window in metres; values that are not positive are ignored.
+    void setVisibleRange(double width, double height);
+    /// In device pixels; values that are not positive are ignored.
+    void setWindowSize(int width, int height);
+
+    [[nodiscard]] const GeoPoint& centre() const { return mCentre; }
+    [[nodiscard]] double rangeWidth() const { return mRangeWidth; }
+    [[nodiscard]] double rangeHeight() const { return mRangeHeight; }
+    [[nodiscard]] int windowWidth() const { return mWindowWidth; }
+    [[nodiscard]] int windowHeight() const { return mWindowHeight; }
+
+    /// The place's nearest appearance to the centre: the short way round the globe.
+    [[nodiscard]] WindowPoint toWindow(const GeoPoint& place) const;
+    /// Longitude from -180 to 180. North and south of the map it is the map's edge.
+    [[nodiscard]] GeoPoint toGeo(const WindowPoint& place) const;
+
+    /// Without going round the globe, for what is drawn across it: the map as an endless strip.
+    [[nodiscard]] WindowPoint mercatorToWindow(const MercatorPoint& place) const;
+    [[nodiscard]] MercatorPoint windowToMercator(const WindowPoint& place) const;
+
+    /// Mercator metres across one device pixel.
+    [[nodiscard]] double metresPerPixelX() const { return mPerPixelX; }
+    [[nodiscard]] double metresPerPixelY() const { return mPerPixelY; }
+
+private:
+    void update();
+
+    GeoPoint mCentre;
+    double mRangeWidth = 10000.0;
+    double mRangeHeight = 10000.0;
+    int mWindowWidth = 100;
+    int mWindowHeight = 100;
+    MercatorPoint mMercatorCentre;
+    double mPerPixelX = 100.0;
+    double mPerPixelY = 100.0;
+};
+
+} // namespace OpenStreet

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/openstreetmap/TileAddress.h"
+
+#include <map>
+
+namespace OpenStreet {
+
+/// When a tile may be asked for again after failures: later and later, and not at all for a while
+/// when the server itself cannot be reached. Times are seconds of any steady clock.
+class RetryPlan
+{
+public:
+    enum class Failure {
+        Tile,  ///< the server answered, but with no tile
+        Server ///< no answer
+    };
+
+    void failed(const TileAddress& tile, Failure failure, double now);
+    void succeeded(const TileAddress& tile);
+    [[nodiscard]] bool mayAsk(const TileAddress& tile, double now) const;
+    /// Another server, or the user asks for another try.
+    void clear();
+
+private:
+    struct Pause
+    {
+        int failures = 0;
+        double until = 0.0;
+
+        void extend(double now);
+    };
+
+    std::map<TileAddress, Pause> mTiles;
+    Pause mServer;
+};
+
+} // namespace OpenStreet

@@ -1,0 +1,46 @@
+#include "platform/openstreetmap/TileImage.h"
+
+#include <QBuffer>
+#include <QImageReader>
+
+#include <algorithm>
+
+namespace OpenStreet {
+
+namespace {
+
+constexpr int kLargestSide = 1024;
+
+/// Readers give what they have of a file that is cut off. Its end tells.
+bool isWhole(const QByteArray& data, const QByteArray& format)
+{
+    if (format == "png") {
+        return data.right(64).contains("IEND\xAE\x42\x60\x82");
+    }
+    if (format == "jpeg") {
+        return data.right(64).contains("\xFF\xD9");
+    }
+    return true;
+}
+
+} // namespace
+
+QImage decodeTile(const QByteArray& data)
+{
+    if (data.isEmpty() || data.size() > kLargestTileBytes) {
+        return {};
+    }
+    QByteArray copy = data;
+    QBuffer buffer(&copy);
+    QImageReader reader(&buffer);
+    const QByteArray format = reader.format();
+    static const QList<QByteArray> known{"png", "jpeg", "gif", "webp"};
+    const QSize size = reader.size();
+    if (!known.contains(format) || size.isEmpty() ||
+        std::max(size.width(), size.height()) > kLargestSide || !isWhole(data, format)) {
+        return {};
+    }
+    return reader.read().convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+}
+
+} // namespace OpenStreet

@@ -1,0 +1,173 @@
+#include "platform/openstreetmap/TileStore.h"
+
+#include "platform/openstreetmap/TileImage.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace OpenStreet {
+
+namespace {
+
+constexpr const char* kPicture = ".png";
+constexpr const char* kMeta = ".meta";
+/// A note of use costs a write, so it is not made each time.
+constexpr qint64 kSecondsBetweenMarks = 3600;
+constexpr qint64 kLargestMeta = 4096;
+
+bool writeFile(const QString& path, const QByteArray& content)
+{
+    if (!QDir().mkpath(QFileInfo(path).path())) {
+        return false;
+    }
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() &&
+           file.commit();
+}
+
+/// Three lines: expiry, entity tag, time of change.
+TileFreshness parseMeta(const QByteArray& text)
+{
+    const QList<QByteArray> lines = text.split('\n');
+    TileFreshness result;
+    result.expires = lines.value(0).toLongLong();
+    result.entityTag = lines.value(1);
+    result.lastModified = lines.value(2);
+    return result;
+}
+
+/// Header texts come from outside: a line break would shift what follows.
+QByteArray oneLine(QByteArray text)
+{
+    return text.replace('\n', ' ').replace('\r', ' ').left(1000);
+}
+
+} // namespace
+
+TileStore::TileStore(QString folder) : mFolder(std::move(folder)) {}
+
+QString TileStore::path(const TileAddress& tile, const char* suffix) const
+{
+    return QStringLiteral("%1/%2/%3/%4%5")
+        .arg(mFolder)
+        .arg(tile.zoom)
+        .arg(tile.x)
+        .arg(tile.y)
+        .arg(QLatin1String(suffix));
+}
+
+std::optional<TileStore::Tile> TileStore::read(const TileAddress& tile) const
+{
+    if (mFolder.isEmpty()) {
+        return std::nullopt;
+    }
+    QFile picture(path(tile, kPicture));
+    if (!picture.open(QIODevice::ReadOnly) || picture.size() > kLargestTileBytes) {
+        return std::nullopt;
+    }
+    Tile result;
+    result.picture = picture.readAll();
+    QFile meta(path(tile, kMeta));
+    if (meta.open(QIODevice::ReadOnly)) {
+        result.freshness = parseMeta(meta.read(kLargestMeta));
+        markUsed(tile);
+    } else {
+        result.freshness.expires =
+            QFileInfo(picture).lastModified().toSecsSinceEpoch() + kDefaultLifetime;
+        writeMeta(tile, result.freshness);
+    }
+    return result;
+}
+
+bool TileStore::write(const TileAddress& tile, const Tile& content) const
+{
+    // The picture first: without its note it is only asked for again.
+    return !mFolder.isEmpty() && writeFile(path(tile, kPicture), content.picture) &&
+           writeMeta(tile, content.freshness);
+}
+
+bool TileStore::refresh(const TileAddress& tile, const TileFreshness& freshness) const
+{
+    return !mFolder.isEmpty() && QFileInfo::exists(path(tile, kPicture)) &&
+           writeMeta(tile, freshness);
+}
+
+void TileStore::remove(const TileAddress& tile) const
+{
+    if (!mFolder.isEmpty()) {
+        QFile::remove(path(tile, kPicture));
+        QFile::remove(path(tile, kMeta));
+    }
+}
+
+bool TileStore::writeMeta(const TileAddress& tile, const TileFreshness& freshness) const
+{
+    return writeFile(path(tile, kMeta),
+                     QByteArray::number(static_cast<qlonglong>(freshness.expires)) + '\n' +
+                         oneLine(freshness.entityTag) + '\n' + oneLine(freshness.lastModified) +
+                         '\n');
+}
+
+void TileStore::markUsed(const TileAddress& tile) const
+{
+    QFile meta(path(tile, kMeta));
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    if (QFileInfo(meta).lastModified().secsTo(now) > kSecondsBetweenMarks &&
+        meta.open(QIODevice::ReadWrite)) {
+        meta.setFileTime(now, QFileDevice::FileModificationTime);
+    }
+}
+
+std::int64_t TileStore::trim(std::int64_t bytes) const
+{
+    struct Stored
+    {
+        qint64 used;
+        qint64 size;
+        QString picture;
+        QString meta;
+    };
+    if (mFolder.isEmpty()) {
+        return 0;
+    }
+    std::vector<Stored> tiles;
+    std::int64_t total = 0;
+    QDirIterator files(mFolder, {QStringLiteral("*.png")}, QDir::Files | QDir::NoSymLinks,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        files.next();
+        const QFileInfo picture = files.fileInfo();
+        const QFileInfo meta(picture.path() + QLatin1Char('/') + picture.completeBaseName() +
+                             QLatin1String(kMeta));
+        const QDateTime used = meta.exists() ? meta.lastModified() : picture.lastModified();
+        tiles.push_back({used.toSecsSinceEpoch(),
+                         picture.size() + (meta.exists() ? meta.size() : 0), picture.filePath(),
+                         meta.filePath()});
+        total += tiles.back().size;
+    }
+    if (total <= bytes) {
+        return total;
+    }
+    std::sort(tiles.begin(), tiles.end(),
+              [](const Stored& a, const Stored& b) { return a.used < b.used; });
+    for (const Stored& tile : tiles) {
+        if (total <= bytes) {
+            break;
+        }
+        if (QFile::remove(tile.picture)) {
+            QFile::remove(tile.meta);
+            total -= tile.size;
+        }
+    }
+    return total;
+}
+
+} // namespace OpenStreet

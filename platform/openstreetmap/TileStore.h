@@ -1,0 +1,51 @@
+#pragma once
+
+#include "platform/openstreetmap/TileAddress.h"
+#include "platform/openstreetmap/TileFreshness.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+namespace OpenStreet {
+
+/// Tiles on disk: plain files Z/X/Y.png, and beside each a small Y.meta with its freshness, whose
+/// file time says when the tile was used last. A folder of plain pictures is a store, too; they
+/// live as if fetched when they were last changed. A store that cannot be written only reads.
+///
+/// An object keeps nothing in memory, so that several threads may use the same folder.
+class TileStore
+{
+public:
+    struct Tile
+    {
+        QByteArray picture; ///< the bytes of the file
+        TileFreshness freshness;
+    };
+
+    /// An empty folder stands for no store.
+    explicit TileStore(QString folder);
+
+    /// Marks the tile as used.
+    [[nodiscard]] std::optional<Tile> read(const TileAddress& tile) const;
+    /// False if it could not be written; what was there before is kept.
+    bool write(const TileAddress& tile, const Tile& content) const;
+    /// The picture is up to date: from now on with this freshness.
+    bool refresh(const TileAddress& tile, const TileFreshness& freshness) const;
+    void remove(const TileAddress& tile) const;
+
+    /// Removes what was not used for longest until the store takes at most this. Returns the bytes
+    /// that it takes then.
+    std::int64_t trim(std::int64_t bytes) const;
+
+private:
+    [[nodiscard]] QString path(const TileAddress& tile, const char* suffix) const;
+    bool writeMeta(const TileAddress& tile, const TileFreshness& freshness) const;
+    void markUsed(const TileAddress& tile) const;
+
+    QString mFolder;
+};
+
+} // namespace OpenStreet

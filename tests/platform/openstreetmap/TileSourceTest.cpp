@@ -1,0 +1,191 @@
+#include "platform/openstreetmap/TileSource.h"
+#include "platform/openstreetmap/TileStore.h"
+#include "tests/support/TileServer.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <optional>
+
+using namespace OpenStreet;
+using VELIX::Test::TileServer;
+
+namespace {
+
+class TileSourceTest : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        mSource.setFolder(mDir.path());
+        mSource.setServer(mServer.url());
+        mSource.setUserAgent("Tester/1.0");
+    }
+
+    static bool waitFor(const std::function<bool()>& done, int milliseconds = 5000)
+    {
+        QElapsedTimer clock;
+        clock.start();
+        while (!done() && clock.elapsed() < milliseconds) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents,
+                                            20);
+        }
+        return done();
+    }
+
+    /// Asks as a painting window does, until nothing is loading.
+    void settle(TileSource& source, const std::vector<TileAddress>& tiles)
+    {
+        source.want(tiles, {});
+        EXPECT_TRUE(waitFor([&] {
+            take(source);
+            source.want(tiles, {});
+            return source.loading() == 0;
+        }));
+        take(source);
+    }
+    void take(TileSource& source)
+    {
+        for (const TileSource::Picture& picture : source.takeArrived()) {
+            mPictures[picture.first].push_back(picture.second);
+        }
+    }
+
+    QTemporaryDir mDir;
+    TileServer mServer;
+    TileSource mSource;
+    std::map<TileAddress, std::vector<QImage>> mPictures;
+};
+
+TEST_F(TileSourceTest, TilesComeFromTheServerOnceAndThenFromTheDisk)
+{
+    const std::vector<TileAddress> tiles{{4, 8, 5}, {4, 9, 5}};
+    settle(mSource, tiles);
+    ASSERT_EQ(mPictures.size(), 2U);
+    EXPECT_EQ(mPictures[tiles[1]].front().pixelColor(99, 99), TileServer::tileColor(4, 9, 5));
+    EXPECT_EQ(mServer.requests(), 2);
+    EXPECT_EQ(mServer.header("user-agent"), QByteArray("Tester/1.0"));
+    EXPECT_TRUE(QFileInfo::exists(mDir.filePath(QStringLiteral("4/8/5.png"))));
+
+    mPictures.clear();
+    TileSource later;
+    later.setFolder(mDir.path());
+    later.setServer(mServer.url());
+    settle(later, tiles);
+    EXPECT_EQ(mPictures.size(), 2U);
+    EXPECT_EQ(mServer.requests(), 2);
+}
+
+TEST_F(TileSourceTest, FourAtATimeAndOnlyWhatIsStillWanted)
+{
+    mServer.setMode(TileServer::Mode::Slow);
+    std::vector<TileAddress> tiles;
+    for (int x = 0; x < 20; ++x) {
+        tiles.push_back({5, x, 3});
+    }
+    mSource.want(tiles, {});
+    ASSERT_TRUE(waitFor([&] {
+        mSource.want(tiles, {});
+        return mServer.requests() >= 4;
+    }));
+    const std::vector<TileAddress> elsewhere{{5, 30, 30}};
+    settle(mSource, elsewhere);
+    EXPECT_EQ(mPictures.count(elsewhere[0]), 1U);
+    EXPECT_LE(mServer.mostParallel(), 5) << "four, and one whose end the server has yet to see";
+    EXPECT_LE(mServer.requests(), 9) << "what is out of sight is not fetched";
+}
+
+TEST_F(TileSourceTest, AnOldTileIsShownWhileTheServerIsAsked)
+{
+    const TileAddress tile{4, 8, 5};
+    const TileStore store(mDir.path());
+    ASSERT_TRUE(store.write(tile, {TileServer::tile(1, 1, 1), {1, "\"v1\"", ""}}));
+    mServer.setEntityTag("\"v1\"");
+    mServer.setHeaders({"Cache-Control: max-age=3600"});
+    settle(mSource, {tile});
+    EXPECT_EQ(mPictures[tile].size(), 1U);
+    EXPECT_EQ(mServer.notModified(), 1);
+    settle(mSource, {tile});
+    EXPECT_EQ(mServer.requests(), 1) << "it is fresh again";
+    ASSERT_TRUE(waitFor([&] { return store.read(tile)->freshness.expires > 1000; }));
+
+    mServer.setEntityTag("\"v2\"");
+    ASSERT_TRUE(store.refresh(tile, {1, "\"v1\"", ""}));
+    mPictures.clear();
+    TileSource later;
+    later.setFolder(mDir.path());
+    later.setServer(mServer.url());
+    settle(later, {tile});
+    ASSERT_EQ(mPictures[tile].size(), 2U) << "the old one, then the new one";
+    EXPECT_EQ(mPictures[tile].back().pixelColor(5, 5), TileServer::tileColor(4, 8, 5));
+    EXPECT_EQ(store.read(tile)->freshness.entityTag, QByteArray("\"v2\""));
+}
+
+TEST_F(TileSourceTest, AServerThatForbidsKeepingIsNotAskedWithEveryPicture)
+{
+    mServer.setHeaders({"Cache-Control: no-store"});
+    settle(mSource, {{4, 8, 5}});
+    settle(mSource, {{4, 8, 5}});
+    EXPECT_EQ(mServer.requests(), 1);
+}
+
+TEST_F(TileSourceTest, WhatIsNoTileCostsAMissingTileAndALaterTry)
+{
+    using Mode = TileServer::Mode;
+    for (const Mode mode : {Mode::Endless, Mode::Error, Mode::NotFound, Mode::Html, Mode::Garbage,
+                            Mode::Truncated, Mode::Enormous, Mode::Flood}) {
+        const int number = static_cast<int>(mode);
+        const TileAddress tile{6, number, 1};
+        mServer.setMode(mode);
+        const int before = mServer.requests();
+        settle(mSource, {tile});
+        EXPECT_EQ(mPictures.count(tile), 0U) << number;
+        const int asked = mServer.requests() - before;
+        EXPECT_GE(asked, 1) << number;
+        settle(mSource, {tile});
+        EXPECT_EQ(mServer.requests() - before, asked) << number << ": not at once again";
+        EXPECT_FALSE(QFileInfo::exists(mDir.filePath(QStringLiteral("6/%1/1.png").arg(number))));
+    }
+    mServer.setMode(Mode::Redirect);
+    settle(mSource, {{6, 40, 1}});
+    EXPECT_EQ(mPictures.count({6, 40, 1}), 1U);
+}
+
+TEST_F(TileSourceTest, WithoutAServerTheDiskServes)
+{
+    const TileAddress there{4, 8, 5};
+    ASSERT_TRUE(TileStore(mDir.path()).write(there, {TileServer::tile(4, 8, 5), {1, "", ""}}));
+    mServer.stop();
+    settle(mSource, {there, {4, 9, 5}});
+    EXPECT_EQ(mPictures[there].size(), 1U);
+    EXPECT_TRUE(mSource.missing({4, 9, 5}));
+    TileSource silent;
+    silent.setFolder(mDir.path());
+    silent.setServer(QString());
+    settle(silent, {there});
+    EXPECT_EQ(silent.loading(), 0);
+}
+
+TEST_F(TileSourceTest, EndsWhileMuchIsUnderWay)
+{
+    mServer.setMode(TileServer::Mode::Silent);
+    auto source = std::make_unique<TileSource>();
+    source->setFolder(mDir.path());
+    source->setServer(mServer.url());
+    const std::vector<TileAddress> tiles{{4, 1, 1}, {4, 2, 1}, {4, 3, 1}, {4, 4, 1}, {4, 5, 1}};
+    source->want(tiles, {});
+    ASSERT_TRUE(waitFor([&] {
+        source->want(tiles, {});
+        return mServer.requests() >= 4;
+    }));
+    source->want({{5, 1, 1}}, {{4, 0, 0}});
+    source.reset();
+    QCoreApplication::processEvents();
+}
+
+} // namespace

@@ -1,0 +1,163 @@
+#include "platform/openstreetmap/TileStore.h"
+#include "platform/openstreetmap/RetryPlan.h"
+#include "platform/openstreetmap/TileFreshness.h"
+#include "platform/openstreetmap/TileImage.h"
+#include "tests/support/TileServer.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace OpenStreet;
+using VELIX::Test::TileServer;
+
+namespace {
+
+constexpr std::int64_t kNow = 1'000'000;
+
+TEST(TileFreshnessTest, WhatServersSayOfAnAnswersAge)
+{
+    const struct
+    {
+        const char* cacheControl;
+        const char* expires;
+        std::int64_t expected;
+    } rows[] = {
+        {"", "", kNow + kDefaultLifetime},
+        {"max-age=60", "", kNow + 60},
+        {"public, Max-Age=60", "Mon, 12 Jan 1970 14:03:20 GMT", kNow + 60},
+        {"max-age=oops", "", kNow + kDefaultLifetime},
+        {"max-age=-5", "", kNow},
+        {"max-age=99999999999", "", kNow + 365LL * 24 * 3600},
+        {"no-cache, max-age=60", "", kNow},
+        {"", "Mon, 12 Jan 1970 14:03:20 GMT", kNow + 1000},
+        {"", "0", kNow},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(expiryOf(row.cacheControl, row.expires, kNow), row.expected)
+            << row.cacheControl << '|' << row.expires;
+    }
+}
+
+TEST(RetryPlanTest, PausesGrowAndAServerWithoutAnswerPausesAllTiles)
+{
+    RetryPlan plan;
+    const TileAddress tile{1, 0, 0};
+    const TileAddress other{1, 1, 1};
+    plan.failed(tile, RetryPlan::Failure::Tile, 0.0);
+    EXPECT_FALSE(plan.mayAsk(tile, 1.0));
+    EXPECT_TRUE(plan.mayAsk(tile, 2.0));
+    EXPECT_TRUE(plan.mayAsk(other, 0.0));
+    plan.failed(tile, RetryPlan::Failure::Tile, 2.0);
+    EXPECT_FALSE(plan.mayAsk(tile, 5.0));
+    EXPECT_TRUE(plan.mayAsk(tile, 6.0));
+    for (int i = 0; i < 100; ++i) {
+        plan.failed(tile, RetryPlan::Failure::Tile, 10.0);
+    }
+    EXPECT_TRUE(plan.mayAsk(tile, 10.0 + 301.0)) << "never longer than five minutes";
+
+    plan.failed(other, RetryPlan::Failure::Server, 400.0);
+    EXPECT_FALSE(plan.mayAsk({5, 3, 3}, 401.0));
+    EXPECT_TRUE(plan.mayAsk({5, 3, 3}, 402.0));
+    plan.succeeded(other);
+    EXPECT_TRUE(plan.mayAsk(other, 400.5));
+}
+
+class TileStoreTest : public ::testing::Test
+{
+protected:
+    QString path(const char* name) const { return mDir.filePath(QLatin1String(name)); }
+    static TileStore::Tile tile(char content, int size = 1000)
+    {
+        return {QByteArray(size, content), {kNow, "\"tag\"", "yesterday"}};
+    }
+
+    QTemporaryDir mDir;
+    TileStore mStore{mDir.filePath(QStringLiteral("tiles"))};
+};
+
+TEST_F(TileStoreTest, KeepsPicturesAsPlainFilesWithTheirFreshnessBeside)
+{
+    const TileAddress address{5, 17, 11};
+    EXPECT_FALSE(mStore.read(address).has_value());
+    ASSERT_TRUE(mStore.write(address, tile('a')));
+    QFile file(path("tiles/5/17/11.png"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), tile('a').picture);
+    ASSERT_TRUE(mStore.read(address).has_value());
+    EXPECT_EQ(mStore.read(address)->freshness, tile('a').freshness);
+    EXPECT_TRUE(mStore.refresh(address, {kNow + 5, "a\r\nb", ""}));
+    EXPECT_EQ(mStore.read(address)->freshness, (TileFreshness{kNow + 5, "a  b", ""}));
+    EXPECT_FALSE(mStore.refresh({5, 1, 1}, {})) << "there is no such picture";
+}
+
+TEST_F(TileStoreTest, TakesAFolderOfPlainPictures)
+{
+    ASSERT_TRUE(QDir().mkpath(path("tiles/3/4")));
+    QFile file(path("tiles/3/4/5.png"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("picture");
+    file.close();
+    const auto stored = mStore.read({3, 4, 5});
+    ASSERT_TRUE(stored.has_value());
+    EXPECT_EQ(stored->picture, QByteArray("picture"));
+    const qint64 now = QDateTime::currentSecsSinceEpoch();
+    EXPECT_NEAR(static_cast<double>(stored->freshness.expires),
+                static_cast<double>(now + kDefaultLifetime), 60.0);
+    EXPECT_EQ(mStore.read({3, 4, 5})->freshness, stored->freshness);
+}
+
+TEST_F(TileStoreTest, WhatWasNotUsedForLongestMakesWay)
+{
+    for (int y = 0; y < 4; ++y) {
+        ASSERT_TRUE(mStore.write({4, 2, y}, tile('a')));
+        QFile meta(path("tiles/4/2/%1.meta").arg(y));
+        ASSERT_TRUE(meta.open(QIODevice::ReadWrite));
+        meta.setFileTime(QDateTime::currentDateTimeUtc().addDays(y - 10),
+                         QFileDevice::FileModificationTime);
+    }
+    ASSERT_TRUE(mStore.read({4, 2, 0}).has_value()); // now it is the last used
+    EXPECT_LE(mStore.trim(2500), 2500);
+    EXPECT_TRUE(mStore.read({4, 2, 0}).has_value());
+    EXPECT_FALSE(mStore.read({4, 2, 1}).has_value());
+    EXPECT_FALSE(mStore.read({4, 2, 2}).has_value());
+    EXPECT_TRUE(mStore.read({4, 2, 3}).has_value());
+    EXPECT_FALSE(QFileInfo::exists(path("tiles/4/2/1.meta")));
+    EXPECT_EQ(TileStore(path("missing")).trim(0), 0);
+}
+
+TEST_F(TileStoreTest, AStoreThatCannotBeWrittenOnlyReads)
+{
+    QFile file(path("plain"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    const TileStore blocked(path("plain")); // a file where the folder should be
+    EXPECT_FALSE(blocked.write({1, 0, 0}, tile('a')));
+    EXPECT_FALSE(blocked.read({1, 0, 0}).has_value());
+    const TileStore none{QString()};
+    EXPECT_FALSE(none.write({1, 0, 0}, tile('a')));
+    EXPECT_FALSE(QFileInfo::exists(QStringLiteral("/1/0/0.png")));
+}
+
+TEST(TileImageTest, TakesPicturesOfTilesAndNothingElse)
+{
+    const QByteArray good = TileServer::tile(3, 4, 5);
+    const QImage image = decodeTile(good);
+    ASSERT_EQ(image.size(), QSize(256, 256));
+    EXPECT_EQ(image.pixelColor(10, 10), TileServer::tileColor(3, 4, 5));
+    QByteArray flipped = good;
+    for (int i = 40; i < flipped.size(); i += 7) {
+        flipped[i] = static_cast<char>(flipped[i] ^ 0x5a);
+    }
+    for (const QByteArray& bad :
+         {QByteArray(), QByteArray("<html></html>"), good.left(150), good.left(good.size() - 1),
+          TileServer::enormous(), QByteArray(5 * 1024 * 1024, 'x')}) {
+        EXPECT_TRUE(decodeTile(bad).isNull()) << bad.size();
+    }
+    decodeTile(flipped); // must only survive
+}
+
+} // namespace
