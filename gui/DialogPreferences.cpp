@@ -55,7 +55,7 @@ void DialogPreferences::createPages()
     mPageList->setAccessibleName(tr("Pages"));
     connect(mPageList, &QListWidget::currentItemChanged, this, &DialogPreferences::slotChangePage);
     addPage(tr("General"), "preferences", mGeneral);
-    addPage(tr("Map"), "aircraft", mMap);
+    addPage(tr("Map"), "map", mMap);
     mPageList->setCurrentRow(0);
 
     connect(mGeneral, &PreferencesGeneral::signalLanguage, this, &DialogPreferences::slotLanguage);

@@ -1,6 +1,7 @@
 #include "gui/RecentMenu.h"
 
 #include "core/Property.h"
+#include "gui/ImageHandler.h"
 
 #include <QActionGroup>
 #include <QDir>
@@ -38,6 +39,7 @@ RecentMenu::RecentMenu(Kind kind, Property& settings, QActionGroup& group, QWidg
     setObjectName(kind == Kind::Cards ? QStringLiteral("menuRecentCards")
                                       : QStringLiteral("menuRecentProjects"));
     setToolTipsVisible(true);
+    setIcon(ImageHandler::instance().icon(QStringLiteral("recent")));
     connect(this, &QMenu::aboutToShow, this, &RecentMenu::slotFill);
     connect(this, &QMenu::triggered, this,
             [this](QAction* action) { emit signalChosen(action->data().toString()); });
