@@ -8,6 +8,7 @@ static void registerBuiltInFiles()
     Q_INIT_RESOURCE(resources);
     Q_INIT_RESOURCE(translations);
     Q_INIT_RESOURCE(help);
+    Q_INIT_RESOURCE(map);
 }
 
 namespace VELIX {
