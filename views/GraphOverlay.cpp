@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kPadding = 4; ///< between a text and the edge of its ground
 constexpr int kSwatch = 10;
+constexpr int kDottedHandle = 16; ///< below, its dots would run together
 
 } // namespace
 
@@ -119,7 +120,7 @@ void GraphOverlay::paintHandles()
         mPainter.setPen(Qt::NoPen);
         mPainter.setBrush(colourOf(mScene.shown[place]));
         mPainter.drawRoundedRect(handle, 2, 2);
-        if (handle.height() < 8) {
+        if (handle.height() < kDottedHandle) {
             continue;
         }
         // Three dots, as on everything that can be dragged.

@@ -31,6 +31,7 @@ private:
         QString text;
         QColor colour;
         double distance = 0.0; ///< pixels from the mouse to the trace
+        std::size_t place = 0; ///< of the trace, from top to bottom
     };
 
     void paintTimeAxis();

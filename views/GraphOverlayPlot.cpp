@@ -163,12 +163,18 @@ void GraphOverlay::paintHover()
         if (named) {
             text.prepend(mModel.parameter(trace).name + QStringLiteral("  "));
         }
-        notes.push_back(
-            {text, GraphLook::readable(colourOf(trace), mLook.back), distanceToMouse(place, time)});
+        notes.push_back({text, GraphLook::readable(colourOf(trace), mLook.back),
+                         distanceToMouse(place, time), place});
     }
-    if (named && static_cast<int>(notes.size()) > boxLines(notes)) {
-        std::stable_sort(notes.begin(), notes.end(),
+    const int lines = boxLines(notes);
+    if (named && static_cast<int>(notes.size()) > lines) {
+        // The nearest traces, in the order in which they stand in the plot; the last line counts
+        // the others.
+        const auto end = notes.begin() + std::max(0, lines - 1);
+        std::nth_element(notes.begin(), end, notes.end(),
                          [](const Note& a, const Note& b) { return a.distance < b.distance; });
+        std::sort(notes.begin(), end,
+                  [](const Note& a, const Note& b) { return a.place < b.place; });
     }
     paintReadouts(time, mPointer.mouse.y(), notes);
 }

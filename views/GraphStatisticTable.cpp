@@ -22,6 +22,7 @@ enum EColumn { eName, eMinimum, eMaximum, eAverage, eUnit, eColumnCount };
 constexpr int kGap = 4;
 constexpr int kLeastRowHeight = 22;
 constexpr int kRowMargin = 6;
+constexpr int kHeadingMargin = 20;
 constexpr int kMostRows = 5; ///< rows that need no scrolling; the graph has the space
 constexpr int kSwatch = 12;
 constexpr int kDecimals = 2; // of seconds
@@ -51,6 +52,7 @@ GraphStatisticTable::GraphStatisticTable(QWidget* parent)
     layout->addWidget(mHeading);
     layout->addWidget(mTable);
     mHeading->setProperty("role", QStringLiteral("muted")); // the style sheet colours it
+    mHeading->setWordWrap(true);
     mHeading->setContentsMargins(2 * kGap, 0, 2 * kGap, 0);
     createTable();
     fitHeight();
@@ -147,8 +149,21 @@ void GraphStatisticTable::setCell(int row, int column, const QString& text)
     }
 }
 
+/// Rather a scroll bar than headings cut off, where the view is narrow.
+void GraphStatisticTable::fitHeadings()
+{
+    QHeaderView* header = mTable->horizontalHeader();
+    int width = 0;
+    for (int column = 0; column < eColumnCount; ++column) {
+        width = std::max(width, header->fontMetrics().horizontalAdvance(
+                                    mTable->horizontalHeaderItem(column)->text()));
+    }
+    header->setMinimumSectionSize(width + kHeadingMargin);
+}
+
 void GraphStatisticTable::fitHeight()
 {
+    fitHeadings();
     const int rowHeight = std::max(kLeastRowHeight, mTable->fontMetrics().height() + kRowMargin);
     mTable->verticalHeader()->setMinimumSectionSize(rowHeight);
     mTable->verticalHeader()->setDefaultSectionSize(rowHeight);

@@ -37,6 +37,7 @@ private:
     void showRow(int row, const GraphModel& model, unsigned int trace);
     void setCell(int row, int column, const QString& text);
     void fitHeight();
+    void fitHeadings();
 
     QLabel* mHeading;
     QTableWidget* mTable;
