@@ -27,9 +27,9 @@ double exhaustThree(const UnitState& s)
 using S = const UnitState&;
 
 const std::vector<Message> kAirframe = {
-    {0x301, "Airframe/Latitude", eFloat, 5, [](S s) { return s.latitude; }, 1.0, 0.0, true},
-    {0x302, "Airframe/Longitude", eFloat, 5, [](S s) { return s.longitude; }, 1.0, 0.0, true},
-    {0x303, "Airframe/Altitude", eFloat, 5, [](S s) { return s.altitude; }},
+    {0x40C, "Airframe/Latitude", eFloat, 5, [](S s) { return s.latitude; }, 1.0, 0.0, true},
+    {0x40D, "Airframe/Longitude", eFloat, 5, [](S s) { return s.longitude; }, 1.0, 0.0, true},
+    {0x40E, "Airframe/Altitude", eFloat, 5, [](S s) { return s.altitude; }},
     {0x304, "Airframe/Ground Speed", eFloat, 5, [](S s) { return s.groundSpeed; }, 1.0, 0.0, true},
     {0x305, "Airframe/Heading", eUShort, 5, [](S s) { return s.heading; }, 0.1},
     {0x306, "Airframe/Vertical Speed", eFloat, 5, [](S s) { return s.flight.verticalSpeed; }},
