@@ -1,104 +1,20 @@
-#include "gui/DialogMain.h"
-
 #include "core/Progress.h"
 #include "export/DialogExportCsv.h"
 #include "gui/DialogCard.h"
 #include "gui/DialogProfile.h"
-#include "gui/DialogStatusBar.h"
-#include "gui/MainActions.h"
-#include "gui/QwtComboBox.h"
-#include "gui/WidgetHint.h"
-#include "tests/gui/TestProgram.h"
+#include "tests/gui/MainWindowFixture.h"
 #include "tests/support/CapturedDiagnostics.h"
 #include "views/DialogData.h"
 #include "views/DialogDataLimit.h"
 
-#include <gtest/gtest.h>
-
-#include <QAction>
-#include <QApplication>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QProgressBar>
-#include <QPushButton>
-#include <QSplitter>
-#include <QTableWidget>
-#include <QTest>
 #include <QTimer>
 #include <QToolBar>
-#include <QTreeWidget>
-
-#include <memory>
 
 using namespace VELIX;
 using namespace VELIX::Test;
-
-namespace {
-
-constexpr int kLoadMs = 3000;
-
-class DialogMainTest : public ::testing::Test
-{
-protected:
-    /// Starts the program, up to and with its deferred start-up.
-    void start()
-    {
-        window = std::make_unique<DialogMain>(program.context, program.dialogs);
-        QApplication::setActiveWindow(window.get());
-        QTest::qWait(60);
-    }
-    void startWithCard()
-    {
-        ASSERT_TRUE(program.installProfile());
-        ASSERT_TRUE(writeCard(program.cardFolder()));
-        program.settings.setString("LastPath", program.cardFolder().toStdString());
-        start();
-    }
-    template <typename T>
-    T& find(const char* name = "")
-    {
-        return *window->findChild<T*>(QLatin1String(name));
-    }
-    QAction& action(int id) { return *find<MainActions>().action(id); }
-    QTreeWidget& cycles() { return find<QTreeWidget>("treeCycles"); }
-    QString loaded() { return find<DialogStatusBar>().loaded(); }
-    QString notice() { return find<DialogStatusBar>().notice(); }
-    bool loadCycle(int index)
-    {
-        cycles().setCurrentItem(cycles().topLevelItem(index));
-        return QTest::qWaitFor([this] { return !loaded().isEmpty(); }, kLoadMs);
-    }
-    void select(int device, int parameter)
-    {
-        find<QTreeWidget>("treeParameters")
-            .topLevelItem(device)
-            ->child(parameter)
-            ->setCheckState(0, Qt::Checked);
-        find<QPushButton>("buttonConfirm").click();
-    }
-    void chooseVariant(const char* name)
-    {
-        auto& box = find<QwtComboBox>("selectorVariant");
-        const int index = box.findText(QLatin1String(name));
-        box.setCurrentIndex(index);
-        emit box.activated(index);
-    }
-    /// The value table, among those of all views.
-    QTableWidget& table() { return *find<QWidget>("viewTable").findChild<QTableWidget*>(); }
-    QString headings()
-    {
-        QStringList texts;
-        for (int i = 0; i < table().columnCount(); ++i) {
-            texts.append(table().horizontalHeaderItem(i)->text());
-        }
-        return texts.join(QLatin1Char('|'));
-    }
-
-    TestProgram program;
-    std::unique_ptr<DialogMain> window;
-};
-
-} // namespace
 
 TEST_F(DialogMainTest, OpensTheLastCardAndProjectAfterItIsShown)
 {
@@ -398,6 +314,9 @@ TEST_F(DialogMainTest, ActionsCarryTheirNumbersTextsAndKeys)
                 {6, "&Quit", "Ctrl+Q", "Quit Application"},
                 {8, "About", "", "Show License Information"},
                 {9, "Profile", "", "Show Profile Information"},
+                {10, "Help", "F1", "Help Window"},
+                {15, "Preferences", "", "Open Preferences Dialog"},
+                {17, "Export Google KML File", "", "Export Google Earth KML File"},
                 {18, "Export CSV File", "", "Export CSV File"}};
     for (const auto& row : rows) {
         const QAction& a = action(row.id);

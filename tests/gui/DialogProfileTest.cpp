@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -147,6 +149,32 @@ TEST_F(DialogProfileTest, WhatTheSearchHidesCannotBeTickedThroughItsDevice)
     search("");
     EXPECT_TRUE(tree().topLevelItem(0)->flags() & Qt::ItemIsUserCheckable);
     EXPECT_FALSE(blinks());
+}
+
+TEST_F(DialogProfileTest, CountsWhatIsSelectedAndSelectsWhatIsShown)
+{
+    const auto& count = *dialog.findChild<QLabel*>(QStringLiteral("countParameters"));
+    const struct
+    {
+        const char* filter;
+        int entry; ///< of the context menu: all or none shown
+        const char* selection;
+        const char* count;
+    } rows[] = {{"oil", 0, "Lane A/Oil Temp", "1 of 3 selected"},
+                {"airframe", 0, "Airframe/Ground Speed, Airframe/Flaps, Lane A/Oil Temp",
+                 "3 of 3 selected"},
+                {"flaps", 1, "Airframe/Ground Speed, Lane A/Oil Temp", "2 of 3 selected"},
+                {"", 1, "", "0 of 3 selected"}};
+    for (const auto& row : rows) {
+        search(row.filter);
+        tree().actions().at(row.entry)->trigger();
+        EXPECT_EQ(program.selection(), QLatin1String(row.selection));
+        EXPECT_EQ(count.text(), QLatin1String(row.count));
+    }
+    EXPECT_TRUE(blinks());
+    EXPECT_EQ(changes.count(), 0); // not confirmed yet
+    tree().topLevelItem(0)->setCheckState(0, Qt::Checked);
+    EXPECT_EQ(count.text(), QStringLiteral("2 of 3 selected"));
 }
 
 TEST_F(DialogProfileTest, FollowsAReloadAndKeepsClosedDevicesAndTheSearch)

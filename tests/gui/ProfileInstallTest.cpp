@@ -47,6 +47,16 @@ TEST_F(ProfileInstallTest, ReplacesTheInstalledProfileOnlyByAProfile)
             << text;
         EXPECT_EQ(installed(), before) << text;
     }
+    const QByteArray deep = QByteArray("<a>").repeated(50000) + QByteArray("</a>").repeated(50000);
+    QFile huge(program.home.filePath(QStringLiteral("huge.xml")));
+    ASSERT_TRUE(huge.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(huge.resize(qint64(2) << 30));
+    for (const QString& file : {chosen("<CanAerospaceProfile>" + deep + "</CanAerospaceProfile>"),
+                                huge.fileName(), program.home.path()}) {
+        EXPECT_EQ(ProfileInstaller::install(file, settings.installedFile()),
+                  ProfileInstaller::Result::NotAProfile);
+        EXPECT_EQ(installed(), before);
+    }
     EXPECT_EQ(ProfileInstaller::install(chosen(kProfile), settings.installedFile()),
               ProfileInstaller::Result::Installed);
     EXPECT_EQ(installed(), kProfile);

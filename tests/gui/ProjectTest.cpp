@@ -194,6 +194,19 @@ TEST_F(ProjectTest, WhatOnlyAnotherVariantHasIsSelectedWithThatVariant)
     project.restoreSelection();
     EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Fuel, Lane B/Oil"));
 
+    // Saving keeps what is waiting, after what is selected.
+    write(projectFile(), "<VelixProject><Parameters><Parameter name='Other/A'/>"
+                         "<Parameter name='Lane B/Oil'/></Parameters></VelixProject>");
+    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Solo")));
+    ASSERT_EQ(project.readProject(projectFile()), 1);
+    select({10});
+    ASSERT_EQ(project.saveProject(projectFile()), 1);
+    EXPECT_TRUE(written(projectFile())
+                    .simplified()
+                    .contains("<Parameters> <Parameter name=\"Lane A/Fuel\"/> "
+                              "<Parameter name=\"Lane B/Oil\"/> <Parameter name=\"Other/A\"/> "
+                              "</Parameters>"));
+
     // A new project forgets what is waiting, too.
     ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Solo")));
     ASSERT_EQ(project.readProject(projectFile()), 1);

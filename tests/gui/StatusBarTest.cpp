@@ -6,6 +6,7 @@
 
 #include <QLabel>
 #include <QProgressBar>
+#include <QTest>
 
 using namespace VELIX;
 using namespace VELIX::Test;
@@ -32,6 +33,26 @@ TEST(DialogStatusBar, ShowsProgressOnlyWhileThereIsWork)
     EXPECT_TRUE(progress->isVisible());
     bar.setProgress(100);
     EXPECT_FALSE(progress->isVisible());
+}
+
+TEST(DialogStatusBar, RepaintsTheWindowDuringLongWork)
+{
+    struct Window : QWidget
+    {
+        void paintEvent(QPaintEvent*) override { ++paints; }
+        int paints = 0;
+    } window;
+    DialogStatusBar bar(&window);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    bar.beginWork(QStringLiteral("Loading"));
+    window.paints = 0;
+    bar.setProgress(1);
+    EXPECT_EQ(window.paints, 0);
+    QTest::qSleep(300); // no events
+    bar.setProgress(2);
+    bar.setProgress(3);
+    EXPECT_EQ(window.paints, 1);
 }
 
 TEST(DialogStatusBar, KeepsWhatIsLoadedBesideANotice)
