@@ -58,9 +58,9 @@ bool isReasonable(const QByteArray& text)
     return !reader.hasError();
 }
 
-bool parse(QDomDocument& doc, const QByteArray& text)
+bool parse(QDomDocument& doc, const QByteArray& text, bool isChecked = false)
 {
-    if (isReasonable(text)) {
+    if (isChecked || isReasonable(text)) {
         // The same parser as above: another might see another depth in the same bytes.
         QXmlStreamReader reader(text);
         reader.setNamespaceProcessing(false);
@@ -236,15 +236,29 @@ bool XmlHandler::xmlGetBoolAttribute(const QDomNamedNodeMap& attrs, const QStrin
     return value == QLatin1String("true") || value == QLatin1String("1");
 }
 
+bool XmlHandler::xmlReadText(QByteArray& text, const QString& file)
+{
+    const std::optional<QByteArray> bytes = readBytes(file);
+    if (!bytes) {
+        Diagnostics::print("could not open file <%s>\n", qUtf8Printable(file));
+        return false;
+    }
+    if (!isReasonable(*bytes)) {
+        Diagnostics::print("could not set content <%s>\n", qUtf8Printable(file));
+        return false;
+    }
+    text = *bytes;
+    return true;
+}
+
 bool XmlHandler::xmlReadFile(QDomDocument& doc, const QString& file)
 {
-    const std::optional<QByteArray> text = readBytes(file);
-    if (!text) {
-        Diagnostics::print("could not open file <%s>\n", qUtf8Printable(file));
+    QByteArray text;
+    if (!xmlReadText(text, file)) {
         doc = QDomDocument();
         return false;
     }
-    if (!parse(doc, *text)) {
+    if (!parse(doc, text, true)) {
         Diagnostics::print("could not set content <%s>\n", qUtf8Printable(file));
         return false;
     }

@@ -43,6 +43,8 @@ public:
     /// Reads a whole file; false, with a diagnostic, if it cannot be opened or does not parse.
     /// Files nested or entity-laden beyond reason count as not parsing.
     bool xmlReadFile(QDomDocument& doc, const QString& file);
+    /// The same without the cost of a document: the text, which is known to parse.
+    bool xmlReadText(QByteArray& text, const QString& file);
     /// The same for dir/file, without a diagnostic.
     bool xmlReadFile(QDomDocument& doc, const QString& dir, const QString& file);
     /// Writes beside the target and renames over it, so that a failure leaves the old file.

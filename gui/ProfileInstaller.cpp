@@ -25,8 +25,9 @@ bool copyFile(const QString& file, const QString& destination)
         return false;
     }
     const QByteArray content = source.readAll();
+    // Flushed here: the closing takes a part that went in before the disk was full for the whole.
     return source.error() == QFileDevice::NoError && target.write(content) == content.size() &&
-           target.commit();
+           target.flush() && target.commit();
 }
 
 } // namespace

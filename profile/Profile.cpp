@@ -9,6 +9,7 @@
 #include <QDomDocument>
 #include <QSet>
 #include <QStringList>
+#include <QXmlStreamReader>
 
 namespace VELIX {
 
@@ -24,6 +25,26 @@ EUnit unitFromSetting(int unit)
 bool isProfile(const QDomDocument& document)
 {
     return document.documentElement().nodeName() == QLatin1String(kRootName);
+}
+
+/// Reads the lists of variants below the root, without the document that the model is made of.
+void readVariants(QXmlStreamReader& reader, std::vector<ProfileVariant>& variants)
+{
+    while (reader.readNextStartElement()) {
+        if (reader.qualifiedName() != QLatin1String("Variants")) {
+            reader.skipCurrentElement();
+            continue;
+        }
+        while (reader.readNextStartElement()) {
+            if (reader.qualifiedName() == QLatin1String("Variant")) {
+                const QXmlStreamAttributes attributes = reader.attributes();
+                variants.push_back({attributes.value(QLatin1String("name")).toString(),
+                                    attributes.value(QLatin1String("id")).toString(),
+                                    attributes.value(QLatin1String("color")).toString()});
+            }
+            reader.skipCurrentElement();
+        }
+    }
 }
 
 } // namespace
@@ -61,29 +82,19 @@ int Profile::loadProfile(const QString& file)
 int Profile::loadVariants(const QString& file)
 {
     mVariants.clear();
-    QDomDocument document;
-    XmlHandler xml;
-    if (!xml.xmlReadFile(document, file)) {
+    QByteArray text;
+    if (!XmlHandler().xmlReadText(text, file)) {
         Diagnostics::print("Profile::loadVariants Error could not load <%s>\n",
                            file.toUtf8().constData());
         return 0;
     }
-    if (!isProfile(document)) {
+    QXmlStreamReader reader(text);
+    reader.setNamespaceProcessing(false);
+    if (!reader.readNextStartElement() || reader.qualifiedName() != QLatin1String(kRootName)) {
         Diagnostics::print("Profile::loadVariants Not a CanAerospaceProfile\n");
         return 0;
     }
-    const QString listName = QStringLiteral("Variants");
-    const QString itemName = QStringLiteral("Variant");
-    const QDomElement root = document.documentElement();
-    for (QDomElement list = root.firstChildElement(listName); !list.isNull();
-         list = list.nextSiblingElement(listName)) {
-        for (QDomElement item = list.firstChildElement(itemName); !item.isNull();
-             item = item.nextSiblingElement(itemName)) {
-            mVariants.push_back({item.attribute(QStringLiteral("name")),
-                                 item.attribute(QStringLiteral("id")),
-                                 item.attribute(QStringLiteral("color"))});
-        }
-    }
+    readVariants(reader, mVariants);
     return 1;
 }
 
