@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """Writes the seeds of the fuzz targets: make_corpus.py FOLDER
 
-The same files every time, in FOLDER/record, FOLDER/profile and FOLDER/settings. Inputs that once
-broke something belong here, too, under a name that says what they are.
+The same files every time, in a folder per target. Inputs that once broke something belong here,
+too, under a name that says what they are.
 """
 
 import math
@@ -10,6 +10,7 @@ import random
 import shutil
 import struct
 import sys
+import zlib
 from pathlib import Path
 from xml.sax.saxutils import quoteattr
 
@@ -239,11 +240,59 @@ def settings():
     yield "cut", element("VELIX", setting("Unit", "1"))[:-12]
 
 
+# --- the map ----------------------------------------------------------------------------------
+
+TILE, META, TERRAIN, COAST = (bytes((choice,)) for choice in range(4))  # see fuzz_map.cpp
+
+
+def png(width=4, height=4, depth=8, interlace=0):
+    """A grey picture; its head may say more than there is."""
+    def chunk(kind, content):
+        return (struct.pack(">I", len(content)) + kind + content
+                + struct.pack(">I", zlib.crc32(kind + content)))
+
+    rows = b"".join(b"\0" + bytes(range(4)) for _ in range(4))
+    return (b"\x89PNG\r\n\x1a\n"
+            + chunk(b"IHDR", struct.pack(">IIBBBBB", width, height, depth, 0, 0, 0, interlace))
+            + chunk(b"IDAT", zlib.compress(rows)) + chunk(b"IEND", b""))
+
+
+def coast(*lines):
+    return b"COAST1\n" + b"".join(
+        struct.pack("<I", len(line)) + b"".join(
+            struct.pack("<ii", round(x * 1e6), round(y * 1e6)) for x, y in line)
+        for line in lines)
+
+
+def maps():
+    """Name and bytes of each seed of the map."""
+    yield "nothing", b""
+    yield "tile", png() + TILE
+    yield "tile-cut", png()[:-9] + TILE
+    yield "tile-of-a-gigabyte", png(30_000, 30_000) + TILE
+    yield "tile-interlaced", png(interlace=1) + TILE
+    yield "tile-without-size", png(0, 0) + TILE
+    yield "tile-gif", b"GIF89a\xff\x03\xff\x03\x80\0\0\0\0\0\xff\xff\xff,\0\0\0\0\1\0\1\0\0\2\2D\1\0;" + TILE
+    yield "tile-page", b"<html><body>Please log in</body></html>" + TILE
+    yield "meta", b'1700000000\n"tag"\nMon, 12 Jan 1970 14:03:20 GMT\n' + META
+    yield "meta-empty", META
+    yield "meta-numbers", b"99999999999999999999\n\n\n\n\n" + META
+    yield "meta-binary", bytes(range(256)) + META
+    yield "terrain-slope", bytes(range(200)) + TERRAIN
+    yield "terrain-holes", b"\x80\x00\x01\x00" + TERRAIN
+    yield "terrain-other-size", bytes(49) + TERRAIN
+    yield "coast", coast([(11, 48), (12, 48.5), (-179, 10)], [(179, -80), (-179.9, 89.9)]) + COAST
+    yield "coast-out-of-range", coast([(2000, 1000), (-2000, -1000)], [(0, 0)], []) + COAST
+    yield "coast-cut", coast([(11, 48), (12, 48.5)])[:-3] + COAST
+    yield "coast-of-a-billion-points", b"COAST1\n\xff\xff\xff\x7f" + COAST
+
+
 def main():
     if len(sys.argv) != 2:
         sys.exit("usage: make_corpus.py FOLDER")
     folder = Path(sys.argv[1])
-    for target, seeds in (("record", records), ("profile", profiles), ("settings", settings)):
+    for target, seeds in (("record", records), ("profile", profiles), ("settings", settings),
+                          ("map", maps)):
         shutil.rmtree(folder / target, ignore_errors=True)
         (folder / target).mkdir(parents=True)
         for name, content in seeds():
