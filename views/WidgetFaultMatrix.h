@@ -31,7 +31,8 @@ public:
     void updateRecord(RecordData* record);
     /// Moves the cursor of the time bar (s), which is painted at once.
     void moveBar(double seconds);
-    /// Moves the time bar and shows the bits in force at a time (s); before the first and after the last sample none is.
+    /// Moves the time bar and shows the bits in force at a time (s); before the first and after the
+    /// last sample none is.
     void setTime(double seconds);
     /// Shows the bits of the message received last.
     void updateLiveData();
