@@ -32,9 +32,10 @@ struct WaitCursor
     WaitCursor& operator=(const WaitCursor&) = delete;
 };
 
-QPageLayout defaultPaper()
+QPageLayout defaultPaper(const Printable& view)
 {
-    return {QPageSize(QPageSize::A4), QPageLayout::Portrait,
+    return {QPageSize(QPageSize::A4),
+            view.printsWide() ? QPageLayout::Landscape : QPageLayout::Portrait,
             QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter};
 }
 
@@ -47,8 +48,7 @@ PrintController::PrintController(Property& settings, DialogService& dialogs, QWi
 void PrintController::print(const Printable& view, const PrintHeader& header)
 {
     QPrinter printer(QPrinter::HighResolution);
-    printer.setPageLayout(defaultPaper());
-    printer.setPageOrientation(view.printsWide() ? QPageLayout::Landscape : QPageLayout::Portrait);
+    printer.setPageLayout(defaultPaper(view));
     printer.setDocName(view.printTitle());
     printer.setCreator(QString::fromStdString(Revision::getRevisionString()));
     if (!mDialogs.choosePrinter(mWindow, printer, tr("Print %1").arg(view.printTitle()))) {
@@ -78,7 +78,7 @@ void PrintController::savePdf(const Printable& view, const PrintHeader& header)
     }
     mSettings.setString(kFolderKey, QFileInfo(path).absolutePath().toStdString());
     mSettings.writeXmlFile();
-    writePdf(path, view, header, defaultPaper(), {});
+    writePdf(path, view, header, defaultPaper(view), {});
 }
 
 void PrintController::writePdf(const QString& path, const Printable& view,

@@ -81,7 +81,6 @@ void paintFooter(QPainter& painter, const Frame& frame, const QString& number)
 int PrintPages::paint(QPagedPaintDevice& device, const Printable& view, const PrintHeader& header,
                       Range range)
 {
-    device.setPageOrientation(view.printsWide() ? QPageLayout::Landscape : QPageLayout::Portrait);
     QPainter painter;
     if (!painter.begin(&device)) {
         return 0;

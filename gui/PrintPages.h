@@ -29,7 +29,7 @@ public:
         int last = 0;  ///< 0: to the last page
     };
 
-    /// Sets the orientation that the view wants; page size and margins are the device's.
+    /// Page size, orientation and margins are the device's.
     /// \return the number of pages painted, 0 if the device cannot be painted on
     static int paint(QPagedPaintDevice& device, const Printable& view, const PrintHeader& header,
                      Range range);
