@@ -1,0 +1,103 @@
+#include "platform/viewlib/ViewPainter.h"
+
+#include "platform/viewlib/ViewGeometry.h"
+#include "platform/viewlib/ViewSurface.h"
+#include "platform/viewlib/ViewVariables.h"
+
+#include <limits>
+
+namespace Vista2D {
+
+namespace {
+
+const ViewScale kNoScale; // numbers as they are, without decimals and range
+
+const ViewScale& orNone(const ViewScale* scale)
+{
+    return scale != nullptr ? *scale : kNoScale;
+}
+
+} // namespace
+
+ViewReading ViewPainter::reading(const ViewBinding& binding) const
+{
+    ViewReading reading;
+    reading.scale = &orNone(mModel.scaleOf(binding, mVariables));
+    reading.shown = std::numeric_limits<double>::quiet_NaN();
+    if (binding.slot >= 0) {
+        reading.shown = shownValue(*reading.scale, mVariables.value(binding.slot));
+        const double state = mVariables.value(binding.stateSlot);
+        reading.state = state >= 2.0 ? 2 : state >= 1.0 ? 1 : 0;
+    }
+    for (const ViewCase& one : binding.cases) {
+        if (mModel.holds(one.conditions, mVariables)) {
+            reading.inCase = &one;
+            break;
+        }
+    }
+    return reading;
+}
+
+void ViewPainter::paintStill()
+{
+    for (const ViewElement& element : mModel.elements) {
+        if (mModel.holds(element.conditions, mVariables)) {
+            paintStill(element);
+        }
+    }
+}
+
+void ViewPainter::paintMoving()
+{
+    for (const ViewElement& element : mModel.elements) {
+        if (mModel.holds(element.conditions, mVariables)) {
+            paintMoving(element);
+        }
+    }
+}
+
+void ViewPainter::paintStill(const ViewElement& element)
+{
+    const auto scaleOf = [this](const ViewBinding& binding) -> const ViewScale& {
+        return orNone(mModel.scaleOf(binding, mVariables));
+    };
+    if (const auto* gauge = std::get_if<ViewGauge>(&element.shape)) {
+        paintDial(mSurface, *gauge, scaleOf(gauge->binding));
+        paintUnits(mSurface, gauge->binding, scaleOf(gauge->binding));
+    } else if (const auto* bar = std::get_if<ViewBar>(&element.shape)) {
+        paintTrack(mSurface, *bar, scaleOf(bar->binding));
+        paintUnits(mSurface, bar->binding, scaleOf(bar->binding));
+    } else if (const auto* value = std::get_if<ViewValue>(&element.shape)) {
+        paintUnits(mSurface, value->binding, scaleOf(value->binding));
+    } else if (const auto* label = std::get_if<ViewLabel>(&element.shape)) {
+        mSurface.text(label->style, label->text, label->style.color);
+    } else if (const auto* rectangle = std::get_if<ViewRectangle>(&element.shape)) {
+        mSurface.box(rectangle->box, rectangle->corner, rectangle->fill, rectangle->line,
+                     rectangle->width);
+    } else if (const auto* line = std::get_if<ViewLine>(&element.shape)) {
+        QPainter& painter = mSurface.shapes();
+        painter.setPen(QPen(line->color, line->width, Qt::SolidLine, Qt::FlatCap));
+        painter.drawLine(line->from, line->to);
+    } else if (const auto* arc = std::get_if<ViewArc>(&element.shape)) {
+        mSurface.ring(arc->center, arc->radius, arc->width, arc->start, arc->end, arc->color);
+    }
+}
+
+void ViewPainter::paintMoving(const ViewElement& element)
+{
+    if (const auto* gauge = std::get_if<ViewGauge>(&element.shape)) {
+        const ViewReading read = reading(gauge->binding);
+        paintNeedle(mSurface, *gauge, read);
+        paintNumbers(mSurface, gauge->binding, read);
+    } else if (const auto* bar = std::get_if<ViewBar>(&element.shape)) {
+        const ViewReading read = reading(bar->binding);
+        paintLevel(mSurface, *bar, read);
+        paintNumbers(mSurface, bar->binding, read);
+    } else if (const auto* value = std::get_if<ViewValue>(&element.shape)) {
+        paintNumbers(mSurface, value->binding, reading(value->binding));
+    } else if (const auto* lamp = std::get_if<ViewLamp>(&element.shape)) {
+        paintLamp(mSurface, *lamp, reading(lamp->binding));
+    }
+}
+
+} // namespace Vista2D

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "platform/viewlib/ViewAttributes.h"
+#include "platform/viewlib/ViewModel.h"
+#include "platform/viewlib/ViewStatement.h"
+
+#include <QByteArray>
+
+#include <map>
+#include <vector>
+
+namespace Vista2D {
+
+class ViewVariables;
+
+/// Reads a view description. The result holds all that could be understood.
+///
+/// Elements nest through a list of open blocks, so that no file can exhaust the stack.
+class ViewReader
+{
+public:
+    static constexpr int kLargestFile = 1 << 20; ///< bytes
+    static constexpr std::size_t kMostElements = 5000;
+    static constexpr std::size_t kDeepestBlock = 32;
+    static constexpr int kMostTicks = 200; ///< of one scale, short ones included
+
+    explicit ViewReader(ViewVariables& variables);
+
+    /// To be called once.
+    void read(const QByteArray& text);
+
+    [[nodiscard]] ViewModel& model() { return mModel; }
+    [[nodiscard]] const std::vector<ViewError>& errors() const { return mErrors.list(); }
+
+private:
+    /// What the lines of an open block belong to.
+    struct Block
+    {
+        enum class Kind { File, Group, Instrument, Scales, Unknown };
+
+        Kind kind = Kind::File;
+        int line = 0;
+        QString word;
+        QPointF origin;           ///< of the coordinates, in view units
+        ConditionList conditions; ///< of all that it holds
+        std::size_t element = 0;  ///< place of the instrument
+        QString scales;           ///< name of the scales
+    };
+    using Handler = void (ViewReader::*)(ViewStatement&, ViewAttributes&);
+
+    static const std::map<QString, Handler>& handlers(Block::Kind kind);
+    void readStatement(ViewStatement& statement);
+    void openUnlessDone(const ViewStatement& statement);
+    void close(int line);
+    void open(const ViewStatement& statement, Block block);
+    [[nodiscard]] Block& block() { return mBlocks.back(); }
+    void nameColors();
+
+    // --- what the file itself and groups hold
+    void readView(ViewStatement& statement, ViewAttributes& attributes);
+    void readColors(ViewStatement& statement, ViewAttributes& attributes);
+    void readScales(ViewStatement& statement, ViewAttributes& attributes);
+    void readGroup(ViewStatement& statement, ViewAttributes& attributes);
+    void readGauge(ViewStatement& statement, ViewAttributes& attributes);
+    void readBar(ViewStatement& statement, ViewAttributes& attributes);
+    void readValue(ViewStatement& statement, ViewAttributes& attributes);
+    void readLamp(ViewStatement& statement, ViewAttributes& attributes);
+    void readLabel(ViewStatement& statement, ViewAttributes& attributes);
+    void readRectangle(ViewStatement& statement, ViewAttributes& attributes);
+    void readLine(ViewStatement& statement, ViewAttributes& attributes);
+    void readArc(ViewStatement& statement, ViewAttributes& attributes);
+
+    // --- what instruments hold
+    void readScale(ViewStatement& statement, ViewAttributes& attributes);
+    void readBand(ViewStatement& statement, ViewAttributes& attributes);
+    void readMark(ViewStatement& statement, ViewAttributes& attributes);
+    void readNumberText(ViewStatement& statement, ViewAttributes& attributes);
+    void readUnitText(ViewStatement& statement, ViewAttributes& attributes);
+    void readCase(ViewStatement& statement, ViewAttributes& attributes);
+
+    template <class Shape>
+    void add(const ViewStatement& statement, ViewAttributes& attributes, Shape shape);
+    /// The instrument that the open block belongs to.
+    [[nodiscard]] ViewBinding& binding();
+    [[nodiscard]] std::vector<ViewScale>& openScales();
+    void readCaption(ViewAttributes& attributes, ViewCaption::Shows shows);
+    void bind(ViewAttributes& attributes, ViewBinding& target, bool isNeeded);
+    void condition(ViewAttributes& attributes, ConditionList& target);
+    bool place(ViewAttributes& attributes, const char* name, QPointF& target);
+    bool box(ViewAttributes& attributes, QRectF& target);
+    void textStyle(ViewAttributes& attributes, ViewText& style);
+    void rangeOf(ViewAttributes& attributes, ViewScale& scale);
+    void checkInstrument(const Block& closed);
+
+    ViewVariables& mVariables;
+    ViewModel mModel;
+    ViewErrors mErrors;
+    ViewAttributes::ColorNames mColors;
+    std::map<QString, std::vector<ViewScale>> mScales; ///< by name
+    std::vector<Block> mBlocks;
+    std::size_t mIgnored = 0; ///< blocks opened too deep
+    bool mFull = false;       ///< the file has too many elements
+};
+
+} // namespace Vista2D
