@@ -2,6 +2,7 @@
 
 #include "core/DataHandler.h"
 #include "gui/AppContext.h"
+#include "gui/DialogCard.h"
 #include "gui/DialogMain.h"
 #include "tools/velix-demo/DemoScenes.h"
 #include "tools/velix-demo/DemoStage.h"
@@ -12,6 +13,7 @@
 #include <QCursor>
 #include <QDir>
 #include <QScreen>
+#include <QSplitter>
 
 #include <algorithm>
 
@@ -35,6 +37,11 @@ bool DemoTour::run(AppContext& context)
     QApplication::setActiveWindow(&window); // a virtual display has no window manager to do it
     QCursor::setPos(window.screen()->geometry().bottomRight()); // nothing is hovered
     DemoStage::runEventsFor(kStartMs);
+    // Its own sizes depend on when the window system answered.
+    const auto* cards = window.findChild<DialogCard*>();
+    if (auto* column = qobject_cast<QSplitter*>(cards->parentWidget())) {
+        column->setSizes({1, 2});
+    }
 
     DemoStage stage(window);
     const bool done = visitScenes(stage) && visitParts(stage) && visitDialogs(stage);
