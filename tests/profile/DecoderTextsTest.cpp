@@ -35,7 +35,7 @@ std::string textOf(Profile& profile, const RecordEntry& entry, const ProfilePara
 {
     int state = 0;
     QColor color;
-    const std::string text = profile.getDataString(entry, p, state, color).toStdString();
+    std::string text = profile.getDataString(entry, p, state, color).toStdString();
     std::string exported = "kept ";
     profile.appendDataString(entry, p, exported);
     EXPECT_EQ(exported, "kept " + text) << "exports and views must agree";

@@ -73,7 +73,7 @@ std::array<std::uint8_t, 8> payload(const Message& m, const UnitState& s, std::u
     data[kTypeByte] = static_cast<std::uint8_t>(m.type);
     data[kCountByte] = static_cast<std::uint8_t>(count);
     for (int i = 0; i < bytes; ++i) {
-        data[static_cast<std::size_t>(m.startByte + i)] =
+        data[static_cast<std::size_t>(m.startByte) + static_cast<std::size_t>(i)] =
             static_cast<std::uint8_t>(word >> (8 * (bytes - 1 - i)));
     }
     return data;
