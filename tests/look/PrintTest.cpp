@@ -62,6 +62,7 @@ TEST(Print, BreaksLongListsOverPagesWithoutLosingRows)
         SCOPED_TRACE(row.name);
         const std::vector<RecordLimit> events = makeEvents(row.events, row.words);
         std::vector<const RecordLimit*> pointers;
+        pointers.reserve(events.size());
         for (const RecordLimit& event : events) {
             pointers.push_back(&event);
         }
