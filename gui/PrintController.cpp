@@ -39,6 +39,13 @@ QPageLayout defaultPaper(const Printable& view)
             QMarginsF(kMargin, kMargin, kMargin, kMargin), QPageLayout::Millimeter};
 }
 
+/// Fit to be the name of a file.
+QString documentName(const Printable& view, const PrintHeader& header)
+{
+    QString name = QStringLiteral("%1 %2").arg(header.card, view.printTitle()).trimmed();
+    return name.replace(QRegularExpression(QStringLiteral("[/\\\\:*?\"<>|]")), QStringLiteral("-"));
+}
+
 } // namespace
 
 PrintController::PrintController(Property& settings, DialogService& dialogs, QWidget* window)
@@ -49,7 +56,7 @@ void PrintController::print(const Printable& view, const PrintHeader& header)
 {
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageLayout(defaultPaper(view));
-    printer.setDocName(view.printTitle());
+    printer.setDocName(documentName(view, header)); // the dialog suggests a file of that name
     printer.setCreator(QString::fromStdString(Revision::getRevisionString()));
     if (!mDialogs.choosePrinter(mWindow, printer, tr("Print %1").arg(view.printTitle()))) {
         return;
@@ -102,12 +109,10 @@ void PrintController::writePdf(const QString& path, const Printable& view,
 
 QString PrintController::suggestedFile(const Printable& view, const PrintHeader& header) const
 {
-    QString name = QStringLiteral("%1 %2").arg(header.card, view.printTitle()).trimmed();
-    name.replace(QRegularExpression(QStringLiteral("[/\\\\:*?\"<>|]")), QStringLiteral("-"));
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QString folder =
         QString::fromStdString(mSettings.getString(kFolderKey, documents.toStdString()));
-    return QDir(folder).filePath(name + QStringLiteral(".pdf"));
+    return QDir(folder).filePath(documentName(view, header) + QStringLiteral(".pdf"));
 }
 
 } // namespace VELIX

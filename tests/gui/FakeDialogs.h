@@ -60,6 +60,7 @@ public:
     bool choosePrinter(QWidget*, QPrinter& printer, const QString& title) override
     {
         asked.append(title);
+        lastStart = printer.docName();
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(file);
         return !file.isEmpty();

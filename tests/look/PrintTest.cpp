@@ -163,7 +163,9 @@ TEST_F(PrintControllerTest, WritesAllPagesWhetherSavedOrPrintedToAFile)
 
 TEST_F(PrintControllerTest, SuggestsAFileNameThatIsOneAndRemembersTheFolder)
 {
-    controller.savePdf(view, header); // cancelled
+    controller.print(view, header); // cancelled, as the next
+    EXPECT_EQ(dialogs.lastStart, QStringLiteral("CARD Limits-Warnings"));
+    controller.savePdf(view, header);
     EXPECT_TRUE(dialogs.lastStart.endsWith(QStringLiteral("/CARD Limits-Warnings.pdf")));
     EXPECT_TRUE(notices.isEmpty());
     EXPECT_TRUE(view.painted.isEmpty());
