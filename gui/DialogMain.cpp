@@ -100,7 +100,7 @@ void DialogMain::createPanes()
             qOverload<>(&DialogMain::slotProfileChanged));
 
     mDialogData = new DialogData(mContext.profile, mContext.card, mContext.settings, mDialogs,
-                                 mContext.emuOnly);
+                                 mContext.paths, mContext.emuOnly);
     connect(mDialogData, &DialogData::signalSelectParameters, mDialogProfile,
             &DialogProfile::focusSearch);
 

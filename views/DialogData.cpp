@@ -1,6 +1,7 @@
 #include "views/DialogData.h"
 
 #include "card/CardContainer.h"
+#include "core/DataHandler.h"
 #include "core/Property.h"
 #include "gui/ImageHandler.h"
 #include "gui/StandardDialogs.h"
@@ -12,6 +13,7 @@
 #include "views/DialogDataLimit.h"
 #include "views/DialogDataStatistic.h"
 #include "views/DialogDataTable.h"
+#include "views/DialogDataView.h"
 #include "views/DialogDataWarning.h"
 #include "views/PageTabBar.h"
 #include "views/PlaceholderView.h"
@@ -38,6 +40,16 @@ constexpr int kIconSize = 32;
 /// The map buttons' ids.
 enum EMapLayout { eMapHidden = 0, eMapBeside = 1, eMapBelow = 2 };
 
+const DataHandler& pathsWithoutHome()
+{
+    static const DataHandler paths = [] {
+        DataHandler resourcesOnly;
+        resourcesOnly.init(nullptr, QCoreApplication::applicationDirPath().toStdString());
+        return resourcesOnly;
+    }();
+    return paths;
+}
+
 } // namespace
 
 DialogData::DialogData(Profile& profile, CardContainer& card, bool emuOnly, QWidget* parent)
@@ -46,11 +58,18 @@ DialogData::DialogData(Profile& profile, CardContainer& card, bool emuOnly, QWid
 
 DialogData::DialogData(Profile& profile, CardContainer& card, Property& settings,
                        DialogService& dialogs, bool emuOnly, QWidget* parent)
+    : DialogData(profile, card, settings, dialogs, pathsWithoutHome(), emuOnly, parent)
+{}
+
+DialogData::DialogData(Profile& profile, CardContainer& card, Property& settings,
+                       DialogService& dialogs, const DataHandler& paths, bool emuOnly,
+                       QWidget* parent)
     : QWidget(parent),
       mProfile(profile),
       mCard(card),
       mSettings(settings),
       mDialogs(dialogs),
+      mPaths(paths),
       mClock([watch = Tessel::Misc::Timer()] { return watch.elapsed(); })
 {
     createViews();
@@ -76,8 +95,8 @@ void DialogData::createViews()
     mTable->setObjectName(QStringLiteral("viewTable"));
     mGraph = new DialogDataGraph(mProfile, mSettings, mDialogs, this);
     mGraph->setObjectName(QStringLiteral("viewGraph"));
-    mInstrument = placeholder("viewInstrument", tr("This version has no instrument panel yet. "
-                                                   "The Data tab lists the values over time."));
+    mInstrument = new DialogDataView(mProfile, mCard, mPaths, this);
+    mInstrument->setObjectName(QStringLiteral("viewInstrument"));
     mFaultMatrix = new DialogDataErrorMatrix(mProfile, this);
     mFaultMatrix->setObjectName(QStringLiteral("viewFaultMatrix"));
     mLimit = new DialogDataLimit(mProfile, mDialogs, this);
@@ -108,6 +127,8 @@ void DialogData::connectViews()
             &DialogData::signalInstallProfile);
     connect(mTable, &DialogDataTable::signalSelectParameters, this,
             &DialogData::signalSelectParameters);
+    connect(mInstrument, &DialogDataView::signalInstallProfile, this,
+            &DialogData::signalInstallProfile);
     connect(mGraph, &DialogDataGraph::signalCursor, this, &DialogData::slotCursor);
     connect(mGraph, &DialogDataGraph::signalNotice, this, &DialogData::signalNotice);
     connect(mGraph, &DialogDataGraph::signalInstallProfile, this,

@@ -11,6 +11,7 @@ class QButtonGroup;
 class QSplitter;
 class QStackedWidget;
 class QTime;
+class DataHandler;
 
 namespace VELIX {
 
@@ -20,6 +21,7 @@ class DialogDataGraph;
 class DialogDataLimit;
 class DialogDataStatistic;
 class DialogDataTable;
+class DialogDataView;
 class DialogDataWarning;
 class DialogService;
 class PageTabBar;
@@ -39,10 +41,13 @@ class DialogData : public QWidget
 
 public:
     /// emuOnly: hides what only someone at a desk needs (time of day, position, time editor).
+    /// Without a home: it reads the resources beside the program, but keeps no files.
     DialogData(Profile& profile, CardContainer& card, bool emuOnly, QWidget* parent = nullptr);
     /// The same with own settings and an own answer to what the views ask the user.
     DialogData(Profile& profile, CardContainer& card, Property& settings, DialogService& dialogs,
                bool emuOnly, QWidget* parent = nullptr);
+    DialogData(Profile& profile, CardContainer& card, Property& settings, DialogService& dialogs,
+               const DataHandler& paths, bool emuOnly, QWidget* parent = nullptr);
 
     /// The card holds another record, or none: the cursor goes to its start.
     void updateRecord();
@@ -104,6 +109,7 @@ private:
     CardContainer& mCard;
     Property& mSettings;
     DialogService& mDialogs;
+    const DataHandler& mPaths;
     ReplayClock mClock;
     CursorRoutes mRoutes;
     RecordData* mRecord = nullptr; ///< the card's working data; null without a record
@@ -117,7 +123,7 @@ private:
     WidgetHint* mLoading = nullptr; ///< lies over the pages between two records
     DialogDataTable* mTable = nullptr;
     DialogDataGraph* mGraph = nullptr;
-    PlaceholderView* mInstrument = nullptr;
+    DialogDataView* mInstrument = nullptr;
     DialogDataErrorMatrix* mFaultMatrix = nullptr;
     DialogDataLimit* mLimit = nullptr;
     DialogDataWarning* mWarning = nullptr;

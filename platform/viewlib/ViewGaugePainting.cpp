@@ -79,8 +79,8 @@ void paintNeedle(ViewSurface& surface, const ViewGauge& gauge, const ViewReading
     if (std::isnan(angle)) {
         return;
     }
-    const QColor color = surface.stateColor(reading.state, gauge.color);
-    surface.ring(gauge.center, fillRadius(gauge), gauge.fill, gauge.start, angle, color);
+    surface.ring(gauge.center, fillRadius(gauge), gauge.fill, gauge.start, angle,
+                 surface.stateColor(reading.state, gauge.color));
     if (gauge.needleFrom == gauge.needleTo) {
         return;
     }
@@ -91,7 +91,7 @@ void paintNeedle(ViewSurface& surface, const ViewGauge& gauge, const ViewReading
     const QPointF outline[] = {foot + side * half, tip + side * 0.7, tip - side * 0.7,
                                foot - side * half};
     QPainter& painter = surface.shapes();
-    painter.setBrush(color);
+    painter.setBrush(surface.stateColor(reading.state, surface.colors().normal));
     // A rim of the ground's colour parts the needle from what it lies upon.
     painter.setPen(QPen(surface.colors().background, 1.2));
     painter.drawConvexPolygon(outline, 4);

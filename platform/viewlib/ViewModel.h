@@ -101,7 +101,7 @@ struct ViewGauge
     double needleFrom = 0.0; ///< radius; equal to needleTo: no needle
     double needleTo = 0.0;
     double needleWidth = 6.0;
-    QColor color; ///< of needle and fill in the normal state
+    QColor color; ///< of the fill in the normal state
 };
 
 struct ViewBar

@@ -63,6 +63,7 @@ QFont ViewSurface::font(double size, bool bold) const
     font.setStyleHint(QFont::SansSerif);
     font.setPointSizeF(std::clamp(size * mScale, 1.0, 2000.0));
     font.setBold(bold);
+    font.setStretch(QFont::SemiCondensed); // more room for digits, as on displays of aircraft
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }

@@ -1,0 +1,157 @@
+#include "views/GeneratedPanel.h"
+
+#include "profile/DataType.h"
+#include "profile/Profile.h"
+
+#include <QCoreApplication>
+#include <QRegularExpression>
+#include <QTextStream>
+
+#include <algorithm>
+#include <cmath>
+
+namespace VELIX {
+
+namespace {
+
+// View units.
+constexpr int kMargin = 16;
+constexpr int kFieldWidth = 216;
+constexpr int kFieldHeight = 44;
+constexpr int kGap = 16;
+constexpr int kMostDecimals = 6;
+
+/// A text as a view description writes it.
+QString quoted(const QString& text)
+{
+    QString out = QStringLiteral("\"");
+    for (const QChar c : text) {
+        if (c == QLatin1Char('"') || c == QLatin1Char('\\')) {
+            out += QLatin1Char('\\');
+        }
+        out += c.isPrint() ? c : QLatin1Char(' ');
+    }
+    return out.left(200) + QLatin1Char('"');
+}
+
+/// Decimals that tell the steps of an integer type apart, or those that the profile prescribes.
+int decimalsOf(const ProfileParameter& p, bool isImperial)
+{
+    const double converted = isImperial ? std::fabs(p.toImperial.factor) : 1.0;
+    const double step =
+        p.dataType == eFloat ? std::pow(10.0, -p.precision) : std::fabs(p.factor) * converted;
+    if (!(step > 0.0) || !std::isfinite(step)) {
+        return 0;
+    }
+    return static_cast<int>(
+        std::clamp(std::floor(0.01 - std::log10(step)), 0.0, double(kMostDecimals)));
+}
+
+void writeScales(QTextStream& out, const ProfileParameter& p)
+{
+    for (const bool isImperial : {false, true}) {
+        const QString& unit = isImperial && p.hasConversion ? p.unitImperial : p.unitMetric;
+        out << "    scale if=\"UNIT " << (isImperial ? "=" : "!=")
+            << " 1\" decimals=" << decimalsOf(p, isImperial) << " unit=" << quoted(unit) << "\n";
+    }
+}
+
+void writeCases(QTextStream& out, const ProfileEnum* labels, const QString& variable)
+{
+    static const QRegularExpression plainName(QStringLiteral("^\\w+$"));
+    if (labels == nullptr || !plainName.match(variable).hasMatch()) {
+        return; // a condition could not name it
+    }
+    for (const auto& [value, label] : labels->values) {
+        out << "    case if=\"" << variable << " = " << value << "\" text=" << quoted(label.label)
+            << "\n";
+    }
+}
+
+void writeField(QTextStream& out, const Profile& profile, const ViewParameter& field, int x, int y)
+{
+    const ProfileParameter& p = field.parameter;
+    const QString variable = QString::fromStdString(field.viewId);
+    out << "group at=" << x << "," << y << " {\n"
+        << "label at=0,17 size=11 color=muted width=" << kFieldWidth
+        << " text=" << quoted(p.fullName) << "\n"
+        << "value var=" << quoted(variable) << " at=150,38 size=18 align=right bold=yes {\n"
+        << "    unit at=156,38 size=11\n";
+    writeScales(out, p);
+    writeCases(out, profile.enumeration(p), variable);
+    out << "}\n"
+        << "line from=0," << kFieldHeight << " to=" << kFieldWidth << "," << kFieldHeight << "\n"
+        << "}\n";
+}
+
+/// The columns that bring the panel nearest to the proportions of a window.
+int columnsFor(int fields)
+{
+    int best = 1;
+    double least = 1e9;
+    for (int columns = 1; columns <= std::max(1, fields); ++columns) {
+        const int rows = (fields + columns - 1) / columns;
+        const double ratio = double(columns * (kFieldWidth + kGap)) / (rows * kFieldHeight);
+        const double distance = std::fabs(std::log(ratio / 1.4));
+        if (distance < least) {
+            least = distance;
+            best = columns;
+        }
+    }
+    return best;
+}
+
+std::string panelWithoutFields()
+{
+    QString text;
+    QTextStream out(&text);
+    out << "view size=480,160\n"
+        << "label at=240,48 size=14 align=center width=460 text="
+        << quoted(QCoreApplication::translate("VELIX::DialogDataView",
+                                              "The profile binds no parameter to the panel."))
+        << "\n"
+        << "label at=200,92 size=11 align=right color=muted text=VARIANT\n"
+        << "value var=VARIANT at=216,92 size=18 bold=yes\n"
+        << "label at=200,124 size=11 align=right color=muted text=UNIT\n"
+        << "value var=UNIT at=216,124 size=18 bold=yes\n";
+    out.flush();
+    return text.toStdString();
+}
+
+} // namespace
+
+std::vector<ViewParameter> viewParameters(const Profile& profile)
+{
+    std::vector<ViewParameter> parameters;
+    for (const ProfileDevice& device : profile.data().devices) {
+        for (const auto& [id, p] : device.parameters) {
+            if (!p.viewId.isEmpty()) {
+                const QString state = QStringLiteral("%1_STATE").arg(p.viewId);
+                parameters.push_back({p, p.viewId.toStdString(), state.toStdString()});
+            }
+        }
+    }
+    return parameters;
+}
+
+std::string generatedPanel(const Profile& profile, const std::vector<ViewParameter>& parameters)
+{
+    if (parameters.empty()) {
+        return panelWithoutFields();
+    }
+    const int count = static_cast<int>(parameters.size());
+    const int columns = columnsFor(count);
+    const int rows = (count + columns - 1) / columns;
+    QString text;
+    QTextStream out(&text);
+    out << "view size=" << 2 * kMargin + columns * (kFieldWidth + kGap) - kGap << ","
+        << 2 * kMargin + rows * kFieldHeight << "\n";
+    for (int i = 0; i < count; ++i) {
+        writeField(out, profile, parameters[static_cast<std::size_t>(i)],
+                   kMargin + i / rows * (kFieldWidth + kGap), kMargin + i % rows * kFieldHeight);
+    }
+    out.flush();
+    return text.toStdString();
+}
+
+} // namespace VELIX

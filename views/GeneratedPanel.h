@@ -1,0 +1,28 @@
+#pragma once
+
+#include "profile/ProfileParameter.h"
+
+#include <string>
+#include <vector>
+
+namespace VELIX {
+
+class Profile;
+
+/// A parameter that the instrument panel shows.
+struct ViewParameter
+{
+    ProfileParameter parameter; ///< a copy: the profile may be loaded again at any time
+    std::string viewId;         ///< the view's variable, UTF-8
+    std::string stateId;        ///< the variable of its threshold state
+};
+
+/// Every parameter of the profile that has a view id, in profile order.
+[[nodiscard]] std::vector<ViewParameter> viewParameters(const Profile& profile);
+
+/// A view description for a profile whose parameters no other view knows: a field with name, value
+/// and unit for each, or the variant and unit system alone where there are none.
+[[nodiscard]] std::string generatedPanel(const Profile& profile,
+                                         const std::vector<ViewParameter>& parameters);
+
+} // namespace VELIX
