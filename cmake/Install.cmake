@@ -2,7 +2,7 @@
 # beside its own folder: PREFIX/lib/velix/{bin,resources}, with links to it in PREFIX/bin.
 if(TARGET velix)
     # The platform's libraries lie beside the program, as in the build folder.
-    foreach(library tessel openstreetmap)
+    foreach(library tessel openstreetmap viewlib)
         if(TARGET ${library})
             install(TARGETS ${library} LIBRARY DESTINATION lib/velix/bin)
             set_target_properties(${library} PROPERTIES INSTALL_RPATH "$ORIGIN")

@@ -17,6 +17,12 @@ namespace {
 
 constexpr int kDotsPerMeter = 2835; // 72 per inch
 
+/// Whole pixels that hold a length; scales are not exact, since OpenGL's matrices are not.
+int edge(double pixels)
+{
+    return std::max(1, static_cast<int>(std::ceil(pixels - 0.01)));
+}
+
 const ViewBinding* bindingOf(const ViewElement& element)
 {
     if (const auto* gauge = std::get_if<ViewGauge>(&element.shape)) {
@@ -78,8 +84,7 @@ std::vector<bool> ViewCanvas::truths(const ViewModel& model, const ViewVariables
 
 void ViewCanvas::paintStill(const ViewModel& model, const ViewVariables& variables)
 {
-    const QSize size(std::max(1, static_cast<int>(std::ceil(model.size.width() * mScale - 1e-6))),
-                     std::max(1, static_cast<int>(std::ceil(model.size.height() * mScale - 1e-6))));
+    const QSize size(edge(model.size.width() * mScale), edge(model.size.height() * mScale));
     if (mStill.size() != size) {
         mStill = QImage(size, QImage::Format_ARGB32_Premultiplied);
         mStill.setDotsPerMeterX(kDotsPerMeter);

@@ -45,7 +45,7 @@ double ViewPlacement::scale() const
 
 bool ViewPlacement::isUpright() const
 {
-    constexpr double kSlack = 1e-6;
+    constexpr double kSlack = 1e-5; // OpenGL keeps its matrices in single precision
     const double size = std::fabs(toPixels.m33());
     const auto isNothing = [&](double number) { return std::fabs(number) <= kSlack * size; };
     return size > 0.0 && isNothing(toPixels.m12()) && isNothing(toPixels.m21()) &&
