@@ -261,7 +261,7 @@ int OpenStreetMap::nrLoadingTiles() const
     return d->type == Tiles ? d->source.loading() + (d->shading ? d->shades.loading() : 0) : 0;
 }
 
-void OpenStreetMap::setArrivedCallback(std::function<void()> callback)
+void OpenStreetMap::setArrivedCallback(const std::function<void()>& callback)
 {
     QObject::disconnect(d->arrivedTile);
     QObject::disconnect(d->arrivedShade);

@@ -80,7 +80,7 @@ public:
     /// more.
     [[nodiscard]] int nrLoadingTiles() const;
     /// Called whenever something has arrived that the next render() would show.
-    void setArrivedCallback(std::function<void()> callback);
+    void setArrivedCallback(const std::function<void()>& callback);
 
     /// Draws over the whole view port, which the caller has set to the window.
     void render();

@@ -85,6 +85,7 @@ TEST_F(TileSourceTest, FourAtATimeAndOnlyWhatIsStillWanted)
 {
     mServer.setMode(TileServer::Mode::Slow);
     std::vector<TileAddress> tiles;
+    tiles.reserve(20);
     for (int x = 0; x < 20; ++x) {
         tiles.push_back({5, x, 3});
     }
