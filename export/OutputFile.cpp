@@ -36,6 +36,9 @@ QString writeOutputFile(const QString& path, const std::function<bool(QIODevice&
         return reason(file);
     }
     if (!filled(file, fill)) {
+        // A write that stopped half-way has told no reason yet: the next one gets it.
+        file.write("\n");
+        file.flush();
         const QString why = reason(file);
         file.cancelWriting();
         return why;
