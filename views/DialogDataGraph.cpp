@@ -63,6 +63,13 @@ void DialogDataGraph::createGraph()
     mGraph->setOfflineMode(true);
     connect(mGraph, &WidgetGraph::signalCursor, this, &DialogDataGraph::signalCursor);
     connect(mGraph, &WidgetGraph::signalManMode, this, &DialogDataGraph::slotManMode);
+    // The keys can take the cursor beyond the visible range.
+    connect(mGraph, &WidgetGraph::signalCursor, this, [this] {
+        if (!mGraph->model().range().contains(mGraph->model().cursorTime())) {
+            noteUserRange();
+            pageTo(mGraph->model().cursorTime());
+        }
+    });
 }
 
 void DialogDataGraph::createCommands()
@@ -144,6 +151,13 @@ void DialogDataGraph::setTime(double seconds)
     }
     noteUserRange();
     mGraph->setCursorPosition(seconds);
+    pageTo(seconds);
+}
+
+/// Moves the visible range so that it holds a time with some room to its ends. That is no visit of
+/// the user's.
+void DialogDataGraph::pageTo(double seconds)
+{
     const GraphTimeRange& visible = mGraph->model().range();
     const GraphTimeRange range = GraphNavigation::paged(visible, seconds);
     if (!(range == visible)) {

@@ -85,6 +85,7 @@ private:
     void createLayout();
     void applySettings();
 
+    void pageTo(double seconds);
     void setRange(const GraphTimeRange& range);
     void zoomAll();
     void setXrange(double seconds);

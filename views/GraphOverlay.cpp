@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cmath>
 
 namespace VELIX {
 
@@ -55,6 +56,7 @@ void GraphOverlay::paint()
     paintFlags();
     paintDrop();
     paintDistance();
+    paintHint(GraphTexts::rangeHint(mModel));
     mPainter.setClipping(false);
     const bool covered =
         mPointer.hovering && timeTag(mouseTime()).intersects(timeTag(mModel.cursorTime()));
@@ -261,9 +263,15 @@ double GraphOverlay::mouseTime() const
 
 void GraphOverlay::paintHint(const QString& text)
 {
+    if (text.isEmpty()) {
+        return;
+    }
+    constexpr int kFlags = Qt::AlignCenter | Qt::TextWordWrap;
     const QRect area = mScene.layout.plot().adjusted(8, 8, -8, -8);
+    const QRect ground = mMetrics.boundingRect(area, kFlags, text);
+    mPainter.fillRect(ground.adjusted(-kPadding, 0, kPadding, 0), mLook.back); // hides the grid
     mPainter.setPen(mLook.plotMutedText());
-    mPainter.drawText(area, Qt::AlignCenter | Qt::TextWordWrap, text);
+    mPainter.drawText(area, kFlags, text);
 }
 
 // --- helpers
@@ -295,7 +303,8 @@ QColor GraphOverlay::colourOf(unsigned int trace) const
 
 int GraphOverlay::textWidth(const QString& text) const
 {
-    return mMetrics.horizontalAdvance(text);
+    // Rounded up: a text in a room rounded down loses a letter for half a pixel.
+    return static_cast<int>(std::ceil(QFontMetricsF(mScene.font).horizontalAdvance(text)));
 }
 
 } // namespace VELIX

@@ -126,4 +126,16 @@ QString hint(const GraphModel& model)
                                        "The selected parameters have no samples in this record.");
 }
 
+QString rangeHint(const GraphModel& model)
+{
+    double first = 0.0;
+    double last = 0.0;
+    if (!model.dataExtent(first, last) || (first <= model.xmax() && last >= model.xmin())) {
+        return {};
+    }
+    return QCoreApplication::translate(
+        "VELIX::GraphTexts",
+        "The samples lie outside the visible range. \"Zoom 1:1\" shows all of them.");
+}
+
 } // namespace VELIX::GraphTexts

@@ -30,6 +30,8 @@ QString cursorTime(double time, double secondsPerPixel);
 
 /// The sentence that an empty graph shows instead of traces; empty if there is something to see.
 QString hint(const GraphModel& model);
+/// The sentence over the empty grid of a visible range before or behind all samples; else empty.
+QString rangeHint(const GraphModel& model);
 
 } // namespace GraphTexts
 } // namespace VELIX

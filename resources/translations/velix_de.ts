@@ -1469,6 +1469,10 @@ Soll sie ersetzt werden?</translation>
         <source>All parameters are hidden. Double-click a name in the legend to show it.</source>
         <translation>Alle Parameter sind ausgeblendet. Ein Doppelklick auf einen Namen in der Legende blendet ihn ein.</translation>
     </message>
+    <message>
+        <source>The samples lie outside the visible range. &quot;Zoom 1:1&quot; shows all of them.</source>
+        <translation>Die Messwerte liegen außerhalb des sichtbaren Bereichs. „Zoom 1:1“ zeigt alle.</translation>
+    </message>
 </context>
 <context>
     <name>VELIX::Licences</name>

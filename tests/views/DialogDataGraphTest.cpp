@@ -156,6 +156,21 @@ TEST_F(DialogDataGraphTest, TheRangeIsPagedWithTheCursor)
     expectRange(-7.0, 93.0);
 }
 
+TEST_F(DialogDataGraphTest, KeysDoNotLoseTheCursorBeyondTheVisibleRange)
+{
+    parameters(1);
+    openRecord(0.0, 1000.0);
+    zoomTo(0.0, 100.0);
+    auto* graph = view->findChild<WidgetGraph*>();
+    graph->setCursorPosition(99.99);
+    QTest::keyClick(graph, Qt::Key_Right, Qt::ShiftModifier);
+    const double cursor = model().cursorTime();
+    EXPECT_GT(cursor, 100.0);
+    expectRange(cursor - 90.0, cursor + 10.0);
+    QTest::keyClick(graph, Qt::Key_Right, Qt::ShiftModifier);
+    expectRange(cursor - 90.0, cursor + 10.0);
+}
+
 TEST_F(DialogDataGraphTest, SamplesComeInOrderOfTimeAndUnit)
 {
     parameters(1);

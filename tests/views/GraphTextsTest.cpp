@@ -73,4 +73,25 @@ TEST(GraphTextsTest, AnEmptyGraphSaysWhy)
     EXPECT_TRUE(GraphTexts::hint(model).contains(QStringLiteral("hidden")));
 }
 
+TEST(GraphTextsTest, ARangeBesideAllSamplesSaysSo)
+{
+    GraphModel model;
+    model.setMaxParameters(1);
+    model.setActive(0, true);
+    EXPECT_TRUE(GraphTexts::rangeHint(model).isEmpty()) << "without samples another hint stands";
+    for (const double time : {100.0, 200.0}) {
+        model.setTime(time);
+        model.putValue(0, 1.0, false);
+    }
+    const auto silentIn = [&](double xmin, double xmax) {
+        model.setRange({xmin, xmax});
+        model.calcFrame();
+        return GraphTexts::rangeHint(model).isEmpty();
+    };
+    EXPECT_FALSE(silentIn(0.0, 60.0));
+    EXPECT_TRUE(silentIn(0.0, 100.0)) << "the first sample stands at the edge";
+    EXPECT_TRUE(silentIn(140.0, 160.0)) << "the line between two samples is to be seen";
+    EXPECT_FALSE(silentIn(201.0, 260.0));
+}
+
 } // namespace
