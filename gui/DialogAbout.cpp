@@ -82,7 +82,6 @@ QWidget* DialogAbout::createLicences()
                            ? entry.name
                            : QStringLiteral("%1\n%2").arg(entry.name, entry.licence));
     }
-    mList->setFixedWidth(mList->sizeHintForColumn(0) + 4 * kGap);
     CopyFilter::install(mList);
     auto* title = new QLabel(tr("&Licences"), pane);
     title->setBuddy(mList);
@@ -96,10 +95,6 @@ QWidget* DialogAbout::createLicences()
     const QFont fixed = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     mText->setStyleSheet(
         QStringLiteral("QPlainTextEdit {font-family: \"%1\";}").arg(fixed.family()));
-    mText->ensurePolished();
-    const QFontMetrics metrics(mText->font());
-    mText->setMinimumSize(metrics.horizontalAdvance(QLatin1Char('0')) * kTextColumns,
-                          metrics.lineSpacing() * kTextRows);
     CopyFilter::install(mText);
     connect(mList, &QListWidget::currentRowChanged, this, &DialogAbout::showLicence);
 
@@ -111,6 +106,17 @@ QWidget* DialogAbout::createLicences()
     layout->addWidget(mText, 1, 1);
     layout->setColumnStretch(1, 1);
     return pane;
+}
+
+/// The size of the text is a preference, which may have changed since the last time.
+void DialogAbout::showEvent(QShowEvent* event)
+{
+    mList->setFixedWidth(mList->sizeHintForColumn(0) + 4 * kGap);
+    mText->ensurePolished();
+    const QFontMetrics metrics(mText->font());
+    mText->setMinimumSize(metrics.horizontalAdvance(QLatin1Char('0')) * kTextColumns,
+                          metrics.lineSpacing() * kTextRows);
+    QDialog::showEvent(event);
 }
 
 void DialogAbout::showLicence(int row)

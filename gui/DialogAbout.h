@@ -15,6 +15,9 @@ class DialogAbout : public QDialog
 public:
     explicit DialogAbout(QWidget* parent = nullptr);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     QWidget* createHeading();
     QWidget* createLicences();

@@ -29,7 +29,9 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSplitter>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace VELIX {
@@ -65,7 +67,7 @@ DialogMain::DialogMain(AppContext& context, DialogService& dialogs)
     createStatusBar();
     setWindowIcon(ImageHandler::instance().icon(QStringLiteral("velix")));
     startTimers();
-    resize(kWidth, kHeight);
+    resize(startSize());
     updateEnabled();
     mLeftPane->setHidden(mContext.emuOnly);
     acceptDrops();
@@ -83,6 +85,13 @@ DialogMain::DialogMain(AppContext& context, DialogService& dialogs)
 DialogMain::~DialogMain()
 {
     Progress::setHook(nullptr);
+}
+
+/// On a small screen the replay controls at the foot have to stay in sight.
+QSize DialogMain::startSize() const
+{
+    const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    return QSize(kWidth, kHeight).boundedTo(screen()->availableSize() - QSize(0, title));
 }
 
 void DialogMain::createPanes()

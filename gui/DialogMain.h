@@ -68,6 +68,7 @@ private slots:
     void slotTimeoutStartup();
 
 private:
+    QSize startSize() const;
     void createPanes();
     void createDialogs();
     void createActions();

@@ -116,7 +116,7 @@ bool ProjectController::saveProject(bool saveAs)
         return false;
     }
     if (mProject.saveProject(file.toStdString()) == 0) {
-        mLastError = tr("The project could not be saved to %1.").arg(file);
+        mLastError = tr("The project could not be saved to %1.").arg(QDir::cleanPath(file));
         return false;
     }
     mFile = file;
