@@ -267,7 +267,7 @@ TEST_F(DialogMainTest, ADisplayOnlyWindowHasNoMenusAndPanels)
     program.context.emuOnly = true;
     startWithCard();
     EXPECT_EQ(window->findChild<QMenuBar*>(), nullptr);
-    EXPECT_EQ(window->findChild<QToolBar*>(), nullptr);
+    EXPECT_EQ(window->findChild<QToolBar*>({}, Qt::FindDirectChildrenOnly), nullptr);
     EXPECT_FALSE(find<DialogCard>().isVisible());
     EXPECT_FALSE(find<DialogProfile>().isVisible());
     EXPECT_TRUE(find<DialogData>().isVisible());

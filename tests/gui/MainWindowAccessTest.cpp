@@ -1,8 +1,12 @@
 // Whether every function of the main window can be reached and named without a mouse.
 
+#include "gui/DialogHelp.h"
+#include "gui/HelpBrowser.h"
 #include "tests/gui/MainWindowFixture.h"
+#include "views/PageTabBar.h"
 
 #include <QAbstractButton>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTabBar>
@@ -89,4 +93,28 @@ TEST_F(DialogMainTest, EveryMenuAnswersToDifferentLetters)
         }
         window.reset();
     }
+}
+
+TEST_F(DialogMainTest, HelpOpensAtWhatTheUserHasAtHand)
+{
+    startWithCard();
+    auto& help = find<DialogHelp>();
+    const auto topicAtKey = [&](QWidget& focused) {
+        QApplication::setActiveWindow(window.get());
+        focused.setFocus();
+        QTest::keyClick(&focused, Qt::Key_F1);
+        const QString page = help.findChild<HelpBrowser*>()->source().fileName();
+        help.hide();
+        return page.section(QLatin1Char('.'), 0, 0).toStdString();
+    };
+    auto& tabs = find<PageTabBar>("tabBar");
+    const char* const topics[] = {"table",   "graph",     "fault",     "limit",
+                                  "warning", "statistic", "instrument"};
+    ASSERT_EQ(tabs.count(), 7);
+    for (int i = 0; i < tabs.count(); ++i) {
+        tabs.setCurrentIndex(i);
+        EXPECT_EQ(topicAtKey(tabs), topics[i]);
+    }
+    EXPECT_EQ(topicAtKey(cycles()), "cards");
+    EXPECT_EQ(topicAtKey(find<QLineEdit>("searchParameters")), "parameters");
 }
