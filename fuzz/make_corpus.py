@@ -287,12 +287,43 @@ def maps():
     yield "coast-of-a-billion-points", b"COAST1\n\xff\xff\xff\x7f" + COAST
 
 
+# --- view descriptions ------------------------------------------------------------------------
+
+def views():
+    """Name and bytes of each view seed."""
+    yield "empty", ""
+    yield "instruments", (ROOT / "resources/views/instruments.v").read_text(encoding="utf-8")
+    dial = "view size=100,100\ngauge var=N at=50,50 radius=40 fill=5 needle=5,30 {\n"
+    yield "dial", dial + (" scale from=-5 to=5 step=1 minor=2 divide=10 unit=V decimals=1\n"
+                          " band from=-9 to=0 color=limit\n mark at=1 color=warning\n"
+                          " number at=1,1 size=9 align=right\n unit at=9,9\n}\n")
+    yield "dial-turned-round", dial + " scale from=5 to=-5 step=1\n}\n"
+    yield "dial-without-range", dial + "}\n"
+    yield "dial-large-numbers", dial + " scale from=-1e12 to=1e12 step=1e10 factor=1e12 offset=-1e12\n}\n"
+    yield "dial-small-numbers", dial + " scale from=0 to=1e-300 step=1e-302 decimals=9 round=1e-300\n}\n"
+    for direction in ("up", "right"):
+        for ticks in ("before", "after", "none"):
+            yield f"bar-{direction}-{ticks}", (
+                f"view size=9,9\nbar var=N at=1,1 size=5,5 direction={direction} ticks={ticks}"
+                " style=pointer {\n scale from=0 to=3 step=1\n band from=0 to=2 color=#123\n}\n")
+    yield "lamps", ('view size=10,10\nlamp at=1,1 size=5,5 text="a" {\n case if="N = 2" color=limit\n'
+                    ' case if="N != 1 or N_STATE >= 1 and M < 2" text=b\n}\nlamp var=N at=0,0 size=0,0\n')
+    yield "texts", ('view size=10,10 background=#00000000\ncolors text=#fff own=limit\n'
+                    'label at=1,1 text="a \\"b\\" \u202e\U0001F6E9" width=3 color=own bold=yes\n'
+                    'value var="a b" at=-1e5,1e5 size=1000 {\n case if="N = 0" text=zero\n}\n')
+    yield "shapes", ("view size=10,10\nrectangle at=1,1 size=1e5,0 corner=1e5 line=text width=1e5 fill=muted\n"
+                     "line from=-1e5,-1e5 to=1e5,1e5 width=0\narc at=5,5 radius=1e5 sweep=360,-360 width=1e5\n")
+    yield "groups", "view size=9,9\n" + "group at=1e5,1e5 {\n" * 40 + "line from=1,1 to=2,2\n" + "}\n" * 41
+    yield "no-text", bytes(range(256)) * 4
+    yield "mistakes", "view size=9,9\n" + "x y=1 {\n" * 200
+
+
 def main():
     if len(sys.argv) != 2:
         sys.exit("usage: make_corpus.py FOLDER")
     folder = Path(sys.argv[1])
     for target, seeds in (("record", records), ("profile", profiles), ("settings", settings),
-                          ("map", maps)):
+                          ("map", maps), ("view", views)):
         shutil.rmtree(folder / target, ignore_errors=True)
         (folder / target).mkdir(parents=True)
         for name, content in seeds():

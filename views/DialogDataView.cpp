@@ -58,18 +58,29 @@ void DialogDataView::setTime(double seconds)
 void DialogDataView::updateRecord(RecordData* record)
 {
     mHasRecord = record != nullptr;
+    blankView();
     updateHint();
     updateView();
 }
 
 void DialogDataView::updateProfile()
 {
+    blankView();
     mParameters = viewParameters(mProfile);
     if (mStarted) {
         loadView();
     }
     updateHint();
     updateView();
+}
+
+/// The last values belong to another record, unit system or variant.
+void DialogDataView::blankView()
+{
+    for (const ViewParameter& shown : mParameters) {
+        mView->setVar(shown.viewId.c_str(), std::nan(""));
+        mView->setVar(shown.stateId.c_str(), 0L);
+    }
 }
 
 void DialogDataView::updateView()

@@ -44,7 +44,7 @@ public:
     void updateProfile() override;
 
     /// Hands the values at the cursor to the panel. What is not a number is not handed on, so that
-    /// its instrument stays at the last value.
+    /// its instrument stays at the last value since the record and profile were taken.
     void updateView();
 
     [[nodiscard]] const ViewFit& fit() const { return mFit; }
@@ -70,6 +70,7 @@ private:
     void init();
     void calcParameters();
     void loadView();
+    void blankView();
     void reportErrors(const std::string& file) const;
     void calcFit();
     void updateHint();
