@@ -2,16 +2,19 @@
 
 #include "bench/EngineHour.h"
 #include "bench/WidgetBench.h"
+#include "card/CardContainer.h"
+#include "core/DataHandler.h"
 #include "core/Property.h"
 #include "gui/StandardDialogs.h"
 #include "views/CursorRoutes.h"
 #include "views/DialogDataErrorMatrix.h"
 #include "views/DialogDataGraph.h"
 #include "views/DialogDataLimit.h"
+#include "views/DialogDataMap.h"
 #include "views/DialogDataStatistic.h"
 #include "views/DialogDataTable.h"
+#include "views/DialogDataView.h"
 #include "views/DialogDataWarning.h"
-#include "views/PlaceholderView.h"
 
 #include <QStackedWidget>
 
@@ -62,6 +65,8 @@ void addFaultWords(RecordData& record)
 struct Pages
 {
     EngineHour hour;
+    CardContainer card{*hour.profile};
+    DataHandler paths;
     Property settings;
     DialogService& dialogs = StandardDialogs::instance();
     QStackedWidget stack;
@@ -78,8 +83,8 @@ struct Pages
         add(EView::Limit, new DialogDataLimit(profile, dialogs));
         add(EView::Warning, new DialogDataWarning(profile, dialogs));
         add(EView::Statistic, new DialogDataStatistic);
-        add(EView::Instrument, new PlaceholderView);
-        add(EView::Map, new PlaceholderView);
+        add(EView::Instrument, new DialogDataView(profile, card, paths));
+        add(EView::Map, new DialogDataMap(profile, card, settings, {}));
         stack.resize(1600, 900);
         stack.show();
         routes.updateRecord(hour.record.get());

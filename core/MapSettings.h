@@ -13,7 +13,7 @@ struct MapSettings
     /// Only into the store; the caller writes the file.
     void store(Property& settings) const;
 
-    std::string tileServer = "http://tile.openstreetmap.org/"; ///< base address, by zoom, x and y
+    std::string tileServer = "https://tile.openstreetmap.org/"; ///< base address, by zoom, x and y
     bool shading = true;
     double contrast = 1.0;
     double brightness = 1.0;

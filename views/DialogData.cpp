@@ -11,12 +11,12 @@
 #include "views/DialogDataErrorMatrix.h"
 #include "views/DialogDataGraph.h"
 #include "views/DialogDataLimit.h"
+#include "views/DialogDataMap.h"
 #include "views/DialogDataStatistic.h"
 #include "views/DialogDataTable.h"
 #include "views/DialogDataView.h"
 #include "views/DialogDataWarning.h"
 #include "views/PageTabBar.h"
-#include "views/PlaceholderView.h"
 #include "views/ReplayControls.h"
 #include "views/ReplayKeys.h"
 
@@ -86,11 +86,6 @@ DialogData::DialogData(Profile& profile, CardContainer& card, Property& settings
 
 void DialogData::createViews()
 {
-    const auto placeholder = [this](const char* name, const QString& text) {
-        auto* view = new PlaceholderView(text, this);
-        view->setObjectName(QLatin1String(name));
-        return view;
-    };
     mTable = new DialogDataTable(mProfile, this);
     mTable->setObjectName(QStringLiteral("viewTable"));
     mGraph = new DialogDataGraph(mProfile, mSettings, mDialogs, this);
@@ -105,7 +100,8 @@ void DialogData::createViews()
     mWarning->setObjectName(QStringLiteral("viewWarning"));
     mStatistic = new DialogDataStatistic(this);
     mStatistic->setObjectName(QStringLiteral("viewStatistic"));
-    mMap = placeholder("viewMap", tr("This version has no map yet."));
+    mMap = new DialogDataMap(mProfile, mCard, mSettings, mPaths.dataPath(), this);
+    mMap->setObjectName(QStringLiteral("viewMap"));
 
     mRoutes.setView(EView::Table, *mTable);
     mRoutes.setView(EView::Graph, *mGraph);
@@ -277,6 +273,9 @@ void DialogData::closeRecord()
 
 void DialogData::updateProfile()
 {
+    if (mRecord != nullptr) {
+        mCard.calcFlightPath(); // other parameters may carry the position now
+    }
     mRoutes.updateProfile();
     mRoutes.setTime(ECursorSource::Reload, mClock.cursor());
 }

@@ -19,13 +19,13 @@ class CardContainer;
 class DialogDataErrorMatrix;
 class DialogDataGraph;
 class DialogDataLimit;
+class DialogDataMap;
 class DialogDataStatistic;
 class DialogDataTable;
 class DialogDataView;
 class DialogDataWarning;
 class DialogService;
 class PageTabBar;
-class PlaceholderView;
 class Printable;
 class Profile;
 class Property;
@@ -128,7 +128,7 @@ private:
     DialogDataLimit* mLimit = nullptr;
     DialogDataWarning* mWarning = nullptr;
     DialogDataStatistic* mStatistic = nullptr;
-    PlaceholderView* mMap = nullptr;
+    DialogDataMap* mMap = nullptr;
     ReplayControls* mControls = nullptr;
 };
 

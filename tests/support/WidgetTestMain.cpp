@@ -2,7 +2,27 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QNetworkProxyFactory>
 #include <QSurfaceFormat>
+
+namespace {
+
+/// Lets requests reach this machine alone: no test may depend on, or bother, a server elsewhere.
+class LoopbackOnly : public QNetworkProxyFactory
+{
+public:
+    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override
+    {
+        constexpr quint16 kNobody = 9;
+        const QString host = query.peerHostName();
+        if (host == QLatin1String("127.0.0.1") || host == QLatin1String("localhost")) {
+            return {QNetworkProxy(QNetworkProxy::NoProxy)};
+        }
+        return {QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), kNobody)};
+    }
+};
+
+} // namespace
 
 // Tests of widgets share one application object, made as start-up makes it.
 int main(int argc, char** argv)
@@ -16,5 +36,6 @@ int main(int argc, char** argv)
     QApplication::setStyle(QStringLiteral("Fusion"));
     QLocale::setDefault(QLocale::c());
     QApplication application(argc, argv);
+    QNetworkProxyFactory::setApplicationProxyFactory(new LoopbackOnly); // which takes it over
     return RUN_ALL_TESTS();
 }

@@ -66,6 +66,7 @@ int main(int argc, char** argv)
     Property& settings = Property::instance();
     settings.setConfigFile(DataHandler::instance().dataPath() + "/VELIX.ini");
     settings.readXmlFile();
+    settings.setString("TileServer", ""); // pictures are the same with and without a network
     const std::string locale = settings.getString("Locale", "us");
     const Language language(locale);
 

@@ -1,0 +1,193 @@
+// First, since the toolkit includes the same headers without the functions.
+#include "platform/tessel/Gl.h"
+
+#include "gui/Palette.h"
+#include "platform/tessel/Blending.h"
+#include "platform/tessel/GlHandler.h"
+#include "views/MapColoring.h"
+#include "views/MapOverlay.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cmath>
+
+namespace VELIX {
+
+namespace {
+
+using Tessel::OpenGL::Blending;
+using Tessel::OpenGL::Color;
+using Tessel::OpenGL::GlHandler;
+
+constexpr const char* kFontFile = ":monofont.ttf";
+constexpr const char* kFontName = "mononfont";
+constexpr int kFontPixels = 14;
+constexpr double kEdge = 5.0; // between texts and the window's edges, logical pixels
+constexpr double kPadding = 4.0;
+constexpr double kLine = 2.0;
+constexpr double kTick = 6.0;
+constexpr double kLegendWidth = 12.0;
+constexpr double kLegendHeight = 96.0;
+constexpr int kLegendSteps = 16;
+constexpr double kMouseGap = 20.0;
+constexpr double kMark = 9.0;
+constexpr double kPanelAlpha = 0.82; // lets the map through and keeps texts readable
+
+Color colorOf(const QColor& color, double alpha = 1.0)
+{
+    return {static_cast<float>(color.redF()), static_cast<float>(color.greenF()),
+            static_cast<float>(color.blueF()), static_cast<float>(alpha)};
+}
+
+} // namespace
+
+void MapOverlay::load(double ratio)
+{
+    mRatio = ratio;
+    QFile file(QString::fromLatin1(kFontFile));
+    const QByteArray font = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    // Without it the texts come in the system's font, at the same size.
+    static_cast<void>(mFont.load(font.constData(), static_cast<std::size_t>(font.size()), kFontName,
+                                 static_cast<int>(std::lround(kFontPixels * ratio))));
+}
+
+void MapOverlay::release()
+{
+    mFont.release();
+    mArea.release();
+}
+
+void MapOverlay::fill(GlHandler& gl, const QRectF& area, const Color& color)
+{
+    mArea.clear();
+    mArea.setColor(color);
+    for (const double x : {area.left(), area.right()}) {
+        for (const double y : {area.top(), area.bottom()}) {
+            mArea.addVertex(static_cast<float>(x), static_cast<float>(y));
+        }
+    }
+    const Blending blending(Blending::Colors::Plain);
+    mArea.render(gl);
+}
+
+void MapOverlay::panel(GlHandler& gl, const QRectF& area)
+{
+    fill(gl, area, colorOf(Palette::current().surface, kPanelAlpha));
+    mFont.setColor(colorOf(Palette::current().text));
+}
+
+void MapOverlay::paint(GlHandler& gl, const QSize& pixels, const Content& content)
+{
+    mPixels = pixels;
+    const double left = paintAttribution(gl);
+    const double free = paintScale(gl, content, left);
+    if (content.legend != nullptr) {
+        paintLegend(gl, *content.legend, free);
+    }
+    if (!content.readout.isEmpty()) {
+        paintReadout(gl, content);
+    }
+}
+
+/// Returns where its ground begins.
+double MapOverlay::paintAttribution(GlHandler& gl)
+{
+    const QString text = QString::fromLatin1(MapTexts::kAttribution);
+    const double x = std::floor(mPixels.width() - mFont.width(text) - kEdge * mRatio);
+    const double y = std::floor(mPixels.height() - mFont.height() - kEdge * mRatio);
+    const double ground = x - kPadding * mRatio;
+    panel(gl, QRectF(QPointF(ground, y - kPadding * mRatio),
+                     QPointF(mPixels.width(), mPixels.height())));
+    mFont.render(gl, x, y, text);
+    return ground;
+}
+
+/// Beside the attribution, which starts at `left`, or above it where that leaves no room. Returns
+/// the lower end of what is free on the right.
+double MapOverlay::paintScale(GlHandler& gl, const Content& content, double left)
+{
+    const double edge = kEdge * mRatio;
+    const double padding = kPadding * mRatio;
+    const double width = std::max(content.scalePixels, mFont.width(content.scale.text));
+    const double height = mFont.height() + padding;
+    const bool beside = edge + width + 3.0 * padding < left;
+    const double row = mPixels.height() - mFont.height() - edge - padding;
+    const double bottom = beside ? mPixels.height() - edge : row - edge;
+    if (content.scalePixels > 0.0) {
+        const QRectF area(edge, std::floor(bottom - height - padding), width + 2.0 * padding,
+                          height + padding);
+        panel(gl, area);
+        mFont.render(gl, area.left() + padding, area.top() + padding / 2.0, content.scale.text);
+        const Color ink = colorOf(Palette::current().text);
+        const double x = std::floor(area.left() + padding);
+        const double y = std::floor(area.bottom() - padding / 2.0 - kLine * mRatio);
+        const double line = kLine * mRatio;
+        fill(gl, QRectF(x, y, content.scalePixels, line), ink);
+        for (const double at : {x, x + content.scalePixels - line}) {
+            fill(gl, QRectF(at, y + line - kTick * mRatio, line, kTick * mRatio), ink);
+        }
+    }
+    return row;
+}
+
+void MapOverlay::paintLegend(GlHandler& gl, const MapColoring& legend, double bottom)
+{
+    const double padding = 2.0 * kPadding * mRatio;
+    const double bar = kLegendWidth * mRatio;
+    const double line = mFont.height();
+    const double labels = std::max(mFont.width(legend.lowest), mFont.width(legend.highest));
+    const double width = std::max(mFont.width(legend.title), bar + padding + labels) + 2 * padding;
+    const double height = line + kLegendHeight * mRatio + 2.5 * padding;
+    const QRectF area(std::floor(mPixels.width() - width - kEdge * mRatio),
+                      std::floor(bottom - height - kEdge * mRatio), width, height);
+    if (area.left() < 0.0 || area.top() < mPixels.height() / 3.0) {
+        return; // a small window is for the map
+    }
+    panel(gl, area);
+    mFont.render(gl, area.left() + padding, area.top() + padding / 2.0, legend.title);
+
+    const double top = std::floor(area.top() + line + padding);
+    const double step = kLegendHeight * mRatio / kLegendSteps;
+    for (int i = 0; i < kLegendSteps; ++i) {
+        const QRgb color = MapColoring::scale(1.0 - (i + 0.5) / kLegendSteps);
+        fill(gl, QRectF(area.left() + padding, top + i * step, bar, step), colorOf(QColor(color)));
+    }
+    const double x = std::floor(area.left() + 2.0 * padding + bar);
+    mFont.render(gl, x, top, legend.highest);
+    mFont.render(gl, x, std::floor(top + kLegendHeight * mRatio - line), legend.lowest);
+}
+
+void MapOverlay::paintReadout(GlHandler& gl, const Content& content)
+{
+    const double padding = kPadding * mRatio;
+    double width = 0.0;
+    for (const QString& text : content.readout) {
+        width = std::max(width, mFont.width(text));
+    }
+    const double line = mFont.height();
+    QRectF area(0.0, 0.0, width + 4.0 * padding, content.readout.size() * line + 2.0 * padding);
+    const double gap = kMouseGap * mRatio;
+    // Below the mouse or above it, and never out of the window: the place itself stays in sight.
+    const bool fitsBelow = content.mouse.y() + gap + area.height() < mPixels.height();
+    const double x =
+        std::min(content.mouse.x() - area.width() / 2.0, mPixels.width() - area.width());
+    const double y = content.mouse.y() + (fitsBelow ? gap : -gap - area.height());
+    area.moveTo(std::floor(std::max(x, 0.0)), std::floor(std::max(y, 0.0)));
+    if (content.mark) {
+        const double side = kMark * mRatio;
+        QRectF mark(0.0, 0.0, side, side);
+        mark.moveCenter(*content.mark);
+        fill(gl, mark, colorOf(Qt::white));
+        mark.adjust(2.0 * mRatio, 2.0 * mRatio, -2.0 * mRatio, -2.0 * mRatio);
+        fill(gl, mark, colorOf(Palette::light().accent));
+    }
+    panel(gl, area);
+    double top = area.top() + padding;
+    for (const QString& text : content.readout) {
+        mFont.render(gl, area.left() + 2.0 * padding, std::floor(top), text);
+        top += line;
+    }
+}
+
+} // namespace VELIX

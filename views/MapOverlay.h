@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/tessel/TextureFont.h"
+#include "platform/tessel/TriangleStrip.h"
+#include "views/MapTexts.h"
+
+#include <QPointF>
+#include <QSize>
+#include <QStringList>
+
+#include <optional>
+
+namespace Tessel::OpenGL {
+class GlHandler;
+}
+
+namespace VELIX {
+
+struct MapColoring;
+
+/// What is written over the map: attribution, scale bar, legend of the path and the read-out beside
+/// the mouse. Coordinates are pixels of the frame buffer from the upper left corner. The context
+/// rule of Tessel::OpenGL::Texture holds.
+class MapOverlay
+{
+public:
+    struct Content
+    {
+        MapScaleBar scale;
+        double scalePixels = 0.0;            ///< length of the scale bar
+        const MapColoring* legend = nullptr; ///< none: no legend
+        QStringList readout;                 ///< lines; none: no read-out
+        QPointF mouse;
+        std::optional<QPointF> mark; ///< the place of the path that the read-out is about
+    };
+
+    /// Loads the font for a frame buffer with so many pixels per logical pixel.
+    void load(double ratio);
+    /// The matrices make the frame buffer's pixels their units.
+    void paint(Tessel::OpenGL::GlHandler& gl, const QSize& pixels, const Content& content);
+    void release();
+
+private:
+    void fill(Tessel::OpenGL::GlHandler& gl, const QRectF& area,
+              const Tessel::OpenGL::Color& color);
+    void panel(Tessel::OpenGL::GlHandler& gl, const QRectF& area);
+    double paintAttribution(Tessel::OpenGL::GlHandler& gl);
+    double paintScale(Tessel::OpenGL::GlHandler& gl, const Content& content, double left);
+    void paintLegend(Tessel::OpenGL::GlHandler& gl, const MapColoring& legend, double bottom);
+    void paintReadout(Tessel::OpenGL::GlHandler& gl, const Content& content);
+
+    Tessel::OpenGL::TextureFont mFont;
+    Tessel::OpenGL::TriangleStrip mArea;
+    QSize mPixels;
+    double mRatio = 1.0;
+};
+
+} // namespace VELIX

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "card/FlightPathPoint.h"
+
+#include <vector>
+
+namespace VELIX {
+
+/// Where the aircraft was, from the points of its path in order of time.
+namespace MapTrack {
+
+/// No position: what positionAt() gives where there is none.
+bool isEmpty(const FlightPathPoint& point);
+
+/// Between two points of a path; the longitude and the course go the short way round.
+FlightPathPoint between(const FlightPathPoint& from, const FlightPathPoint& to, double fraction);
+
+/// The position at a time (s) of a record from start to stop. Until the first and after the last
+/// position of the record the aircraft stands there; outside the record the empty point.
+FlightPathPoint positionAt(const std::vector<FlightPathPoint>& path, double start, double stop,
+                           double time);
+
+} // namespace MapTrack
+} // namespace VELIX

@@ -1,0 +1,477 @@
+// First, since the toolkit includes the same headers without the functions.
+#include "platform/tessel/Gl.h"
+
+#include "card/CardContainer.h"
+#include "core/DataHandler.h"
+#include "core/Property.h"
+#include "core/Revision.h"
+#include "platform/openstreetmap/OpenStreetMap.h"
+#include "platform/tessel/Timer.h"
+#include "views/MapContext.h"
+#include "views/MapNavigation.h"
+#include "views/MapSymbol.h"
+#include "views/MapTrack.h"
+#include "views/WidgetMap.h"
+
+#include <QFile>
+#include <QOpenGLContext>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace VELIX {
+
+namespace {
+
+constexpr int kPeriod = 20;       // ms
+constexpr int kResizeDelay = 100; // ms
+constexpr double kLongest = 1.0;  // s without a repaint
+constexpr int kLeastSize = 100;
+constexpr int kDefaultCacheLimit = 500; // MB
+constexpr int kLabelPixels = 11;
+constexpr double kPathWidth = 3.0;
+constexpr double kSymbolSize = 40.0;
+constexpr double kScaleLength = 110.0;
+constexpr double kHoverPixels = 12.0; // from the path
+constexpr double kRadians = 0.017453292519943295;
+constexpr double kWorld = 40075016.685578488; // m of the map around the globe
+constexpr double kPlain = 1.0;                // brightness of the tiles
+
+} // namespace
+
+WidgetMap::WidgetMap(QWidget* parent, MapContext& context)
+    : WidgetMap(parent, context, Property::instance(), DataHandler::instance().dataPath())
+{}
+
+WidgetMap::WidgetMap(QWidget* parent, MapContext& context, Property& settings,
+                     const std::string& dataPath)
+    : QOpenGLWidget(parent),
+      mContext(&context),
+      mSettings(settings),
+      mDataPath(dataPath),
+      mMap(std::make_unique<OpenStreet::OpenStreetMap>()),
+      mRatio(devicePixelRatioF())
+{
+    setMouseTracking(true);
+    setAttribute(Qt::WA_AcceptTouchEvents);
+    setFocusPolicy(Qt::StrongFocus);
+    setMinimumSize(kLeastSize, kLeastSize);
+    setAccessibleName(tr("Map"));
+    mContext->shading = MapSettings::read(mSettings).shading;
+    mOverlay.load(mRatio);
+    mSymbol.setImage(mapAircraft(static_cast<int>(std::lround(kSymbolSize * mRatio))));
+
+    connect(&mTimer, &QTimer::timeout, this, &WidgetMap::slotTimeout);
+    mTimer.start(kPeriod);
+    mResizeTimer.setSingleShot(true);
+    connect(&mResizeTimer, &QTimer::timeout, this, &WidgetMap::slotTimeoutResize);
+}
+
+WidgetMap::~WidgetMap()
+{
+    if (context() != nullptr) {
+        disconnect(context(), nullptr, this, nullptr);
+    }
+    releaseGl();
+    if (context() != nullptr) {
+        makeCurrent();
+    }
+    mMap.reset();
+    mLines.clear();
+    if (context() != nullptr) {
+        doneCurrent();
+    }
+}
+
+/// Not before the first picture: what is never shown needs neither folders nor a network.
+void WidgetMap::setUpMap()
+{
+    if (mMapSetUp) {
+        return;
+    }
+    mMapSetUp = true;
+    mMap->setUserAgent(Revision::getRevisionString().c_str());
+    mTakenCacheLimit = mSettings.getInt("TileCacheLimit", kDefaultCacheLimit);
+    mMap->setTileCacheLimit(mTakenCacheLimit);
+    if (!mDataPath.empty()) {
+        mMap->setTileDirectory((mDataPath + "/tiles/").c_str());
+        mMap->setTerrainPath((mDataPath + "/terrain/").c_str());
+    }
+    mMap->setProjection(OpenStreet::WebMercator);
+    mTakenSettings = MapSettings::read(mSettings);
+    mMap->setTileServer(mTakenSettings.tileServer.c_str());
+    static_cast<void>(mMap->setCoastLines(":/map/coast.bin")); // without them there is the grid
+    QFile font(QStringLiteral(":monofont.ttf"));
+    if (font.open(QIODevice::ReadOnly)) {
+        const QByteArray bytes = font.readAll();
+        mMap->setLabelFont(bytes.constData(), static_cast<std::size_t>(bytes.size()),
+                           static_cast<int>(std::lround(kLabelPixels * mRatio)));
+    }
+    mMap->setArrivedCallback([this] { mDirty = true; });
+}
+
+void WidgetMap::initializeGL()
+{
+    setUpMap();
+    // A widget that moves to another window gets a new context.
+    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &WidgetMap::releaseGl);
+}
+
+void WidgetMap::releaseGl()
+{
+    if (context() == nullptr) {
+        return;
+    }
+    makeCurrent();
+    mMap->releaseGl();
+    mLines.release();
+    mSymbol.release();
+    mOverlay.release();
+    mGl.release();
+    doneCurrent();
+}
+
+void WidgetMap::showEvent(QShowEvent* event)
+{
+    QOpenGLWidget::showEvent(event);
+    if (!mResized) {
+        mResized = true; // a widget that grew with every showing would leave its window
+        mResizeTimer.start(kResizeDelay);
+    }
+    mDirty = true;
+}
+
+// --- what is shown
+
+void WidgetMap::setRecordData(RecordData* record)
+{
+    mRecord = record;
+    mRedrawPath = true;
+    mFitted = false;
+    mDirty = true;
+}
+
+void WidgetMap::setFlightPath(const std::vector<FlightPathPoint>* path)
+{
+    mFlightPath = path;
+    mPath = {}; // of points that may be gone
+    mStaleLines = true;
+    mDirty = true;
+}
+
+void WidgetMap::setColoring(MapColoring coloring)
+{
+    mColoring = std::move(coloring);
+    mStaleLines = true;
+    mDirty = true;
+}
+
+void WidgetMap::setAcPosition(const FlightPathPoint& position)
+{
+    mAircraft = position;
+    update();
+}
+
+void WidgetMap::setImperial(bool imperial)
+{
+    mImperial = imperial;
+    mDirty = true;
+}
+
+void WidgetMap::fitFlightPath()
+{
+    mRefit = true;
+    mDirty = true;
+}
+
+void WidgetMap::makeLines()
+{
+    mStaleLines = false;
+    if (mPath.empty() && mFlightPath != nullptr) {
+        mPath = MapPath(*mFlightPath);
+    }
+    mLines.build(mPath, mColoring.colors, kPathWidth * mRatio);
+    mRefit = mRefit || !mFitted;
+}
+
+void WidgetMap::redrawFlightPath()
+{
+    mRedrawPath = false;
+    makeLines();
+    fitView();
+}
+
+void WidgetMap::fitView()
+{
+    mRefit = false;
+    if (mPath.empty()) {
+        return;
+    }
+    const double before = mContext->visibleRange;
+    const QSize size = pixels();
+    MapNavigation::fit(*mContext, mPath.extent(),
+                       static_cast<double>(size.width()) / std::max(size.height(), 1));
+    mFollower.keepRange();
+    if (mContext->centreAircraft) {
+        mFollower.setRange(mContext->visibleRange); // the view glides
+        mContext->visibleRange = before;
+    }
+    mFitted = true;
+}
+
+// --- measures
+
+double WidgetMap::calcDistance(double lat1, double lon1, double lat2, double lon2)
+{
+    return CardContainer::calcDistance(lat1, lon1, lat2, lon2);
+}
+
+double WidgetMap::screenToCartesianSize(double pixels) const
+{
+    return mContext->verticalRange / mContext->windowWidth * pixels;
+}
+
+void WidgetMap::latLong2Window(double latitude, double longitude, double* x, double* y) const
+{
+    mMap->latLong2Window(latitude, longitude, x, y);
+}
+
+int WidgetMap::loadingTiles() const
+{
+    return mMap->nrLoadingTiles();
+}
+
+QSize WidgetMap::pixels() const
+{
+    return {static_cast<int>(std::lround(width() * mRatio)),
+            static_cast<int>(std::lround(height() * mRatio))};
+}
+
+double WidgetMap::mapMetresPerPixel() const
+{
+    return mContext->metresPerPixel / std::cos(mContext->centreLatitude * kRadians);
+}
+
+void WidgetMap::setViewPort()
+{
+    glViewport(0, 0, pixels().width(), pixels().height());
+}
+
+void WidgetMap::setViewPortOrtho()
+{
+    mGl.matrices().reset();
+    // A window without an area has no picture.
+    static_cast<void>(mGl.matrices().setOrtho(0.0, pixels().width(), pixels().height(), 0.0));
+}
+
+/// The context's centre and range with this window, to all that computes with them.
+void WidgetMap::updateWindow()
+{
+    const QSize size = pixels();
+    MapNavigation::setRange(*mContext, mContext->visibleRange, size.width(), size.height());
+    mMap->setWindowSize(size.width(), size.height());
+    mMap->setVisibleRange(mContext->visibleRange, mContext->verticalRange);
+    mMap->setPosition(mContext->centreLatitude, mContext->centreLongitude, 0.0);
+}
+
+// --- timers
+
+void WidgetMap::slotTimeout()
+{
+    if (!isVisible()) {
+        return;
+    }
+    const bool moving = mContext->dragging || mContext->panning || mContext->animating;
+    // A clock that was set back must not stop the map.
+    const double still = std::abs(Tessel::Misc::Timer::getTime() - mLastRepaint);
+    if (mDirty || moving || still > kLongest) {
+        mDirty = false;
+        mLastRepaint = Tessel::Misc::Timer::getTime();
+        update();
+    }
+}
+
+void WidgetMap::slotTimeoutResize()
+{
+    resize(geometry().width() + 2, geometry().height() + 1);
+    updateGeometry(); // the layout puts it back
+}
+
+// --- painting
+
+void WidgetMap::resizeGL(int width, int height)
+{
+    Q_UNUSED(width)
+    Q_UNUSED(height)
+    updateWindow();
+    mDirty = true;
+}
+
+void WidgetMap::takeSettings()
+{
+    const MapSettings settings = MapSettings::read(mSettings);
+    mMap->setShadingContrast(settings.contrast);
+    mMap->setShadingBrightness(settings.brightness);
+    mMap->setShadingFactor(settings.factor);
+    if (settings.tileServer != mTakenSettings.tileServer) {
+        mMap->setTileServer(settings.tileServer.c_str());
+    }
+    if (settings.shading != mTakenSettings.shading) {
+        mContext->shading = settings.shading; // until then it is as the key left it
+        emit signalUpdateMode();
+    }
+    const int limit = mSettings.getInt("TileCacheLimit", kDefaultCacheLimit);
+    if (limit != mTakenCacheLimit) {
+        mMap->setTileCacheLimit(limit);
+        mTakenCacheLimit = limit;
+    }
+    mTakenSettings = settings;
+}
+
+void WidgetMap::paintGL()
+{
+    ++mPaintCount;
+    mDirty = false;
+    mLastRepaint = Tessel::Misc::Timer::getTime();
+    updateWindow();
+    if (mRedrawPath) {
+        redrawFlightPath();
+    } else if (mStaleLines) {
+        makeLines();
+    }
+    if (mRefit) {
+        fitView();
+    }
+    applyKeys();
+    takeSettings();
+    followAircraft();
+    updateWindow();
+    if (mMouse) {
+        mMap->window2LatLong(mMouse->x(), mMouse->y(), &mMouseLatitude, &mMouseLongitude);
+    }
+    drawMap();
+    drawPath();
+    drawAircraft();
+    drawOverlay();
+    if (mMap->nrLoadingTiles() != 0) {
+        mDirty = true;
+    }
+}
+
+void WidgetMap::applyKeys()
+{
+    const auto balance = [this](bool Keys::*more, bool Keys::*less) {
+        return (mKeys.*more || mTapped.*more ? 1 : 0) - (mKeys.*less || mTapped.*less ? 1 : 0);
+    };
+    const int zoom = balance(&Keys::zoomIn, &Keys::zoomOut);
+    const int north = balance(&Keys::north, &Keys::south);
+    const int east = balance(&Keys::east, &Keys::west);
+    mTapped = {};
+    if (zoom != 0) {
+        mContext->visibleRange = MapNavigation::keyZoomed(mContext->visibleRange, zoom);
+        mFollower.keepRange();
+    }
+    if (north != 0 || east != 0) {
+        leaveCentring(); // which would pull the map back
+        MapNavigation::keyPan(*mContext, north, east);
+    }
+    mDirty = mDirty || zoom != 0 || north != 0 || east != 0;
+}
+
+void WidgetMap::followAircraft()
+{
+    if (mContext->centreAircraft && !MapTrack::isEmpty(mAircraft) &&
+        mFollower.step(*mContext, mAircraft.latitude, mAircraft.longitude)) {
+        mDirty = true;
+    }
+}
+
+void WidgetMap::drawMap()
+{
+    setViewPort();
+    glDisable(GL_SCISSOR_TEST);
+    glClearColor(0.0F, 0.0F, 0.0F, 1.0F);
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    mMap->setBrightness(kPlain);
+    mMap->setLightDirection(-1.0, 1.0, 1.0); // from the north-west, as on paper maps
+    mMap->setShading(mContext->shading);
+    mMap->setMapType(OpenStreet::Tiles);
+    mMap->render();
+    glDisable(GL_DEPTH_TEST);
+    glDisable(GL_BLEND);
+    glDisable(GL_LINE_SMOOTH);
+    setViewPortOrtho();
+}
+
+void WidgetMap::drawPath()
+{
+    if (mPath.empty()) {
+        return;
+    }
+    double x = 0.0;
+    double y = 0.0;
+    mMap->latLong2Window(mPath.middleLatitude(), mPath.middleLongitude(), &x, &y);
+    const double scale = mapMetresPerPixel();
+    const double world = kWorld / scale;
+    const double half = mPath.halfWidth() / scale;
+    // A window may show the globe more than once, and a path may lie across its edge.
+    const double first = std::ceil((-half - x) / world);
+    for (double copy = first; x + copy * world - half < pixels().width(); copy += 1.0) {
+        mLines.render(mGl, mPath, x + copy * world, y, scale);
+    }
+}
+
+void WidgetMap::drawAircraft()
+{
+    if (MapTrack::isEmpty(mAircraft)) {
+        return;
+    }
+    double x = 0.0;
+    double y = 0.0;
+    mMap->latLong2Window(mAircraft.latitude, mAircraft.longitude, &x, &y);
+    const double side = mSymbol.width();
+    mGl.matrices().push();
+    mGl.matrices().translate(x, y);
+    mGl.matrices().rotate(mAircraft.course); // y runs downwards, and so clockwise
+    mSymbol.render(mGl, -side / 2.0, -side / 2.0, side, side);
+    mGl.matrices().pop();
+}
+
+MapOverlay::Content WidgetMap::overlayContent() const
+{
+    MapOverlay::Content content;
+    content.scale = MapTexts::scaleBar(kScaleLength * mRatio * mContext->metresPerPixel, mImperial);
+    content.scalePixels = content.scale.metres / mContext->metresPerPixel;
+    content.legend = mPath.empty() || mColoring.colors.empty() ? nullptr : &mColoring;
+    if (mMouse && !mContext->dragging) {
+        addReadout(content);
+    }
+    return content;
+}
+
+void WidgetMap::addReadout(MapOverlay::Content& content) const
+{
+    content.mouse = *mMouse;
+    content.readout.append(MapTexts::position(mMouseLatitude, mMouseLongitude));
+    const auto place =
+        mPath.nearest(mMouseLatitude, mMouseLongitude, kHoverPixels * mRatio * mapMetresPerPixel());
+    if (!place || mFlightPath == nullptr) {
+        return;
+    }
+    const std::size_t next = std::min(place->index + 1, mFlightPath->size() - 1);
+    const FlightPathPoint there =
+        MapTrack::between((*mFlightPath)[place->index], (*mFlightPath)[next], place->fraction);
+    content.readout.append(MapTexts::moment(there, mImperial));
+    double x = 0.0;
+    double y = 0.0;
+    mMap->latLong2Window(there.latitude, there.longitude, &x, &y);
+    content.mark = QPointF(x, y);
+}
+
+void WidgetMap::drawOverlay()
+{
+    mOverlay.paint(mGl, pixels(), overlayContent());
+}
+
+} // namespace VELIX
