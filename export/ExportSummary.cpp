@@ -10,6 +10,8 @@ namespace VELIX {
 namespace {
 
 constexpr int kGap = 8;
+/// As wide as the pages are by themselves; a long path must not stretch the wizard.
+constexpr int kPathWidth = 360;
 
 } // namespace
 
@@ -21,7 +23,6 @@ ExportSummary::ExportSummary(QWidget* parent)
     mLayout->setHorizontalSpacing(2 * kGap);
     mLayout->setVerticalSpacing(kGap / 2);
     mFile->setTextFormat(Qt::PlainText);
-    mFile->setWordWrap(true);
     mFile->setObjectName(QStringLiteral("summaryFile"));
     mLayout->addRow(tr("File"), mFile);
 }
@@ -46,7 +47,9 @@ void ExportSummary::setCount(int line, std::size_t count, const QString& remark)
 void ExportSummary::setFile(const std::string& directory, const std::string& fileName)
 {
     const QDir folder(QString::fromStdString(directory));
-    mFile->setText(QDir::cleanPath(folder.absoluteFilePath(QString::fromStdString(fileName))));
+    const QString path = QDir::cleanPath(folder.absoluteFilePath(QString::fromStdString(fileName)));
+    mFile->setText(mFile->fontMetrics().elidedText(path, Qt::ElideMiddle, kPathWidth));
+    mFile->setToolTip(path);
 }
 
 } // namespace VELIX
