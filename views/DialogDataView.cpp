@@ -163,6 +163,7 @@ void DialogDataView::reportErrors(const std::string& file) const
 
 void DialogDataView::calcFit()
 {
+    mView->setRoom(width(), height());
     mFit = ViewFit::of(width(), height(), mView->width(), mView->height());
 }
 

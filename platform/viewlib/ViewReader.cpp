@@ -33,7 +33,8 @@ ViewBinding& bindingOf(ViewElement& element)
 
 } // namespace
 
-ViewReader::ViewReader(ViewVariables& variables) : mVariables(variables)
+ViewReader::ViewReader(ViewVariables& variables, Layout layout)
+    : mVariables(variables), mLayout(layout)
 {
     nameColors();
     mBlocks.push_back({});
@@ -329,6 +330,10 @@ void ViewReader::readView(ViewStatement&, ViewAttributes& attributes)
     if (attributes.require(attributes.pair("size", size, 1.0, 10000.0), "size")) {
         mModel.size = QSizeF(size.x(), size.y());
     }
+    mHasTall = attributes.pair("tall", size, 1.0, 10000.0);
+    if (mHasTall && mLayout == Layout::Tall) {
+        mModel.size = QSizeF(size.x(), size.y());
+    }
     attributes.color("background", mModel.colors.background);
     mColors[QStringLiteral("background")] = mModel.colors.background;
 }
@@ -380,6 +385,9 @@ void ViewReader::readGroup(ViewStatement& statement, ViewAttributes& attributes)
     condition(attributes, inside.conditions);
     QPointF shift;
     attributes.pair("at", shift, -kFarthest, kFarthest);
+    QPointF tallShift = shift;
+    attributes.pair("tall", tallShift, -kFarthest, kFarthest);
+    shift = mLayout == Layout::Tall ? tallShift : shift;
     inside.origin = block().origin + shift;
     if (statement.opensBlock()) {
         open(statement, std::move(inside));

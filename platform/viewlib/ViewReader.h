@@ -24,11 +24,15 @@ public:
     static constexpr std::size_t kDeepestBlock = 32;
     static constexpr int kMostTicks = 200; ///< of one scale, short ones included
 
-    explicit ViewReader(ViewVariables& variables);
+    enum class Layout { Wide, Tall };
+
+    explicit ViewReader(ViewVariables& variables, Layout layout = Layout::Wide);
 
     /// To be called once.
     void read(const QByteArray& text);
 
+    /// Whether the description has a layout for rooms that are higher than wide.
+    [[nodiscard]] bool hasTallLayout() const { return mHasTall; }
     [[nodiscard]] ViewModel& model() { return mModel; }
     [[nodiscard]] const std::vector<ViewError>& errors() const { return mErrors.list(); }
 
@@ -93,6 +97,8 @@ private:
     void checkInstrument(const Block& closed);
 
     ViewVariables& mVariables;
+    Layout mLayout;
+    bool mHasTall = false;
     ViewModel mModel;
     ViewErrors mErrors;
     ViewAttributes::ColorNames mColors;

@@ -11,6 +11,7 @@
 #include <QOpenGLPaintDevice>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace Vista2D {
@@ -18,12 +19,22 @@ namespace Vista2D {
 struct VistaView::Parts
 {
     ViewVariables variables;
-    ViewModel model;
+    ViewModel wide;
+    ViewModel tall; ///< without a size if there is none
+    bool isTall = false;
     std::vector<ViewError> errors;
     ViewCanvas canvas;
     bool isRunning = false;
     bool hasGround = true;
     bool isChanged = true; ///< by something else than a variable
+
+    [[nodiscard]] const ViewModel& model() const { return isTall ? tall : wide; }
+    void lay(bool asTall)
+    {
+        isTall = asTall && !tall.size.isEmpty();
+        canvas.forget();
+        variables.set(variables.slot("TALL"), isTall ? 1.0 : 0.0);
+    }
 };
 
 namespace {
@@ -83,11 +94,18 @@ bool VistaView::load(const std::string& path)
 
 void VistaView::loadText(const std::string& text)
 {
+    const QByteArray bytes = QByteArray::fromStdString(text);
     ViewReader reader(mParts->variables);
-    reader.read(QByteArray::fromStdString(text));
-    mParts->model = std::move(reader.model());
+    reader.read(bytes);
+    mParts->wide = std::move(reader.model());
     mParts->errors = reader.errors();
-    mParts->canvas.forget();
+    mParts->tall = ViewModel();
+    if (reader.hasTallLayout()) {
+        ViewReader again(mParts->variables, ViewReader::Layout::Tall);
+        again.read(bytes);
+        mParts->tall = std::move(again.model());
+    }
+    mParts->lay(mParts->isTall);
 }
 
 const std::vector<ViewError>& VistaView::errors() const
@@ -98,7 +116,7 @@ const std::vector<ViewError>& VistaView::errors() const
 bool VistaView::knows(const std::string& name) const
 {
     const int slot = mParts->variables.find(name);
-    return slot >= 0 && mParts->model.slotsUsed.count(slot) > 0;
+    return slot >= 0 && mParts->model().slotsUsed.count(slot) > 0;
 }
 
 void VistaView::startView(int running)
@@ -115,7 +133,7 @@ void VistaView::setBackgroundMode(int mode)
 
 unsigned int VistaView::background() const
 {
-    return mParts->model.colors.background.rgba();
+    return mParts->model().colors.background.rgba();
 }
 
 void VistaView::setVar(const char* name, double value)
@@ -128,14 +146,27 @@ void VistaView::setVar(const char* name, long value)
     setVar(name, static_cast<double>(value));
 }
 
+void VistaView::setRoom(double width, double height)
+{
+    const auto scale = [&](const ViewModel& model) {
+        return model.size.isEmpty()
+                   ? 0.0
+                   : std::min(width / model.size.width(), height / model.size.height());
+    };
+    const bool isTall = scale(mParts->tall) > scale(mParts->wide);
+    if (isTall != mParts->isTall) {
+        mParts->lay(isTall);
+    }
+}
+
 double VistaView::width() const
 {
-    return std::max(0.0, mParts->model.size.width());
+    return std::max(0.0, mParts->model().size.width());
 }
 
 double VistaView::height() const
 {
-    return std::max(0.0, mParts->model.size.height());
+    return std::max(0.0, mParts->model().size.height());
 }
 
 bool VistaView::changed() const
@@ -146,18 +177,18 @@ bool VistaView::changed() const
 void VistaView::draw(int picture)
 {
     Parts& parts = *mParts;
-    if (picture == 0 || !parts.isRunning || parts.model.size.isEmpty() ||
+    if (picture == 0 || !parts.isRunning || parts.model().size.isEmpty() ||
         QOpenGLContext::currentContext() == nullptr) {
         return;
     }
     const ViewPlacement placement = currentPlacement();
-    const double scale = ViewCanvas::usableScale(parts.model, placement.scale());
+    const double scale = ViewCanvas::usableScale(parts.model(), placement.scale());
     if (!std::isfinite(scale) || !(scale > 0.0) || placement.surface.isEmpty()) {
         return;
     }
     const KeptState state;
     const QImage& image =
-        parts.canvas.picture(parts.model, parts.variables, scale, parts.hasGround);
+        parts.canvas.picture(parts.model(), parts.variables, scale, parts.hasGround);
     QOpenGLPaintDevice device(placement.surface);
     QPainter painter(&device);
     if (placement.isUpright() && scale == placement.scale()) {
@@ -167,8 +198,8 @@ void VistaView::draw(int picture)
     } else {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.setTransform(placement.toPixels);
-        painter.drawImage(QRectF({0.0, 0.0}, parts.model.size), image,
-                          QRectF({0.0, 0.0}, parts.model.size * scale));
+        painter.drawImage(QRectF({0.0, 0.0}, parts.model().size), image,
+                          QRectF({0.0, 0.0}, parts.model().size * scale));
     }
     parts.isChanged = false;
 }

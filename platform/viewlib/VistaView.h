@@ -50,7 +50,10 @@ public:
     void setVar(const char* name, double value);
     void setVar(const char* name, long value);
 
-    /// In view units; 0 before a description was loaded.
+    /// Tells the panel how much room there is, in any unit: of its layouts, if the description has
+    /// two, it takes the one that is larger there, and sets the variable TALL to 0 or 1.
+    void setRoom(double width, double height);
+    /// In view units, of the layout in use; 0 before a description was loaded.
     [[nodiscard]] double width() const;
     [[nodiscard]] double height() const;
 

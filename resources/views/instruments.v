@@ -1,10 +1,12 @@
 # The engine display of the demo profile; docs/view-file.md tells how such files are written.
 #
+# The second layout, tall, is for a window that the map leaves little width to.
+#
 # Variables are the profile's viewIds. Their values come in the unit system in use, so that every
 # scale is there twice: UNIT 0 is metric, 1 imperial. VARIANT is the number of the aircraft variant:
 # 1 standard, 2 tow, 3 trainer. Bands repeat the thresholds of the profile.
 
-view size=700,500 background=#0b0f14
+view size=700,500 tall=464,798 background=#0b0f14
 colors steel=#8ea6bf cold=#3d6f9e green=#2f9e68 amber=#e59a1c red=#e0463c
 
 # --- scales
@@ -144,23 +146,27 @@ group at=16,0 {
         case if="LANE_MODE_B = 1" text="SELF TEST" color=cold
         case if="LANE_MODE_B = 6" text="OFF" color=amber
     }
-    label at=590,27 size=11 align=right color=muted text="HOURS"
-    value var=RUNNING_TIME at=656,27 size=16 align=right {
+}
+group at=684,0 tall=448,34 {
+    label at=-78,27 size=11 align=right color=muted text="HOURS"
+    value var=RUNNING_TIME at=-12,27 size=16 align=right {
         scale factor=0.000277777778 decimals=1 unit=h
-        unit at=660,27 size=11
+        unit at=-8,27 size=11
     }
 }
-group at=372,0 if="VARIANT = 2 or VARIANT = 3" {
+group at=372,0 tall=66,34 if="VARIANT = 2 or VARIANT = 3" {
+    label at=-50,27 size=11 color=muted text="HOOK" if="TALL = 1"
     lamp var=TOW_HOOK at=0,12 size=112,22 textsize=10.5 text="HOOK OPEN" {
         case if="TOW_HOOK = 1 and VARIANT = 2" text="ROPE" color=green
         case if="TOW_HOOK = 1 and VARIANT = 3" text="BANNER" color=green
     }
 }
-line from=16,46 to=684,46
+line from=16,46 to=684,46 if="TALL = 0"
+line from=16,78 to=448,78 if="TALL = 1"
 
 # --- dials
 
-group at=122,160 {
+group at=122,160 tall=122,194 {
     gauge var=ENGINE_SPEED scales=RPM at=0,0 radius=104 width=5 color=steel fill=9 tick=7 ticktext=13 needle=70,106 needlewidth=5 {
         number at=0,8 size=34 align=center bold=yes
         unit at=0,26 size=12 align=center
@@ -168,7 +174,7 @@ group at=122,160 {
     label at=0,75 size=13 align=center text="ENGINE"
     label at=0,90 size=10 align=center color=muted text="rpm × 1000"
 }
-group at=344,160 {
+group at=344,160 tall=342,194 {
     gauge var=MANIFOLD scales=MANIFOLD at=0,0 radius=104 width=5 color=steel fill=9 tick=7 ticktext=13 needle=70,106 needlewidth=5 {
         number at=0,8 size=34 align=center bold=yes
         unit at=0,26 size=12 align=center
@@ -179,39 +185,41 @@ group at=344,160 {
 
 # --- oil, coolant, fuel pressure
 
-group at=476,62 {
+group at=476,62 tall=16,474 {
     label at=0,12 size=11 color=muted text="OIL TEMP"
     bar var=OIL_TEMP scales=OIL_TEMP color=steel at=0,20 size=208,8 ticks=none {
         number at=176,13 size=18 align=right bold=yes
         unit at=181,13 size=11
     }
 }
-group at=476,110 {
+group at=476,110 tall=16,522 {
     label at=0,12 size=11 color=muted text="OIL PRESS"
     bar var=OIL_PRESSURE scales=OIL_PRESSURE color=steel at=0,20 size=208,8 ticks=none {
         number at=176,13 size=18 align=right bold=yes
         unit at=181,13 size=11
     }
 }
-group at=476,158 {
+group at=476,158 tall=16,570 {
     label at=0,12 size=11 color=muted text="COOLANT"
     bar var=COOLANT_TEMP scales=COOLANT color=steel at=0,20 size=208,8 ticks=none {
         number at=176,13 size=18 align=right bold=yes
         unit at=181,13 size=11
     }
 }
-group at=476,206 {
+group at=476,206 tall=16,618 {
     label at=0,12 size=11 color=muted text="FUEL PRESS"
     bar var=FUEL_PRESSURE scales=FUEL_PRESSURE color=steel at=0,20 size=208,8 ticks=none {
         number at=176,13 size=18 align=right bold=yes
         unit at=181,13 size=11
     }
 }
-line from=16,262 to=684,262
+line from=16,262 to=684,262 if="TALL = 0"
+line from=16,296 to=448,296 if="TALL = 1"
+line from=16,462 to=448,462 if="TALL = 1"
 
 # --- cylinder heads and exhaust
 
-group at=16,262 {
+group at=16,262 tall=16,296 {
     label at=0,22 size=11 color=muted text="CYLINDER HEAD"
     label at=204,22 size=11 align=right color=muted text="°C" if="UNIT = 0"
     label at=204,22 size=11 align=right color=muted text="°F" if="UNIT = 1"
@@ -232,7 +240,7 @@ group at=16,262 {
     label at=132,154 size=11 align=center color=muted text=3
     label at=186,154 size=11 align=center color=muted text=4
 }
-group at=240,262 {
+group at=240,262 tall=244,296 {
     label at=0,22 size=11 color=muted text="EXHAUST"
     label at=204,22 size=11 align=right color=muted text="°C" if="UNIT = 0"
     label at=204,22 size=11 align=right color=muted text="°F" if="UNIT = 1"
@@ -256,84 +264,89 @@ group at=240,262 {
 
 # --- throttle, fuel, voltage
 
-group at=476,268 {
+group at=476,268 tall=240,470 {
     label at=0,14 size=11 color=muted text="THROTTLE"
     bar var=THROTTLE scales=PERCENT color=steel at=0,20 size=208,4 ticks=none ticktext=0 {
         number at=176,14 size=15 align=right bold=yes
         unit at=181,14 size=11
     }
 }
-group at=476,299 {
+group at=476,299 tall=240,508 {
     label at=0,14 size=11 color=muted text="FLOW LANE A"
     bar var=FUEL_FLOW_A scales=FLOW color=steel at=0,20 size=208,4 ticks=none {
         number at=176,14 size=15 align=right bold=yes
         unit at=181,14 size=11
     }
 }
-group at=476,330 {
+group at=476,330 tall=240,546 {
     label at=0,14 size=11 color=muted text="FLOW LANE B"
     bar var=FUEL_FLOW_B scales=FLOW color=steel at=0,20 size=208,4 ticks=none {
         number at=176,14 size=15 align=right bold=yes
         unit at=181,14 size=11
     }
 }
-group at=476,361 {
+group at=476,361 tall=240,584 {
     label at=0,14 size=11 color=muted text="FUEL"
     bar var=FUEL_LEVEL scales=FUEL color=steel at=0,20 size=208,4 ticks=none {
         number at=176,14 size=15 align=right bold=yes
         unit at=181,14 size=11
     }
 }
-group at=476,392 {
+group at=476,392 tall=240,622 {
     label at=0,14 size=11 color=muted text="BUS"
     bar var=BUS_VOLTAGE scales=VOLTAGE color=steel at=0,20 size=208,4 ticks=none {
         number at=176,14 size=15 align=right bold=yes
         unit at=181,14 size=11
     }
 }
-line from=16,430 to=684,430
+line from=16,430 to=684,430 if="TALL = 0"
+line from=16,664 to=448,664 if="TALL = 1"
 
 # --- warnings: bands that values are in, and the lamps of the cockpit
 
-group at=16,438 {
+group at=16,438 tall=16,672 {
     label at=0,16 size=10 color=muted text="LIMITS"
-    lamp var=ENGINE_SPEED at=52,2 size=72,22 textsize=10 text="RPM"
-    lamp var=OIL_PRESSURE at=129,2 size=72,22 textsize=10 text="OIL PRESS"
-    lamp var=OIL_TEMP at=206,2 size=72,22 textsize=10 text="OIL TEMP"
-    lamp var=COOLANT_TEMP at=283,2 size=72,22 textsize=10 text="COOLANT"
-    lamp at=360,2 size=72,22 textsize=10 text="CYL HEAD" {
+    lamp var=ENGINE_SPEED at=52,2 size=72.1,22 textsize=10 text="RPM"
+    lamp var=OIL_PRESSURE at=129.7,2 size=72.1,22 textsize=10 text="OIL PRESS"
+    lamp var=OIL_TEMP at=207.4,2 size=72.1,22 textsize=10 text="OIL TEMP"
+    lamp var=COOLANT_TEMP at=285.1,2 size=72.1,22 textsize=10 text="COOLANT"
+}
+group at=16,438 tall=-294.8,700 {
+    lamp at=362.8,2 size=72.1,22 textsize=10 text="CYL HEAD" {
         case if="HEAD_1_STATE = 2 or HEAD_2_STATE = 2 or HEAD_3_STATE = 2 or HEAD_4_STATE = 2" color=limit
         case if="HEAD_1_STATE = 1 or HEAD_2_STATE = 1 or HEAD_3_STATE = 1 or HEAD_4_STATE = 1" color=warning
     }
-    lamp at=437,2 size=72,22 textsize=10 text="EXHAUST" {
+    lamp at=440.5,2 size=72.1,22 textsize=10 text="EXHAUST" {
         case if="EXHAUST_1_STATE = 2 or EXHAUST_2_STATE = 2 or EXHAUST_3_STATE = 2 or EXHAUST_4_STATE = 2" color=limit
         case if="EXHAUST_1_STATE = 1 or EXHAUST_2_STATE = 1 or EXHAUST_3_STATE = 1 or EXHAUST_4_STATE = 1" color=warning
     }
-    lamp var=FUEL_LEVEL at=514,2 size=72,22 textsize=10 text="FUEL LOW"
-    lamp var=BUS_VOLTAGE at=591,2 size=77,22 textsize=10 text="BUS VOLT"
+    lamp var=FUEL_LEVEL at=518.2,2 size=72.1,22 textsize=10 text="FUEL LOW"
+    lamp var=BUS_VOLTAGE at=595.9,2 size=72.1,22 textsize=10 text="BUS VOLT"
 }
-group at=16,466 {
+group at=16,466 tall=16,728 {
     label at=0,16 size=10 color=muted text="LAMPS"
-    lamp at=52,2 size=72,22 textsize=10 text="LANE A" {
+    lamp at=52,2 size=72.1,22 textsize=10 text="LANE A" {
         case if="LANE_LAMP_A = 2" color=limit
         case if="LANE_LAMP_A = 1" color=warning
     }
-    lamp at=129,2 size=72,22 textsize=10 text="LANE B" {
+    lamp at=129.7,2 size=72.1,22 textsize=10 text="LANE B" {
         case if="LANE_LAMP_B = 2" color=limit
         case if="LANE_LAMP_B = 1" color=warning
     }
-    lamp at=206,2 size=72,22 textsize=10 text="OIL" {
+    lamp at=207.4,2 size=72.1,22 textsize=10 text="OIL" {
         case if="OIL_LAMP = 2" color=limit
         case if="OIL_LAMP = 1" color=warning
     }
-    lamp at=283,2 size=72,22 textsize=10 text="POWER" {
+    lamp at=285.1,2 size=72.1,22 textsize=10 text="POWER" {
         case if="POWER_LAMP = 2" color=limit
         case if="POWER_LAMP = 1" color=warning
     }
-    lamp at=360,2 size=72,22 textsize=10 text="FUEL" {
+    lamp at=362.8,2 size=72.1,22 textsize=10 text="FUEL" {
         case if="FUEL_LAMP = 2" color=limit
         case if="FUEL_LAMP = 1" color=warning
     }
+}
+group at=16,466 tall=-388,756 {
     label at=456,18 size=11 color=muted text="BATTERY"
     value var=BATTERY_CURRENT at=554,18 size=13 align=right {
         scale decimals=1 unit=A
