@@ -296,7 +296,8 @@ void DialogMain::loadProfile()
     mDialogProfile->updateList();
     mDialogData->loadProfile();
     const bool broken = !usable && QFileInfo::exists(file);
-    mProfileProblem = broken ? tr("The profile %1 cannot be read.").arg(file) : QString();
+    mProfileProblem =
+        broken ? tr("The profile %1 cannot be read.").arg(QDir::cleanPath(file)) : QString();
     mStatusBar->showNotice(mProfileProblem);
 }
 

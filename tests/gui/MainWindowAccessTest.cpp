@@ -4,6 +4,7 @@
 #include "gui/HelpBrowser.h"
 #include "tests/gui/MainWindowFixture.h"
 #include "views/PageTabBar.h"
+#include "views/WidgetMap.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>
@@ -115,6 +116,7 @@ TEST_F(DialogMainTest, HelpOpensAtWhatTheUserHasAtHand)
         tabs.setCurrentIndex(i);
         EXPECT_EQ(topicAtKey(tabs), topics[i]);
     }
+    EXPECT_EQ(topicAtKey(*window->findChild<WidgetMap*>()), "map");
     EXPECT_EQ(topicAtKey(cycles()), "cards");
     EXPECT_EQ(topicAtKey(find<QLineEdit>("searchParameters")), "parameters");
 }
