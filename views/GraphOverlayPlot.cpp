@@ -18,6 +18,7 @@ constexpr int kPadding = 4;  ///< between a text and the edge of its ground
 constexpr int kTriangle = 5; ///< half the width of a top marker
 constexpr int kGroundAlpha = 205;
 constexpr int kNameAlpha = 120;
+constexpr int kNameGap = 24; ///< between a trace's name and its readout
 constexpr int kMarkedAlpha = 22;
 /// Of the plot a box of readouts covers no more than one part in so many, if it has few lines.
 constexpr int kBoxPart = 3;
@@ -39,22 +40,30 @@ void GraphOverlay::paintBandNames()
     if (!bandsHoldText()) {
         return;
     }
+    struct Name
+    {
+        QString text;
+        QRect ground;
+    };
+    std::vector<Name> names;
     for (std::size_t place = 0; place < mScene.shown.size(); ++place) {
-        const unsigned int trace = mScene.shown[place];
         const QRect band = mScene.bandOf(place);
-        const QString name =
-            mMetrics.elidedText(mModel.parameter(trace).name, Qt::ElideRight, band.width() / 2);
-        const QRect ground(band.left(), band.top() + 1, textWidth(name) + 2 * kPadding,
-                           mMetrics.height() - 1);
-        if (ground.intersects(cursorNotePlace(place))) {
-            continue; // the readout says the name as well
+        const QString text = mMetrics.elidedText(mModel.parameter(mScene.shown[place]).name,
+                                                 Qt::ElideRight, band.width() / 2);
+        names.push_back({text, QRect(band.left(), band.top() + 1, textWidth(text) + 2 * kPadding,
+                                     mMetrics.height() - 1)});
+        if (names.back().ground.adjusted(0, 0, kNameGap, 0).intersects(cursorNotePlace(place))) {
+            return; // the readouts say the names as well; all of them or none, for a calm picture
         }
-        QColor back = mLook.back;
-        back.setAlpha(kNameAlpha);
-        mPainter.fillRect(ground, back);
-        mPainter.setPen(GraphLook::readable(colourOf(trace), mLook.back));
-        mPainter.drawText(ground.adjusted(kPadding, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
-                          name);
+    }
+    QColor back = mLook.back;
+    back.setAlpha(kNameAlpha);
+    for (std::size_t place = 0; place < names.size(); ++place) {
+        const Name& name = names[place];
+        mPainter.fillRect(name.ground, back);
+        mPainter.setPen(GraphLook::readable(colourOf(mScene.shown[place]), mLook.back));
+        mPainter.drawText(name.ground.adjusted(kPadding, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                          name.text);
     }
 }
 
