@@ -20,6 +20,9 @@ constexpr int kFieldWidth = 216;
 constexpr int kFieldHeight = 44;
 constexpr int kGap = 16;
 constexpr int kMostDecimals = 6;
+// Width divided by height, without and with the map beside the panel.
+constexpr double kWideRoom = 1.4;
+constexpr double kTallRoom = 0.55;
 
 /// A text as a view description writes it.
 QString quoted(const QString& text)
@@ -68,37 +71,53 @@ void writeCases(QTextStream& out, const ProfileEnum* labels, const QString& vari
     }
 }
 
-void writeField(QTextStream& out, const Profile& profile, const ViewParameter& field, int x, int y)
+/// Fields in columns, the first one filled first.
+struct Grid
+{
+    int columns = 1;
+    int rows = 1;
+
+    /// The one nearest to the proportions of a window: width divided by height.
+    static Grid of(int fields, double proportion)
+    {
+        Grid best;
+        double least = 1e9;
+        for (int columns = 1; columns <= fields; ++columns) {
+            const int rows = (fields + columns - 1) / columns;
+            const double ratio = double(columns * (kFieldWidth + kGap)) / (rows * kFieldHeight);
+            const double distance = std::fabs(std::log(ratio / proportion));
+            if (distance < least) {
+                least = distance;
+                best = {columns, rows};
+            }
+        }
+        return best;
+    }
+    [[nodiscard]] QString size() const
+    {
+        return pair(2 * kMargin + columns * (kFieldWidth + kGap) - kGap,
+                    2 * kMargin + rows * kFieldHeight);
+    }
+    [[nodiscard]] QString place(int field) const
+    {
+        return pair(kMargin + field / rows * (kFieldWidth + kGap),
+                    kMargin + field % rows * kFieldHeight);
+    }
+    static QString pair(int a, int b) { return QStringLiteral("%1,%2").arg(a).arg(b); }
+};
+
+void writeField(QTextStream& out, const Profile& profile, const ViewParameter& field)
 {
     const ProfileParameter& p = field.parameter;
     const QString variable = QString::fromStdString(field.viewId);
-    out << "group at=" << x << "," << y << " {\n"
-        << "label at=0,17 size=11 color=muted width=" << kFieldWidth
+    out << "label at=0,17 size=11 color=muted width=" << kFieldWidth
         << " text=" << quoted(p.fullName) << "\n"
         << "value var=" << quoted(variable) << " at=150,38 size=18 align=right bold=yes {\n"
         << "    unit at=156,38 size=11\n";
     writeScales(out, p);
     writeCases(out, profile.enumeration(p), variable);
     out << "}\n"
-        << "line from=0," << kFieldHeight << " to=" << kFieldWidth << "," << kFieldHeight << "\n"
-        << "}\n";
-}
-
-/// The columns that bring the panel nearest to the proportions of a window.
-int columnsFor(int fields)
-{
-    int best = 1;
-    double least = 1e9;
-    for (int columns = 1; columns <= std::max(1, fields); ++columns) {
-        const int rows = (fields + columns - 1) / columns;
-        const double ratio = double(columns * (kFieldWidth + kGap)) / (rows * kFieldHeight);
-        const double distance = std::fabs(std::log(ratio / 1.4));
-        if (distance < least) {
-            least = distance;
-            best = columns;
-        }
-    }
-    return best;
+        << "line from=0," << kFieldHeight << " to=" << kFieldWidth << "," << kFieldHeight << "\n";
 }
 
 std::string panelWithoutFields()
@@ -140,15 +159,15 @@ std::string generatedPanel(const Profile& profile, const std::vector<ViewParamet
         return panelWithoutFields();
     }
     const int count = static_cast<int>(parameters.size());
-    const int columns = columnsFor(count);
-    const int rows = (count + columns - 1) / columns;
+    const Grid wide = Grid::of(count, kWideRoom);
+    const Grid tall = Grid::of(count, kTallRoom);
     QString text;
     QTextStream out(&text);
-    out << "view size=" << 2 * kMargin + columns * (kFieldWidth + kGap) - kGap << ","
-        << 2 * kMargin + rows * kFieldHeight << "\n";
+    out << "view size=" << wide.size() << " tall=" << tall.size() << "\n";
     for (int i = 0; i < count; ++i) {
-        writeField(out, profile, parameters[static_cast<std::size_t>(i)],
-                   kMargin + i / rows * (kFieldWidth + kGap), kMargin + i % rows * kFieldHeight);
+        out << "group at=" << wide.place(i) << " tall=" << tall.place(i) << " {\n";
+        writeField(out, profile, parameters[static_cast<std::size_t>(i)]);
+        out << "}\n";
     }
     out.flush();
     return text.toStdString();
