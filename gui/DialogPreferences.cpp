@@ -98,8 +98,16 @@ void DialogPreferences::slotChangePage(QListWidgetItem* current, QListWidgetItem
 void DialogPreferences::showEvent(QShowEvent* event)
 {
     fillDialog();
-    mPageList->setFixedWidth(mPageList->sizeHintForColumn(0) + kListMargin);
+    fitToFont();
     QDialog::showEvent(event);
+}
+
+void DialogPreferences::fitToFont()
+{
+    mPageList->setFixedWidth(mPageList->sizeHintForColumn(0) + kListMargin);
+    layout()->activate();
+    // A width that was set once keeps the layout from asking for more.
+    setMinimumWidth(qMax(kMinimumWidth, minimumSizeHint().width()));
 }
 
 void DialogPreferences::fillDialog()
@@ -130,7 +138,7 @@ void DialogPreferences::slotFont(int size)
     mContext.settings.setInt(kFontSize, size);
     mContext.settings.writeXmlFile();
     mContext.control.loadStyleFile(mContext.styleInForce());
-    mPageList->setFixedWidth(mPageList->sizeHintForColumn(0) + kListMargin);
+    fitToFont();
 }
 
 void DialogPreferences::slotProfileSelect()

@@ -54,6 +54,7 @@ private:
     void createPages();
     void addPage(const QString& title, const char* icon, QWidget* page);
     void createLayout();
+    void fitToFont();
 
     AppContext mContext;
     ProfileSettings& mProfiles;

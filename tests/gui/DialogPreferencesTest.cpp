@@ -108,6 +108,17 @@ TEST_F(DialogPreferencesTest, AFontSizeIsStoredBeforeTheStyleIsLoadedAgain)
     EXPECT_EQ(program.control.styles, QStringList(QStringLiteral(":/styles/style.VELIX.css")));
 }
 
+TEST_F(DialogPreferencesTest, NoTextIsCutInTheLargestFont)
+{
+    dialog.setStyleSheet(QStringLiteral("QWidget {font-size: 24px;}"));
+    choose("selectorFontSize", QStringLiteral("24"));
+    QTest::qWait(20);
+    for (const QPushButton* button : dialog.findChildren<QPushButton*>()) {
+        EXPECT_TRUE(!button->isVisible() || button->width() >= button->sizeHint().width())
+            << qPrintable(button->text());
+    }
+}
+
 TEST_F(DialogPreferencesTest, AProfileFileIsKeptAsItsPathUntilTheInstalledOneIsWanted)
 {
     find<QPushButton>("buttonSelectProfile").click(); // cancelled
