@@ -56,7 +56,7 @@ private:
     void readStatement(ViewStatement& statement);
     void openUnlessDone(const ViewStatement& statement);
     void close(int line);
-    void open(const ViewStatement& statement, Block block);
+    void open(const ViewStatement& statement, Block next);
     [[nodiscard]] Block& block() { return mBlocks.back(); }
     void nameColors();
 
