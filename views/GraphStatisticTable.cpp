@@ -2,6 +2,7 @@
 
 #include "gui/CopyFilter.h"
 #include "views/GraphModel.h"
+#include "views/GraphTexts.h"
 #include "views/GraphTicks.h"
 
 #include <QEvent>
@@ -12,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
 
 namespace VELIX {
 
@@ -114,9 +116,11 @@ void GraphStatisticTable::showSpan(const GraphModel& model)
     const QString text = marked ? tr("Between the markers: %1 to %2, %3 s")
                                 : tr("In the visible range: %1 to %2, %3 s");
     const auto time = [](double value) {
-        // The margin before a record has no time of day.
-        return value < 0.0 ? QString::number(value, 'f', kDecimals)
-                           : GraphTicks::timeLabel(value, kDecimals);
+        const QString label = GraphTicks::timeLabel(std::abs(value), kDecimals);
+        if (label.isEmpty()) { // beyond any clock
+            return QString::number(value, 'f', kDecimals);
+        }
+        return value < 0.0 ? QLatin1Char('-') + label : label; // the margin before a record
     };
     mHeading->setText(text.arg(time(from), time(to), QString::number(to - from, 'f', kDecimals)));
 }
@@ -126,7 +130,7 @@ void GraphStatisticTable::showRow(int row, const GraphModel& model, unsigned int
     const GraphModel::ParStruct& parameter = model.parameter(trace);
     const GraphTrace::Statistics values = model.markerStatistics(trace);
     const auto number = [&](double value, int decimals) {
-        return values.count == 0 ? QStringLiteral("---") : QString::number(value, 'f', decimals);
+        return values.count == 0 ? QStringLiteral("---") : GraphTexts::fixed(value, decimals);
     };
     setCell(row, eName, parameter.name);
     mTable->item(row, eName)->setIcon(swatchOf(parameter.colour));

@@ -9,6 +9,13 @@
 
 namespace VELIX::GraphTexts {
 
+QString fixed(double value, int decimals)
+{
+    const QString text = QString::asprintf("%.*f", decimals, value);
+    const bool negativeZero = text.startsWith(QLatin1Char('-')) && text.toDouble() == 0.0;
+    return negativeZero ? text.mid(1) : text;
+}
+
 namespace {
 
 constexpr int kColumn = 8; ///< characters of a value in the legend
@@ -79,7 +86,7 @@ QString hover(const GraphModel& model, unsigned int trace, double time)
         return QStringLiteral("---");
     }
     const GraphModel::ParStruct& parameter = model.parameter(trace);
-    const QString text = number(value, parameter.precision, 0);
+    const QString text = fixed(value, parameter.precision);
     const bool hasUnit = !parameter.unit.isEmpty() && parameter.unit != QLatin1String("-");
     // A thin space belongs between a number and its unit.
     return hasUnit ? text + QChar(0x2009) + parameter.unit : text;

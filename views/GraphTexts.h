@@ -9,6 +9,9 @@ namespace VELIX {
 /// The texts of the graph, formatted as its users know them.
 namespace GraphTexts {
 
+/// A number with so many decimals; zero never has a minus sign.
+QString fixed(double value, int decimals);
+
 /// "%8.2f %8.2f [%s]" with the trace's precision: two values and the unit. A value that is not a
 /// number reads "---".
 QString values(const GraphModel::ParStruct& trace, double first, double second);

@@ -427,8 +427,11 @@ TEST_F(DialogDataGraphTest, ValuesBetweenTheMarkersAreListed)
     view->findChild<WidgetGraph*>()->setMarker(5.0, 5.0);
     zoomTo(39.5, 60.5);
     EXPECT_EQ(cell(0, 3), QStringLiteral("50.0"));
-    EXPECT_TRUE(view->findChild<GraphStatisticTable*>()->heading().startsWith(
-        QStringLiteral("In the visible range")));
+    EXPECT_EQ(view->findChild<GraphStatisticTable*>()->heading(),
+              QStringLiteral("In the visible range: 0:00:39.50 to 0:01:00.50, 21.00 s"));
+    zoomTo(-90.0, 60.0);
+    EXPECT_TRUE(view->findChild<GraphStatisticTable*>()->heading().contains(
+        QStringLiteral(": -0:01:30.00 to ")));
 
     const DialogDataGraph next(profile, settings, dialogs);
     EXPECT_FALSE(next.findChild<GraphStatisticTable*>()->isHidden());

@@ -42,6 +42,8 @@ TEST(GraphTextsTest, ReadoutsSayWhereThereIsNoValue)
     EXPECT_EQ(GraphTexts::hover(model, 0, 150.0),
               QStringLiteral("10.00") + QChar(0x2009) + QLatin1Char('%'));
     EXPECT_EQ(GraphTexts::hover(model, 0, 250.0), QStringLiteral("---"));
+    EXPECT_EQ(GraphTexts::fixed(-0.04, 1), QStringLiteral("0.0"));
+    EXPECT_EQ(GraphTexts::fixed(-0.06, 1), QStringLiteral("-0.1"));
     model.setTime(300.0);
     model.putValue(0, std::nan(""), false);
     model.setTime(310.0);
