@@ -184,6 +184,16 @@ void DialogDataGraph::zoomAll()
     }
 }
 
+void DialogDataGraph::zoomToMarkers()
+{
+    if (mGraph->model().markers().coincide()) {
+        emit signalNotice(tr("The markers coincide: click into the graph and Shift-click "
+                             "elsewhere to set them apart. Alt+Left goes back."));
+    }
+    mGraph->zoomToMarker();
+    updateControls(); // it leaves the automatic mode
+}
+
 void DialogDataGraph::setXrange(double seconds)
 {
     mGraph->setXrange(static_cast<float>(seconds));
@@ -317,8 +327,7 @@ void DialogDataGraph::slotCommandRelease(int id)
         }
         break;
     case eGraphZoomMarker:
-        mGraph->zoomToMarker();
-        updateControls(); // it leaves the automatic mode
+        zoomToMarkers();
         break;
     case eGraphClear:
         mGraph->clear();

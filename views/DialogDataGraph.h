@@ -88,6 +88,7 @@ private:
     void pageTo(double seconds);
     void setRange(const GraphTimeRange& range);
     void zoomAll();
+    void zoomToMarkers();
     void setXrange(double seconds);
     void fillRecord();
     void takeParameters();

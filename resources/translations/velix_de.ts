@@ -418,6 +418,10 @@
         <source>Show the record again</source>
         <translation>Aufzeichnung wieder zeigen</translation>
     </message>
+    <message>
+        <source>The markers coincide: click into the graph and Shift-click elsewhere to set them apart. Alt+Left goes back.</source>
+        <translation>Die Marken fallen zusammen: mit einem Klick in den Graphen und einem mit Umschalt an anderer Stelle setzen. Alt+Links führt zurück.</translation>
+    </message>
 </context>
 <context>
     <name>VELIX::DialogDataLimit</name>

@@ -288,9 +288,14 @@ TEST_F(DialogDataGraphTest, CommandsActWhenTheirButtonIsReleased)
     expectRange(0.0, 1200.0);
     EXPECT_EQ(view->data().xRange, 1000.0) << "without the margins";
 
+    QSignalSpy notice(view.get(), &DialogDataGraph::signalNotice);
     graph->setMarker(200.0, 300.0);
     button(eGraphZoomMarker)->click();
     expectRange(200.0, 300.0);
+    EXPECT_TRUE(notice.isEmpty());
+    graph->setMarker(250.0, 250.0);
+    button(eGraphZoomMarker)->click();
+    EXPECT_EQ(notice.count(), 1) << "nothing is to be seen in that range";
 
     button(eGraphClear)->click();
     EXPECT_TRUE(model().parameter(0).trace.isEmpty());
