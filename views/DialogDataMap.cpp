@@ -250,7 +250,8 @@ void DialogDataMap::fillEntry(DataEntry& entry) const
     const QString text = mProfile.getDataString(samples[after - 1], *entry.parameter, state, color);
     const QString unit = mProfile.textUnit(*entry.parameter);
     entry.value = unit.isEmpty() ? text : text + QChar(0x2009) + unit;
-    entry.color = state != 0 ? color : QColor();
+    const bool plain = state == 0 && color == QColor(Qt::white);
+    entry.color = plain ? QColor() : color;
 }
 
 // --- commands
@@ -323,8 +324,11 @@ void DialogDataMap::addColorMenu(QMenu& menu)
         });
     };
     add(tr("Altitude"), {}, current == nullptr);
+    colors->addSeparator();
     for (const ProfileParameter* parameter : mProfile.selectedParameters()) {
-        add(parameter->name, parameter->fullName, parameter == current);
+        if (parameter->velixDataType != QLatin1String("Altitude")) {
+            add(parameter->name, parameter->fullName, parameter == current);
+        }
     }
 }
 

@@ -70,6 +70,7 @@ void MapPath::findBoxes()
     }
     mMiddle = {(all.left + all.right) / 2.0, (all.bottom + all.top) / 2.0};
     mHalfWidth = (all.right - all.left) / 2.0;
+    mHalfHeight = (all.top - all.bottom) / 2.0;
     mMiddleLatitude = std::atan(std::sinh((mNorthing + mMiddle.y) / kEarthRadius)) * kDegrees;
     mMiddleLongitude = (mExtent.west + mExtent.east) / 2.0;
 }

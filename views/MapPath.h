@@ -39,8 +39,9 @@ public:
     [[nodiscard]] const Point& middle() const { return mMiddle; }
     [[nodiscard]] double middleLatitude() const { return mMiddleLatitude; }
     [[nodiscard]] double middleLongitude() const { return mMiddleLongitude; }
-    /// Half the path's width in metres of the map.
+    /// Half the path's width and height in metres of the map.
     [[nodiscard]] double halfWidth() const { return mHalfWidth; }
+    [[nodiscard]] double halfHeight() const { return mHalfHeight; }
 
     /// The place of the path nearest to a place in degrees; none if it is farther (m of the map).
     [[nodiscard]] std::optional<Place> nearest(double latitude, double longitude,
@@ -67,6 +68,7 @@ private:
     double mMiddleLatitude = 0.0;
     double mMiddleLongitude = 0.0;
     double mHalfWidth = 0.0;
+    double mHalfHeight = 0.0;
 };
 
 } // namespace VELIX

@@ -27,6 +27,8 @@ namespace {
 constexpr int kPeriod = 20;       // ms
 constexpr int kResizeDelay = 100; // ms
 constexpr double kLongest = 1.0;  // s without a repaint
+/// The same while tiles are to come: what has come is told at once, so this is for all else.
+constexpr double kLongestLoading = 0.1;
 constexpr int kLeastSize = 100;
 constexpr int kDefaultCacheLimit = 500; // MB
 constexpr int kLabelPixels = 11;
@@ -285,9 +287,7 @@ void WidgetMap::slotTimeout()
     const bool moving = mContext->dragging || mContext->panning || mContext->animating;
     // A clock that was set back must not stop the map.
     const double still = std::abs(Tessel::Misc::Timer::getTime() - mLastRepaint);
-    if (mDirty || moving || still > kLongest) {
-        mDirty = false;
-        mLastRepaint = Tessel::Misc::Timer::getTime();
+    if (mDirty || moving || still > (mLoading ? kLongestLoading : kLongest)) {
         update();
     }
 }
@@ -354,9 +354,7 @@ void WidgetMap::paintGL()
     drawPath();
     drawAircraft();
     drawOverlay();
-    if (mMap->nrLoadingTiles() != 0) {
-        mDirty = true;
-    }
+    mLoading = mMap->nrLoadingTiles() != 0;
 }
 
 void WidgetMap::applyKeys()

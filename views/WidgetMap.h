@@ -189,6 +189,7 @@ private:
     QTimer mResizeTimer;
     bool mResized = false;
     bool mDirty = true;
+    bool mLoading = false;     ///< tiles were still to come with the last picture
     double mLastRepaint = 0.0; ///< s
     double mRatio = 1.0;       ///< pixels of the frame buffer per logical pixel
     unsigned int mPaintCount = 0;

@@ -6,11 +6,13 @@
 #include "views/MapFollower.h"
 #include "views/MapNavigation.h"
 #include "views/MapPath.h"
+#include "views/MapPathOutline.h"
 #include "views/MapTexts.h"
 #include "views/MapTrack.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace VELIX {
@@ -146,6 +148,49 @@ TEST(MapPathTest, FindsTheNearestPlaceAcrossTheAntimeridian)
     ASSERT_TRUE(place);
     EXPECT_EQ(place->index, 255U);
     EXPECT_NEAR(place->fraction, 0.5, 1e-3);
+}
+
+TEST(MapPathOutlineTest, LeavesOutWhatNobodySees)
+{
+    // Along a line with a little noise, back on it, then round a circle of 100 m.
+    std::vector<MapPath::Point> points;
+    for (int i = 0; i <= 1000; ++i) {
+        points.push_back({static_cast<double>(i), 0.2 * (i % 3)});
+    }
+    for (int i = 999; i >= 500; --i) {
+        points.push_back({static_cast<double>(i), 0.0});
+    }
+    for (int i = 0; i <= 3600; ++i) {
+        points.push_back(
+            {500.0 + 100.0 * std::sin(i / 573.0), 100.0 - 100.0 * std::cos(i / 573.0)});
+    }
+    std::vector<QRgb> colors(points.size(), qRgb(0, 0, 200));
+    colors[300] = qRgb(255, 0, 0);
+    const std::vector<std::size_t> kept = mapPathOutline(points, colors, 1.0);
+    EXPECT_LT(kept.size(), 60U);
+    EXPECT_EQ(kept.front(), 0U);
+    EXPECT_EQ(kept.back(), points.size() - 1);
+    for (const std::size_t colored : {299U, 300U, 301U}) {
+        EXPECT_EQ(std::count(kept.begin(), kept.end(), colored), 1) << colored;
+    }
+    double farthest = 0.0;
+    for (const std::size_t i : kept) {
+        farthest = std::max(farthest, points[i].x);
+    }
+    EXPECT_GE(farthest, 999.0) << "where the path turns back";
+    std::size_t next = 1;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        next += i > kept[next] ? 1 : 0;
+        const MapPath::Point& from = points[kept[next - 1]];
+        const MapPath::Point& to = points[kept[next]];
+        const double length = std::hypot(to.x - from.x, to.y - from.y);
+        const double aside =
+            ((points[i].x - from.x) * (to.y - from.y) - (points[i].y - from.y) * (to.x - from.x)) /
+            length;
+        EXPECT_LE(std::abs(aside), 1.001) << i;
+    }
+    EXPECT_TRUE(mapPathOutline({}, {}, 1.0).empty());
+    EXPECT_EQ(mapPathOutline({{1.0, 1.0}}, {}, 0.0).size(), 1U);
 }
 
 TEST(MapColoringTest, ShowsValuesAlongTheScaleAndThresholdsInTheirColour)

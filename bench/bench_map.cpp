@@ -1,0 +1,146 @@
+// The map: a picture with everything there, a path made ready, and tiles from a server to the
+// screen. Needs a display.
+
+#include "bench/WidgetBench.h"
+#include "card/RecordData.h"
+#include "core/Property.h"
+#include "gui/Resources.h"
+#include "platform/tessel/Timer.h"
+#include "tests/support/TileServer.h"
+#include "views/MapContext.h"
+#include "views/MapPathLines.h"
+#include "views/WidgetMap.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+using namespace VELIX;
+
+/// Circles over the Alps, ten positions a second.
+std::vector<FlightPathPoint> circles(int count)
+{
+    std::vector<FlightPathPoint> path(static_cast<std::size_t>(count));
+    double time = 0.0;
+    for (FlightPathPoint& point : path) {
+        point.time = time;
+        point.latitude = 47.0 + 0.2 * std::sin(time / 700.0) + 0.01 * std::sin(time / 9.0);
+        point.longitude = 8.0 + 0.3 * std::cos(time / 900.0) + 0.01 * std::cos(time / 9.0);
+        point.altitude = 900.0 + 600.0 * std::sin(time / 300.0);
+        time += 0.1;
+    }
+    return path;
+}
+
+/// A map of its own folder, so that every tile comes from the server.
+struct MapWindow
+{
+    MapWindow(int width, int height, const std::vector<FlightPathPoint>& path)
+    {
+        initResources();
+        settings.setString("TileServer", "");
+        context.visibleRange = 60000.0;
+        context.centreLatitude = 47.0;
+        context.centreLongitude = 8.0;
+        map = std::make_unique<WidgetMap>(nullptr, context, settings, folder.path().toStdString());
+        map->resize(width, height);
+        map->setFlightPath(&path);
+        map->setColoring(MapColoring::byAltitude(path, false));
+        if (!path.empty()) {
+            map->setRecordData(&record);
+        }
+    }
+    /// Without a server yet: what the drivers prepare is no matter of tiles.
+    bool show()
+    {
+        map->show();
+        return QTest::qWaitFor([this] { return map->paintCount() > 2; }, 20000);
+    }
+    bool load()
+    {
+        settings.setString("TileServer", server.url().toStdString());
+        map->update();
+        return QTest::qWaitFor([this] { return server.requests() > 0 && map->loadingTiles() == 0; },
+                               20000);
+    }
+
+    Test::TileServer server;
+    QTemporaryDir folder;
+    Property settings;
+    MapContext context;
+    RecordData record;
+    std::unique_ptr<WidgetMap> map;
+};
+
+void frame(benchmark::State& state)
+{
+    const std::vector<FlightPathPoint> path = circles(static_cast<int>(state.range(0)));
+    MapWindow window(1200, 800, path);
+    if (!window.show() || !window.load()) {
+        state.SkipWithError("the tiles did not come");
+        return;
+    }
+    window.map->setAcPosition(path.back());
+    for (auto _ : state) {
+        window.map->grabFramebuffer(); // a repaint, and the pixels of it
+    }
+}
+
+void pathToVertices(benchmark::State& state)
+{
+    const std::vector<FlightPathPoint> path = circles(static_cast<int>(state.range(0)));
+    const MapColoring coloring = MapColoring::byAltitude(path, false);
+    MapPathLines lines;
+    for (auto _ : state) {
+        lines.build(MapPath(path), coloring.colors, 3.0);
+    }
+}
+
+/// Until all tiles of the view are on screen; blockedMs is the longest time that the event loop was
+/// away, the server of this process included.
+void tilesToScreen(benchmark::State& state)
+{
+    const std::vector<FlightPathPoint> nowhere;
+    double blocked = 0.0;
+    int tiles = 0;
+    for (auto _ : state) {
+        MapWindow window(1600, 1000, nowhere);
+        Tessel::Misc::Timer between;
+        QTimer ticks;
+        QObject::connect(&ticks, &QTimer::timeout, [&] {
+            blocked = std::max(blocked, between.elapsed());
+            between.restart();
+        });
+        if (!window.show()) {
+            state.SkipWithError("no picture came");
+            break;
+        }
+        const Tessel::Misc::Timer watch;
+        between.restart();
+        ticks.start(0);
+        if (!window.load()) {
+            state.SkipWithError("the tiles did not come");
+            break;
+        }
+        window.map->grabFramebuffer();
+        state.SetIterationTime(watch.elapsed());
+        tiles = window.server.requests();
+    }
+    state.counters["tiles"] = tiles;
+    state.counters["blockedMs"] = blocked * 1000.0;
+}
+
+BENCHMARK(frame)->Arg(2)->Arg(150000)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(pathToVertices)->Arg(500000)->Unit(benchmark::kMillisecond);
+BENCHMARK(tilesToScreen)->Iterations(5)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    return VELIX::runWidgetBenchmarks(argc, argv);
+}
