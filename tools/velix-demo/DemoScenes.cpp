@@ -50,6 +50,7 @@ const std::vector<DemoScene>& demoScenes()
         {"fault", "Fault matrix", nullptr, "viewFaultMatrix"},
         {"limit", "Limits and warnings", nullptr, "viewLimit"},
         {"warning", "Warning lamps", nullptr, "viewWarning"},
+        {"instrument", "EMU View: the engine's own display", nullptr, "viewInstrument"},
     };
     return scenes;
 }
