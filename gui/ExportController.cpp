@@ -55,7 +55,7 @@ bool ExportController::write(Engine& engine, const Options& options, const QStri
         return true;
     }
     if (written == 0) {
-        emit signalNotice(engine.lastError());
+        emit signalNotice(tr("The file %1 could not be written: %2").arg(file, engine.lastError()));
         return false;
     }
     emit signalNotice(tr("Written to %1").arg(file));

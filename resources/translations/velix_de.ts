@@ -419,8 +419,8 @@
         <translation>Aufzeichnung wieder zeigen</translation>
     </message>
     <message>
-        <source>The markers coincide: click into the graph and Shift-click elsewhere to set them apart. Alt+Left goes back.</source>
-        <translation>Die Marken fallen zusammen: mit einem Klick in den Graphen und einem mit Umschalt an anderer Stelle setzen. Alt+Links führt zurück.</translation>
+        <source>Set two markers first: click into the graph, then Shift-click elsewhere.</source>
+        <translation>Erst zwei Marken setzen: in den Graphen klicken, dann mit Umschalt woanders.</translation>
     </message>
 </context>
 <context>
@@ -1230,6 +1230,10 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>The export was cancelled. Nothing was written.</source>
         <translation>Der Export wurde abgebrochen. Es wurde nichts geschrieben.</translation>
+    </message>
+    <message>
+        <source>The file %1 could not be written: %2</source>
+        <translation>Die Datei %1 ließ sich nicht schreiben: %2</translation>
     </message>
     <message>
         <source>Written to %1</source>
