@@ -238,14 +238,6 @@
 <context>
     <name>VELIX::DialogData</name>
     <message>
-        <source>This version has no instrument panel yet. The Data tab lists the values over time.</source>
-        <translation>Diese Version hat noch keine Instrumentenanzeige. Der Reiter „Daten“ listet die Werte über der Zeit auf.</translation>
-    </message>
-    <message>
-        <source>This version has no map yet.</source>
-        <translation>Diese Version hat noch keine Landkarte.</translation>
-    </message>
-    <message>
         <source>Data</source>
         <translation>Daten</translation>
     </message>
@@ -439,6 +431,49 @@
     </message>
 </context>
 <context>
+    <name>VELIX::DialogDataMap</name>
+    <message>
+        <source>Right click: choose values and the colour of the path</source>
+        <translation>Rechtsklick: Werte und Farbe des Flugwegs wählen</translation>
+    </message>
+    <message>
+        <source>Center AC</source>
+        <translation>Center AC</translation>
+    </message>
+    <message>
+        <source>Center AC: keep the aircraft in the middle of the map</source>
+        <translation>Center AC: das Flugzeug in der Mitte der Karte halten</translation>
+    </message>
+    <message>
+        <source>Show Whole Path</source>
+        <translation>Ganzen Flugweg zeigen</translation>
+    </message>
+    <message>
+        <source>No record open. Load a cycle or a flight to see its path.</source>
+        <translation>Keine Aufzeichnung geladen. Laden Sie einen Zyklus oder einen Flug, um seinen Weg zu sehen.</translation>
+    </message>
+    <message>
+        <source>This record has no positions.</source>
+        <translation>Diese Aufzeichnung hat keine Positionen.</translation>
+    </message>
+    <message>
+        <source>Shade Terrain</source>
+        <translation>Gelände schattieren</translation>
+    </message>
+    <message>
+        <source>Show Values</source>
+        <translation>Werte zeigen</translation>
+    </message>
+    <message>
+        <source>Colour Path by</source>
+        <translation>Flugweg färben nach</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>Höhe</translation>
+    </message>
+</context>
+<context>
     <name>VELIX::DialogDataStatistic</name>
     <message>
         <source>Tow Statistic</source>
@@ -578,6 +613,29 @@
     <message>
         <source>The record has no samples of the selected parameters. Select other parameters or choose another record.</source>
         <translation>Die Aufzeichnung enthält keine Messwerte der ausgewählten Parameter. Andere Parameter oder eine andere Aufzeichnung auswählen.</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::DialogDataView</name>
+    <message>
+        <source>Instrument panel</source>
+        <translation>Instrumentenanzeige</translation>
+    </message>
+    <message>
+        <source>No parameter profile is installed. Without the profile of your engine, recorded messages cannot be turned into values.</source>
+        <translation>Es ist kein Parameterprofil installiert. Ohne das Profil des Motors lassen sich aufgezeichnete Nachrichten nicht in Werte umrechnen.</translation>
+    </message>
+    <message>
+        <source>Install a profile</source>
+        <translation>Profil installieren</translation>
+    </message>
+    <message>
+        <source>No record loaded. Open the folder of a data card and choose a cycle, a flight or a file.</source>
+        <translation>Keine Aufzeichnung geladen. Ordner einer Datenkarte öffnen und einen Zyklus, einen Flug oder eine Datei auswählen.</translation>
+    </message>
+    <message>
+        <source>The profile binds no parameter to the panel.</source>
+        <translation>Das Profil verbindet keinen Parameter mit der Anzeige.</translation>
     </message>
 </context>
 <context>
@@ -1676,6 +1734,13 @@ Soll sie ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>VELIX::MapColoring</name>
+    <message>
+        <source>Altitude</source>
+        <translation>Höhe</translation>
+    </message>
+</context>
+<context>
     <name>VELIX::PreferencesGeneral</name>
     <message>
         <source>&amp;Select...</source>
@@ -1882,6 +1947,13 @@ Soll sie ersetzt werden?</translation>
     <message>
         <source>No error set</source>
         <translation>Kein Fehler gesetzt</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::WidgetMap</name>
+    <message>
+        <source>Map</source>
+        <translation>Landkarte</translation>
     </message>
 </context>
 <context>
