@@ -9,6 +9,7 @@ namespace VELIX {
 namespace {
 
 constexpr int kIconTextGap = 4; // what a tab bar puts between its icon and its text
+constexpr int kTextRoom = 10;   // what styles reserve behind an icon for a text, beside its width
 
 } // namespace
 
@@ -43,7 +44,7 @@ QSize PageTabBar::compactSize(int index) const
 {
     const QSize full = QTabBar::tabSizeHint(index);
     const int text = fontMetrics().size(Qt::TextShowMnemonic, tabText(index)).width();
-    return {full.width() - text - kIconTextGap, full.height()};
+    return {full.width() - text - kIconTextGap - kTextRoom, full.height()};
 }
 
 QSize PageTabBar::tabSizeHint(int index) const
