@@ -187,8 +187,8 @@ void DialogDataGraph::zoomAll()
 void DialogDataGraph::zoomToMarkers()
 {
     if (mGraph->model().markers().coincide()) {
-        emit signalNotice(tr("The markers coincide: click into the graph and Shift-click "
-                             "elsewhere to set them apart. Alt+Left goes back."));
+        emit signalNotice(
+            tr("Set two markers first: click into the graph, then Shift-click elsewhere."));
     }
     mGraph->zoomToMarker();
     updateControls(); // it leaves the automatic mode
