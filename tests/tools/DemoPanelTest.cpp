@@ -1,0 +1,133 @@
+// The program's instrument panel fits the demo profile: names and thresholds agree.
+
+#include "platform/viewlib/ViewReader.h"
+#include "platform/viewlib/ViewVariables.h"
+#include "profile/Profile.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+namespace VELIX::Demo {
+namespace {
+
+using Vista2D::ViewBand;
+using Vista2D::ViewBinding;
+using Vista2D::ViewReader;
+using Vista2D::ViewScale;
+using Vista2D::ViewVariables;
+
+std::map<std::string, ProfileParameter> boundParameters(const Profile& profile)
+{
+    std::map<std::string, ProfileParameter> bound;
+    for (const ProfileDevice& device : profile.data().devices) {
+        for (const auto& [id, p] : device.parameters) {
+            if (!p.viewId.isEmpty()) {
+                bound[p.viewId.toStdString()] = p;
+            }
+        }
+    }
+    return bound;
+}
+
+QByteArray panelText()
+{
+    QFile file(QStringLiteral(DEMO_RESOURCES "/../views/instruments.v"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+}
+
+const ViewBinding* bindingOf(const Vista2D::ViewElement& element)
+{
+    if (const auto* gauge = std::get_if<Vista2D::ViewGauge>(&element.shape)) {
+        return &gauge->binding;
+    }
+    const auto* bar = std::get_if<Vista2D::ViewBar>(&element.shape);
+    return bar != nullptr ? &bar->binding : nullptr;
+}
+
+int stateOf(const QColor& color)
+{
+    return color == QColor(0xe0, 0x46, 0x3c) ? 2 : color == QColor(0xe5, 0x9a, 0x1c) ? 1 : 0;
+}
+
+/// Just inside of its ends, a band must have the colour of the state that the profile gives there.
+void compare(const Profile& profile, const ProfileParameter& p, const ViewScale& scale,
+             const std::string& where)
+{
+    for (const ViewBand& band : scale.bands) {
+        for (const double part : {0.01, 0.99}) {
+            const double shown = band.from + part * (band.to - band.from);
+            const bool isImperial = profile.currentUnit() == eUnitImperial;
+            const double metric =
+                isImperial ? (shown - p.toImperial.offset) / p.toImperial.factor : shown;
+            int state = 0;
+            QColor color;
+            profile.getThreshold(p, metric, state, color);
+            EXPECT_EQ(stateOf(band.color), state) << where << " at " << shown;
+        }
+    }
+    EXPECT_EQ(scale.bands.empty(), p.thresholdId == 0) << where;
+}
+
+TEST(DemoPanel, BandsRepeatTheThresholdsOfTheProfile)
+{
+    Profile profile;
+    ASSERT_NE(profile.loadProfile(QStringLiteral(DEMO_RESOURCES "/Profile.xml")), 0);
+    ViewVariables variables;
+    ViewReader reader(variables);
+    reader.read(panelText());
+    int count = 0;
+    for (const ProfileVariant& variant : profile.variants()) {
+        ASSERT_NE(profile.setCurrentVariant(variant.name), 0);
+        const auto bound = boundParameters(profile);
+        for (const EUnit unit : {eUnitMetric, eUnitImperial}) {
+            profile.setCurrentUnit(unit);
+            variables.set(variables.slot("VARIANT"), variant.id.toInt());
+            variables.set(variables.slot("UNIT"), unit);
+            for (const Vista2D::ViewElement& element : reader.model().elements) {
+                const ViewBinding* binding = bindingOf(element);
+                for (const auto& [name, p] : bound) {
+                    if (binding != nullptr && binding->slot == variables.find(name)) {
+                        const ViewScale* scale = reader.model().scaleOf(*binding, variables);
+                        ASSERT_NE(scale, nullptr) << name;
+                        compare(profile, p, *scale,
+                                name + " " + variant.name.toStdString() + std::to_string(unit));
+                        ++count;
+                    }
+                }
+            }
+        }
+    }
+    EXPECT_EQ(count, 3 * 2 * 19); // variants, unit systems, dials and bars
+}
+
+TEST(DemoPanel, HasNoMistakeAndNamesWhatTheProfileBinds)
+{
+    Profile profile;
+    ASSERT_NE(profile.loadProfile(QStringLiteral(DEMO_RESOURCES "/Profile.xml"), QString()), 0);
+    for (const auto layout : {ViewReader::Layout::Wide, ViewReader::Layout::Tall}) {
+        ViewVariables variables;
+        ViewReader reader(variables, layout);
+        reader.read(panelText());
+        for (const Vista2D::ViewError& error : reader.errors()) {
+            ADD_FAILURE() << error.line << " " << error.element << ": " << error.message;
+        }
+        std::set<int> known;
+        for (const char* own : {"UNIT", "VARIANT", "TALL"}) {
+            known.insert(variables.slot(own));
+        }
+        for (const auto& [name, p] : boundParameters(profile)) {
+            known.insert({variables.slot(name), variables.slot(name + "_STATE")});
+        }
+        for (const int slot : reader.model().slotsUsed) {
+            EXPECT_EQ(known.count(slot), 1U) << "slot " << slot;
+        }
+    }
+}
+
+} // namespace
+} // namespace VELIX::Demo
