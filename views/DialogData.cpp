@@ -256,13 +256,15 @@ void DialogData::releaseRecord()
     mLoading->setGeometry(mStack->rect());
     mLoading->raise();
     mLoading->show();
+    mMap->showHint(tr("Loading the record ..."));
 }
 
 void DialogData::closeRecord()
 {
     releaseRecord();
     mLoading->hide();
-    mLimit->clear(); // lists wait for a next record with what they show
+    mMap->updateRecord(nullptr); // which says so
+    mLimit->clear();             // lists wait for a next record with what they show
     mWarning->clear();
     mReplayTimer.stop();
     mClock.rewind();

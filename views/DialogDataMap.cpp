@@ -197,11 +197,16 @@ void DialogDataMap::updateHint()
     mFit->setEnabled(path);
     mCenter->setEnabled(path);
     if (mRecord == nullptr) {
-        mHint->setText(tr("No record open. Load a cycle or a flight to see its path."));
+        showHint(tr("No record open. Load a cycle or a flight to see its path."));
     } else {
-        mHint->setText(tr("This record has no positions."));
+        showHint(path ? QString() : tr("This record has no positions."));
     }
-    mHint->setVisible(!path);
+}
+
+void DialogDataMap::showHint(const QString& sentence)
+{
+    mHint->setText(sentence);
+    mHint->setVisible(!sentence.isEmpty());
     updateGeometry();
 }
 

@@ -46,6 +46,8 @@ public:
 
     /// The aircraft at a time (s); the empty point where the record has no position.
     FlightPathPoint calcPositionAtTime(double seconds) const;
+    /// Lays a sentence over the map until the next record, or none, is shown.
+    void showHint(const QString& sentence);
     /// Puts the parts that lie over the map in their places.
     void updateGeometry();
 

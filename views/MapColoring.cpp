@@ -37,7 +37,7 @@ QRgb mixed(double fraction)
     const Stop& to = kStops[right];
     const double part = std::clamp((fraction - from.at) / (to.at - from.at), 0.0, 1.0);
     const auto channel = [&](std::size_t i) {
-        return static_cast<int>(from.color[i] + (to.color[i] - from.color[i]) * part + 0.5);
+        return static_cast<int>(std::lround(std::lerp(from.color[i], to.color[i], part)));
     };
     return qRgb(channel(0), channel(1), channel(2));
 }
@@ -93,14 +93,14 @@ int decimalsOf(const std::vector<double>& values)
 QRgb MapColoring::scale(double fraction)
 {
     static const std::array<QRgb, kSteps> table = [] {
-        std::array<QRgb, kSteps> colors{};
+        std::array<QRgb, kSteps> entries{};
         for (std::size_t i = 0; i < kSteps; ++i) {
-            colors[i] = mixed(static_cast<double>(i) / (kSteps - 1));
+            entries[i] = mixed(static_cast<double>(i) / (kSteps - 1));
         }
-        return colors;
+        return entries;
     }();
     const double step = std::clamp(fraction, 0.0, 1.0) * (kSteps - 1);
-    return table[static_cast<std::size_t>(step + 0.5)];
+    return table[static_cast<std::size_t>(std::lround(step))];
 }
 
 MapColoring MapColoring::byAltitude(const std::vector<FlightPathPoint>& path, bool imperial)

@@ -52,8 +52,7 @@ WidgetMap::WidgetMap(QWidget* parent, MapContext& context, Property& settings,
       mContext(&context),
       mSettings(settings),
       mDataPath(dataPath),
-      mMap(std::make_unique<OpenStreet::OpenStreetMap>()),
-      mRatio(devicePixelRatioF())
+      mMap(std::make_unique<OpenStreet::OpenStreetMap>())
 {
     setMouseTracking(true);
     setAttribute(Qt::WA_AcceptTouchEvents);
@@ -61,8 +60,6 @@ WidgetMap::WidgetMap(QWidget* parent, MapContext& context, Property& settings,
     setMinimumSize(kLeastSize, kLeastSize);
     setAccessibleName(tr("Map"));
     mContext->shading = MapSettings::read(mSettings).shading;
-    mOverlay.load(mRatio);
-    mSymbol.setImage(mapAircraft(static_cast<int>(std::lround(kSymbolSize * mRatio))));
 
     connect(&mTimer, &QTimer::timeout, this, &WidgetMap::slotTimeout);
     mTimer.start(kPeriod);
@@ -104,18 +101,32 @@ void WidgetMap::setUpMap()
     mTakenSettings = MapSettings::read(mSettings);
     mMap->setTileServer(mTakenSettings.tileServer.c_str());
     static_cast<void>(mMap->setCoastLines(":/map/coast.bin")); // without them there is the grid
+    mMap->setArrivedCallback([this] { mDirty = true; });
+}
+
+/// Not before the widget has a screen; another screen may have another ratio.
+void WidgetMap::adoptRatio()
+{
+    if (mRatio == devicePixelRatioF()) {
+        return;
+    }
+    mRatio = devicePixelRatioF();
+    mOverlay.release();
+    mOverlay.load(mRatio);
+    mSymbol.setImage(mapAircraft(static_cast<int>(std::lround(kSymbolSize * mRatio))));
     QFile font(QStringLiteral(":monofont.ttf"));
     if (font.open(QIODevice::ReadOnly)) {
         const QByteArray bytes = font.readAll();
         mMap->setLabelFont(bytes.constData(), static_cast<std::size_t>(bytes.size()),
                            static_cast<int>(std::lround(kLabelPixels * mRatio)));
     }
-    mMap->setArrivedCallback([this] { mDirty = true; });
+    mStaleLines = true; // their width is in pixels
 }
 
 void WidgetMap::initializeGL()
 {
     setUpMap();
+    adoptRatio();
     // A widget that moves to another window gets a new context.
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &WidgetMap::releaseGl);
 }
@@ -220,6 +231,7 @@ void WidgetMap::fitView()
         mContext->visibleRange = before;
     }
     mFitted = true;
+    mFit = *mContext;
 }
 
 // --- measures
@@ -304,8 +316,18 @@ void WidgetMap::resizeGL(int width, int height)
 {
     Q_UNUSED(width)
     Q_UNUSED(height)
+    adoptRatio();
     updateWindow();
+    // Who has not moved the map since wants to see the whole path in the new window, too.
+    mRefit = mRefit || showsFit();
     mDirty = true;
+}
+
+bool WidgetMap::showsFit() const
+{
+    return mFitted && mContext->visibleRange == mFit.visibleRange &&
+           mContext->centreLatitude == mFit.centreLatitude &&
+           mContext->centreLongitude == mFit.centreLongitude;
 }
 
 void WidgetMap::takeSettings()
@@ -334,6 +356,7 @@ void WidgetMap::paintGL()
     ++mPaintCount;
     mDirty = false;
     mLastRepaint = Tessel::Misc::Timer::getTime();
+    adoptRatio();
     updateWindow();
     if (mRedrawPath) {
         redrawFlightPath();

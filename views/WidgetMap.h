@@ -5,6 +5,7 @@
 #include "platform/tessel/GlHandler.h"
 #include "platform/tessel/Texture.h"
 #include "views/MapColoring.h"
+#include "views/MapContext.h"
 #include "views/MapFollower.h"
 #include "views/MapOverlay.h"
 #include "views/MapPath.h"
@@ -29,7 +30,6 @@ namespace VELIX {
 
 class Property;
 class RecordData;
-struct MapContext;
 
 /// The map with the path of a record and the aircraft. Moved by mouse, wheel, keys and gestures.
 ///
@@ -123,12 +123,14 @@ private:
     };
 
     void setUpMap();
+    void adoptRatio();
     void takeSettings();
     void updateWindow();
     void releaseGl();
 
     void makeLines();
     void fitView();
+    [[nodiscard]] bool showsFit() const;
     void applyKeys();
     void followAircraft();
     void drawMap();
@@ -170,6 +172,7 @@ private:
     bool mRedrawPath = false; ///< lines and view are to be made for another record
     bool mStaleLines = false; ///< only the lines
     bool mFitted = false;     ///< the path was once fitted into the window
+    MapContext mFit;          ///< the view that did it last
     bool mRefit = false;      ///< it is to be fitted with the next picture
     FlightPathPoint mAircraft;
     MapFollower mFollower;
@@ -191,7 +194,7 @@ private:
     bool mDirty = true;
     bool mLoading = false;     ///< tiles were still to come with the last picture
     double mLastRepaint = 0.0; ///< s
-    double mRatio = 1.0;       ///< pixels of the frame buffer per logical pixel
+    double mRatio = 0.0;       ///< pixels of the frame buffer per logical pixel; 0: not known yet
     unsigned int mPaintCount = 0;
 };
 
