@@ -27,6 +27,7 @@ GraphOverlay::GraphOverlay(QPainter& painter, const GraphModel& model, const Gra
       mLook(look),
       mPointer(pointer),
       mMetrics(scene.font),
+      mWidths(scene.font),
       mSplit(model.displayMode() != GraphModel::DisplaySingle)
 {}
 
@@ -304,7 +305,7 @@ QColor GraphOverlay::colourOf(unsigned int trace) const
 int GraphOverlay::textWidth(const QString& text) const
 {
     // Rounded up: a text in a room rounded down loses a letter for half a pixel.
-    return static_cast<int>(std::ceil(QFontMetricsF(mScene.font).horizontalAdvance(text)));
+    return static_cast<int>(std::ceil(mWidths.horizontalAdvance(text)));
 }
 
 } // namespace VELIX

@@ -87,6 +87,7 @@ private:
     const GraphLook& mLook;
     const GraphPointer& mPointer;
     QFontMetrics mMetrics;
+    QFontMetricsF mWidths; ///< of the same font, not rounded
     bool mSplit;
 };
 
