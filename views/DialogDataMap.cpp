@@ -255,8 +255,7 @@ void DialogDataMap::fillEntry(DataEntry& entry) const
     const QString text = mProfile.getDataString(samples[after - 1], *entry.parameter, state, color);
     const QString unit = mProfile.textUnit(*entry.parameter);
     entry.value = unit.isEmpty() ? text : text + QChar(0x2009) + unit;
-    const bool plain = state == 0 && color == QColor(Qt::white);
-    entry.color = plain ? QColor() : color;
+    entry.color = state != 0 ? color : QColor(); // a value in its green band needs no attention
 }
 
 // --- commands
