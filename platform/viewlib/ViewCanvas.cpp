@@ -23,18 +23,6 @@ int edge(double pixels)
     return std::max(1, static_cast<int>(std::ceil(pixels - 0.01)));
 }
 
-const ViewBinding* bindingOf(const ViewElement& element)
-{
-    if (const auto* gauge = std::get_if<ViewGauge>(&element.shape)) {
-        return &gauge->binding;
-    }
-    if (const auto* bar = std::get_if<ViewBar>(&element.shape)) {
-        return &bar->binding;
-    }
-    const auto* value = std::get_if<ViewValue>(&element.shape);
-    return value != nullptr ? &value->binding : nullptr;
-}
-
 } // namespace
 
 double ViewCanvas::usableScale(const ViewModel& model, double scale)

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <set>
+#include <type_traits>
 #include <variant>
 #include <vector>
 
@@ -174,6 +175,22 @@ struct ViewElement
                  ViewArc>
         shape;
 };
+
+/// The binding of an instrument; null for what is none.
+template <class Element>
+[[nodiscard]] auto* bindingOf(Element& element)
+{
+    using Binding = std::conditional_t<std::is_const_v<Element>, const ViewBinding, ViewBinding>;
+    return std::visit(
+        [](auto& shape) -> Binding* {
+            if constexpr (requires { shape.binding; }) {
+                return &shape.binding;
+            } else {
+                return nullptr;
+            }
+        },
+        element.shape);
+}
 
 /// The colours that the look of all elements rests on; a description can set its own.
 struct ViewColors

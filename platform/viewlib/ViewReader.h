@@ -37,6 +37,10 @@ public:
     [[nodiscard]] const std::vector<ViewError>& errors() const { return mErrors.list(); }
 
 private:
+    static constexpr double kFarthest = 1e5; ///< view units from the origin
+    static constexpr double kLargest = 1e12; ///< value of a scale
+    static constexpr double kLargestText = 1000.0;
+
     /// What the lines of an open block belong to.
     struct Block
     {
@@ -54,7 +58,7 @@ private:
 
     static const std::map<QString, Handler>& handlers(Block::Kind kind);
     void readStatement(ViewStatement& statement);
-    void openUnlessDone(const ViewStatement& statement);
+    void skipBlock(const ViewStatement& statement);
     void close(int line);
     void open(const ViewStatement& statement, Block next);
     [[nodiscard]] Block& block() { return mBlocks.back(); }
