@@ -39,7 +39,7 @@ QString writeOutputFile(const QString& path, const std::function<bool(QIODevice&
         // A write that stopped half-way has told no reason yet: the next one gets it.
         file.write("\n");
         file.flush();
-        const QString why = reason(file);
+        QString why = reason(file);
         file.cancelWriting();
         return why;
     }
