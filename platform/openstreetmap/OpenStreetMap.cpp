@@ -6,6 +6,7 @@
 #include "platform/tessel/Gl.h"
 
 #include <algorithm>
+#include <cmath>
 #include <set>
 #include <utility>
 
@@ -13,7 +14,8 @@ namespace OpenStreet {
 
 namespace {
 
-/// Of 256 kB each. The largest view shows a hundred tiles.
+/// Of 256 kB each, or four times that from servers of large tiles. The largest view shows a
+/// hundred tiles.
 constexpr std::size_t kMostTextures = 256;
 /// Levels above a missing tile that are looked for on disk.
 constexpr int kStandInLevels = 5;
@@ -208,7 +210,10 @@ void OpenStreetMap::setShadingFactor(double factor)
 
 void OpenStreetMap::setStyle(const ShadingStyle& style)
 {
-    if (!(style == d->shades.style())) {
+    // What is not a number would differ from itself, and have all computed anew for ever.
+    const bool isUsable = std::isfinite(style.lightX + style.lightY + style.lightZ +
+                                        style.contrast + style.brightness + style.factor);
+    if (isUsable && !(style == d->shades.style())) {
         d->shades.setStyle(style);
         d->painter.shades().clear();
     }

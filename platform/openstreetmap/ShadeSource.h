@@ -31,10 +31,11 @@ public:
     void setStyle(const ShadingStyle& style);
     [[nodiscard]] const ShadingStyle& style() const { return mStyle; }
 
-    /// What the picture needs now, most urgent first.
+    /// What the picture needs now, most urgent first. Shades that are wanted no longer and not yet
+    /// begun are dropped.
     void want(const std::vector<TileAddress>& tiles);
     void forget(const TileAddress& tile) { mAsked.erase(tile); }
-    [[nodiscard]] int loading() const { return mRunning; }
+    [[nodiscard]] int loading() const { return mRunning + static_cast<int>(mQueue.size()); }
     /// Null images are for tiles without terrain.
     std::vector<Picture> takeArrived() { return std::exchange(mArrived, {}); }
 
@@ -43,11 +44,13 @@ signals:
 
 private:
     void restart();
+    void startNext();
 
     QThreadPool mThread;
     std::shared_ptr<TerrainStore> mTerrain; ///< only used on the thread
     ShadingStyle mStyle;
-    std::set<TileAddress> mAsked;
+    std::vector<TileAddress> mQueue; ///< most urgent last
+    std::set<TileAddress> mAsked;    ///< being computed, or computed and not forgotten
     std::vector<Picture> mArrived;
     int mRunning = 0;
     int mGeneration = 0; ///< results of older ones are void

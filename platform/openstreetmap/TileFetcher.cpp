@@ -107,6 +107,9 @@ void TileFetcher::start(const Request& request)
     QNetworkRequest network(url);
     network.setMaximumRedirectsAllowed(kMostRedirects);
     network.setHeader(QNetworkRequest::UserAgentHeader, mUserAgent);
+    // Pictures are compressed already. Asked for like this, nothing is inflated on the way, which
+    // would get past the limit of bytes.
+    network.setRawHeader("Accept-Encoding", "identity");
     if (!request.known.entityTag.isEmpty()) {
         network.setRawHeader("If-None-Match", request.known.entityTag);
     } else if (!request.known.lastModified.isEmpty()) {

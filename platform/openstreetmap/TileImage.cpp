@@ -10,6 +10,8 @@ namespace OpenStreet {
 namespace {
 
 constexpr int kLargestSide = 1024;
+/// Of a decoded picture: hundreds are kept, and no more pixels reach the screen.
+constexpr int kLargestKept = 512;
 
 /// Readers give what they have of a file that is cut off. Its end tells.
 bool isWhole(const QByteArray& data, const QByteArray& format)
@@ -39,6 +41,9 @@ QImage decodeTile(const QByteArray& data)
     if (!known.contains(format) || size.isEmpty() ||
         std::max(size.width(), size.height()) > kLargestSide || !isWhole(data, format)) {
         return {};
+    }
+    if (std::max(size.width(), size.height()) > kLargestKept) {
+        reader.setScaledSize(size.scaled(kLargestKept, kLargestKept, Qt::KeepAspectRatio));
     }
     return reader.read().convertToFormat(QImage::Format_RGBA8888_Premultiplied);
 }

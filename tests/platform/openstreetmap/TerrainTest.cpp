@@ -1,7 +1,10 @@
 #include "platform/openstreetmap/CoastLines.h"
 #include "platform/openstreetmap/HillShading.h"
+#include "platform/openstreetmap/ShadeSource.h"
 #include "platform/openstreetmap/TerrainStore.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtEndian>
@@ -138,6 +141,28 @@ QByteArray coast(const std::vector<std::pair<int, int>>& points)
         append(latitude);
     }
     return bytes;
+}
+
+TEST(ShadeSourceTest, WhatHasLeftTheViewIsNotComputed)
+{
+    std::vector<TileAddress> tiles;
+    for (int x = 0; x < 50; ++x) {
+        tiles.push_back({11, 1000 + x, 700});
+    }
+    ShadeSource source;
+    source.want(tiles);
+    EXPECT_EQ(source.loading(), 50);
+    const TileAddress elsewhere{11, 300, 300};
+    source.want({elsewhere});
+    EXPECT_LE(source.loading(), 2) << "the one that was begun, and the new one";
+    QElapsedTimer clock;
+    clock.start();
+    while (source.loading() > 0 && clock.elapsed() < 5000) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+    }
+    const auto arrived = source.takeArrived();
+    ASSERT_FALSE(arrived.empty());
+    EXPECT_EQ(arrived.back().first.x, elsewhere.x);
 }
 
 TEST(CoastLinesTest, OnlyWhatTheWindowShowsIsDrawn)

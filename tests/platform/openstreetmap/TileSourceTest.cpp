@@ -70,6 +70,7 @@ TEST_F(TileSourceTest, TilesComeFromTheServerOnceAndThenFromTheDisk)
     EXPECT_EQ(mPictures[tiles[1]].front().pixelColor(99, 99), TileServer::tileColor(4, 9, 5));
     EXPECT_EQ(mServer.requests(), 2);
     EXPECT_EQ(mServer.header("user-agent"), QByteArray("Tester/1.0"));
+    EXPECT_EQ(mServer.header("accept-encoding"), QByteArray("identity"));
     EXPECT_TRUE(QFileInfo::exists(mDir.filePath(QStringLiteral("4/8/5.png"))));
 
     mPictures.clear();

@@ -4,6 +4,7 @@
 #include "platform/openstreetmap/TileImage.h"
 #include "tests/support/TileServer.h"
 
+#include <QBuffer>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -158,6 +159,12 @@ TEST(TileImageTest, TakesPicturesOfTilesAndNothingElse)
         EXPECT_TRUE(decodeTile(bad).isNull()) << bad.size();
     }
     decodeTile(flipped); // must only survive
+
+    QByteArray large;
+    QBuffer buffer(&large);
+    buffer.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(image.scaled(1024, 1024).save(&buffer, "PNG"));
+    EXPECT_EQ(decodeTile(large).size(), QSize(512, 512)) << "hundreds of them are kept";
 }
 
 } // namespace
