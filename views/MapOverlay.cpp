@@ -80,8 +80,7 @@ void MapOverlay::panel(GlHandler& gl, const QRectF& area)
 void MapOverlay::paint(GlHandler& gl, const QSize& pixels, const Content& content)
 {
     mPixels = pixels;
-    const double left = paintAttribution(gl);
-    const double free = paintScale(gl, content, left);
+    const double free = paintScale(gl, content, paintAttribution(gl));
     if (content.legend != nullptr) {
         paintLegend(gl, *content.legend, free);
     }
@@ -90,29 +89,42 @@ void MapOverlay::paint(GlHandler& gl, const QSize& pixels, const Content& conten
     }
 }
 
-/// Returns where its ground begins.
-double MapOverlay::paintAttribution(GlHandler& gl)
+/// In two lines where the window is too narrow for one: all of it must be seen. Returns its ground.
+QRectF MapOverlay::paintAttribution(GlHandler& gl)
 {
     const QString text = QString::fromLatin1(MapTexts::kAttribution);
-    const double x = std::floor(mPixels.width() - mFont.width(text) - kEdge * mRatio);
-    const double y = std::floor(mPixels.height() - mFont.height() - kEdge * mRatio);
-    const double ground = x - kPadding * mRatio;
-    panel(gl, QRectF(QPointF(ground, y - kPadding * mRatio),
-                     QPointF(mPixels.width(), mPixels.height())));
-    mFont.render(gl, x, y, text);
+    const double right = mPixels.width() - kEdge * mRatio;
+    QStringList lines{text};
+    if (mFont.width(text) > right) {
+        const int blank = text.lastIndexOf(QLatin1Char(' '));
+        lines = QStringList{text.left(blank), text.mid(blank + 1)};
+    }
+    double width = 0.0;
+    for (const QString& line : lines) {
+        width = std::max(width, mFont.width(line));
+    }
+    double y = std::floor(mPixels.height() - lines.size() * mFont.height() - kEdge * mRatio);
+    const QRectF ground(
+        QPointF(std::floor(right - width) - kPadding * mRatio, y - kPadding * mRatio),
+        QPointF(mPixels.width(), mPixels.height()));
+    panel(gl, ground);
+    for (const QString& line : lines) {
+        mFont.render(gl, std::floor(right - mFont.width(line)), y, line);
+        y += mFont.height();
+    }
     return ground;
 }
 
-/// Beside the attribution, which starts at `left`, or above it where that leaves no room. Returns
-/// the lower end of what is free on the right.
-double MapOverlay::paintScale(GlHandler& gl, const Content& content, double left)
+/// Beside the attribution, or above it where that leaves no room. Returns the lower end of what is
+/// free on the right.
+double MapOverlay::paintScale(GlHandler& gl, const Content& content, const QRectF& attribution)
 {
     const double edge = kEdge * mRatio;
     const double padding = kPadding * mRatio;
     const double width = std::max(content.scalePixels, mFont.width(content.scale.text));
     const double height = mFont.height() + padding;
-    const bool beside = edge + width + 3.0 * padding < left;
-    const double row = mPixels.height() - mFont.height() - edge - padding;
+    const bool beside = edge + width + 3.0 * padding < attribution.left();
+    const double row = attribution.top();
     const double bottom = beside ? mPixels.height() - edge : row - edge;
     if (content.scalePixels > 0.0) {
         const QRectF area(edge, std::floor(bottom - height - padding), width + 2.0 * padding,

@@ -5,6 +5,7 @@
 #include "views/MapTexts.h"
 
 #include <QPointF>
+#include <QRectF>
 #include <QSize>
 #include <QStringList>
 
@@ -44,8 +45,9 @@ private:
     void fill(Tessel::OpenGL::GlHandler& gl, const QRectF& area,
               const Tessel::OpenGL::Color& color);
     void panel(Tessel::OpenGL::GlHandler& gl, const QRectF& area);
-    double paintAttribution(Tessel::OpenGL::GlHandler& gl);
-    double paintScale(Tessel::OpenGL::GlHandler& gl, const Content& content, double left);
+    QRectF paintAttribution(Tessel::OpenGL::GlHandler& gl);
+    double paintScale(Tessel::OpenGL::GlHandler& gl, const Content& content,
+                      const QRectF& attribution);
     void paintLegend(Tessel::OpenGL::GlHandler& gl, const MapColoring& legend, double bottom);
     void paintReadout(Tessel::OpenGL::GlHandler& gl, const Content& content);
 

@@ -126,6 +126,7 @@ void WidgetMap::adoptRatio()
 void WidgetMap::initializeGL()
 {
     setUpMap();
+    mRatio = 0.0; // a new context has nothing yet
     adoptRatio();
     // A widget that moves to another window gets a new context.
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &WidgetMap::releaseGl);

@@ -321,6 +321,11 @@ void WidgetMap::keyReleaseEvent(QKeyEvent* event)
     if (event->isAutoRepeat()) {
         return;
     }
+    if (event->key() == Qt::Key_Shift) {
+        // A sign typed with Shift may be released as another one, and would stay down.
+        mKeys.zoomIn = false;
+        mKeys.zoomOut = false;
+    }
     if (bool* flag = mKeys.flag(event->key())) {
         *flag = false;
     } else {

@@ -40,6 +40,9 @@ TextureFont::~TextureFont()
 bool TextureFont::load(const void* data, std::size_t bytes, const std::string& name, int pixelSize)
 {
     mName = name;
+    if (mFontId >= 0) {
+        QFontDatabase::removeApplicationFont(mFontId);
+    }
     mFontId = QFontDatabase::addApplicationFontFromData(
         QByteArray(static_cast<const char*>(data), static_cast<int>(bytes)));
     const QStringList families = QFontDatabase::applicationFontFamilies(mFontId);

@@ -262,6 +262,16 @@ TEST_F(WidgetMapTest, KeysActWhileTheyAreHeld)
     EXPECT_LT(context().visibleRange, before.visibleRange / 1.06);
     EXPECT_GT(context().centreLatitude, before.centreLatitude);
 
+    // A plus sign above another key: Shift is let go first.
+    QTest::keyPress(&map(), Qt::Key_Shift);
+    QTest::keyPress(&map(), Qt::Key_Plus, Qt::ShiftModifier);
+    QTest::keyRelease(&map(), Qt::Key_Shift);
+    QTest::keyRelease(&map(), Qt::Key_Equal);
+    map().grabFramebuffer();
+    const double released = context().visibleRange;
+    map().grabFramebuffer();
+    EXPECT_EQ(context().visibleRange, released);
+
     const bool shading = context().shading;
     QTest::keyClick(&map(), Qt::Key_S, Qt::ControlModifier);
     EXPECT_NE(context().shading, shading);
@@ -330,6 +340,17 @@ TEST_F(WidgetMapTest, TilesArriveUnderAttributionAndPath)
         }
     }
     EXPECT_GT(dark, 500);
+
+    view->resize(200, 400);
+    const QImage narrow = map().grabFramebuffer();
+    int first = narrow.width();
+    for (int x = 0; x < narrow.width(); ++x) {
+        for (int y = narrow.height() - 38; y < narrow.height() - 24; ++y) {
+            first = qGray(narrow.pixel(x, y)) < 70 ? std::min(first, x) : first; // no tile's
+        }
+    }
+    EXPECT_GT(first, 20) << "the upper of two lines begins in sight";
+    EXPECT_LT(first, 100);
 }
 
 TEST_F(WidgetMapTest, ShowsValuesAtTheCursorAndSaysWhatIsMissing)
