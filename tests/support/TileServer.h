@@ -71,15 +71,15 @@ public:
     {
         return QColor(40 + zoom * 10 % 200, 40 + x * 53 % 200, 40 + y * 31 % 200);
     }
+    /// Made once: packing a picture takes longer than all that is done with it.
     static QByteArray tile(int zoom, int x, int y)
     {
-        QImage image(256, 256, QImage::Format_RGB32);
-        image.fill(tileColor(zoom, x, y));
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, "PNG");
-        return bytes;
+        static std::map<QRgb, QByteArray> made;
+        QByteArray& known = made[tileColor(zoom, x, y).rgb()];
+        if (known.isEmpty()) {
+            known = makeTile(zoom, x, y);
+        }
+        return known;
     }
 
     /// A tile whose head says, in due form, that it is a picture of 30,000 x 30,000.
@@ -101,6 +101,17 @@ public:
     }
 
 private:
+    static QByteArray makeTile(int zoom, int x, int y)
+    {
+        QImage image(256, 256, QImage::Format_RGB32);
+        image.fill(tileColor(zoom, x, y));
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, "PNG");
+        return bytes;
+    }
+
     void read(QTcpSocket& socket)
     {
         QByteArray& text = mText[&socket];
