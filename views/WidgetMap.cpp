@@ -27,8 +27,9 @@ namespace {
 constexpr int kPeriod = 20;       // ms
 constexpr int kResizeDelay = 100; // ms
 constexpr double kLongest = 1.0;  // s without a repaint
-/// The same while tiles are to come: what has come is told at once, so this is for all else.
-constexpr double kLongestLoading = 0.1;
+/// The same while tiles come: with a picture for each of them most of the time would go into
+/// pictures.
+constexpr double kLongestLoading = 0.08;
 constexpr int kLeastSize = 100;
 constexpr int kDefaultCacheLimit = 500; // MB
 constexpr int kLabelPixels = 11;
@@ -101,7 +102,7 @@ void WidgetMap::setUpMap()
     mTakenSettings = MapSettings::read(mSettings);
     mMap->setTileServer(mTakenSettings.tileServer.c_str());
     static_cast<void>(mMap->setCoastLines(":/map/coast.bin")); // without them there is the grid
-    mMap->setArrivedCallback([this] { mDirty = true; });
+    mMap->setArrivedCallback([this] { mLoading = true; });
 }
 
 /// Not before the widget has a screen; another screen may have another ratio.

@@ -192,7 +192,7 @@ private:
     QTimer mResizeTimer;
     bool mResized = false;
     bool mDirty = true;
-    bool mLoading = false;     ///< tiles were still to come with the last picture
+    bool mLoading = false;     ///< tiles have come since the last picture or are to come
     double mLastRepaint = 0.0; ///< s
     double mRatio = 0.0;       ///< pixels of the frame buffer per logical pixel; 0: not known yet
     unsigned int mPaintCount = 0;
