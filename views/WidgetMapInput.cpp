@@ -111,7 +111,11 @@ void WidgetMap::mousePressEvent(QMouseEvent* event)
 void WidgetMap::mouseMoveEvent(QMouseEvent* event)
 {
     setMouse(event->localPos());
-    if (!mPress || !event->buttons().testFlag(Qt::LeftButton)) {
+    if (!event->buttons().testFlag(Qt::LeftButton)) {
+        mPress.reset(); // the release may have gone elsewhere
+        mContext->dragging = false;
+    }
+    if (!mPress) {
         return;
     }
     const bool far = (event->localPos() - *mPress).manhattanLength() >= kDragPixels;
@@ -173,7 +177,8 @@ void WidgetMap::wheelEvent(QWheelEvent* event)
 /// Two fingers on a touch pad.
 void WidgetMap::panByWheel(const QWheelEvent& event)
 {
-    mContext->panning = event.phase() != Qt::ScrollEnd;
+    // Without phases nothing would tell that it is over.
+    mContext->panning = event.phase() != Qt::ScrollEnd && event.phase() != Qt::NoScrollPhase;
     if (event.pixelDelta().isNull()) {
         return;
     }
