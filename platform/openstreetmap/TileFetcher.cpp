@@ -140,6 +140,7 @@ void TileFetcher::finish(const Request& request, QNetworkReply& reply)
                  expiryOf(reply.rawHeader("Cache-Control"), reply.rawHeader("Expires"), seconds));
     freshness.entityTag = reply.rawHeader("ETag");
     freshness.lastModified = reply.rawHeader("Last-Modified");
+    freshness.server = mServer.toUtf8();
     if (reply.error() == QNetworkReply::NoError && status == kNotModified) {
         if (freshness.entityTag.isEmpty()) {
             freshness.entityTag = request.known.entityTag;

@@ -35,6 +35,7 @@ public:
 
     /// Running requests to another server are dropped.
     void setServer(const QString& server);
+    [[nodiscard]] const QString& server() const { return mServer; }
     void setUserAgent(const QByteArray& agent) { mUserAgent = agent; }
 
     /// The tiles that are wanted from now on, most urgent first. What was asked for and is wanted

@@ -12,6 +12,7 @@ struct TileFreshness
     std::int64_t expires = 0; ///< seconds since 1970 in UTC
     QByteArray entityTag;     ///< as the server sent it; may be empty
     QByteArray lastModified;  ///< likewise
+    QByteArray server = {};   ///< address that it came from; empty: unknown
 
     friend bool operator==(const TileFreshness&, const TileFreshness&) = default;
 };

@@ -42,6 +42,28 @@ TileSource::~TileSource()
     mCaretaker.waitForDone();
 }
 
+void TileSource::setServer(const QString& server)
+{
+    mFetcher.setServer(server);
+    for (auto& [tile, entry] : mEntries) {
+        if (entry.state == State::Fresh || entry.state == State::Old) {
+            entry = entryOf(entry.freshness);
+        }
+    }
+}
+
+/// Of a picture that is there. What another server said of its own holds nothing for this one's.
+TileSource::Entry TileSource::entryOf(const TileFreshness& freshness) const
+{
+    const QByteArray server = mFetcher.server().toUtf8();
+    const bool isForeign =
+        !freshness.server.isEmpty() && !server.isEmpty() && freshness.server != server;
+    if (isForeign) {
+        return {State::Old, {}};
+    }
+    return {isFresh(freshness) ? State::Fresh : State::Old, freshness};
+}
+
 void TileSource::setFolder(const QString& folder)
 {
     mStore = std::make_shared<const TileStore>(folder);
@@ -151,7 +173,7 @@ void TileSource::takeRead(const TileAddress& tile, const ReadTile& result)
     if (!result.found) {
         entry->second = {State::Missing, {}};
     } else {
-        entry->second = {isFresh(result.freshness) ? State::Fresh : State::Old, result.freshness};
+        entry->second = entryOf(result.freshness);
         mArrived.emplace_back(tile, result.picture);
     }
     mUnasked += entry->second.state == State::Fresh ? 0 : 1;
@@ -186,7 +208,7 @@ void TileSource::takeDecoded(const TileAddress& tile, const QImage& picture,
         mEntries.erase(tile); // perhaps there is an old one on the disk
     } else {
         mFetcher.accept(tile);
-        mEntries[tile] = {State::Fresh, freshness};
+        mEntries[tile] = entryOf(freshness);
         mArrived.emplace_back(tile, picture);
     }
     emit arrived();

@@ -33,7 +33,8 @@ public:
     explicit TileSource(QObject* parent = nullptr);
     ~TileSource() override;
 
-    void setServer(const QString& server) { mFetcher.setServer(server); }
+    /// Tiles of another server are shown until this one has sent its own.
+    void setServer(const QString& server);
     void setUserAgent(const QByteArray& agent) { mFetcher.setUserAgent(agent); }
     /// Pictures of another folder that are there already stay.
     void setFolder(const QString& folder);
@@ -70,6 +71,7 @@ private:
         TileFreshness freshness;
     };
 
+    [[nodiscard]] Entry entryOf(const TileFreshness& freshness) const;
     void read(const TileAddress& tile);
     void takeRead(const TileAddress& tile, const ReadTile& result);
     void takeFetched(const TileAddress& tile, const QByteArray& picture,

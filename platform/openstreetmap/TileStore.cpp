@@ -33,7 +33,7 @@ bool writeFile(const QString& path, const QByteArray& content)
            file.commit();
 }
 
-/// Three lines: expiry, entity tag, time of change.
+/// Four lines: expiry, entity tag, time of change, server.
 TileFreshness parseMeta(const QByteArray& text)
 {
     const QList<QByteArray> lines = text.split('\n');
@@ -41,6 +41,7 @@ TileFreshness parseMeta(const QByteArray& text)
     result.expires = lines.value(0).toLongLong();
     result.entityTag = lines.value(1);
     result.lastModified = lines.value(2);
+    result.server = lines.value(3);
     return result;
 }
 
@@ -113,7 +114,7 @@ bool TileStore::writeMeta(const TileAddress& tile, const TileFreshness& freshnes
     return writeFile(path(tile, kMeta),
                      QByteArray::number(static_cast<qlonglong>(freshness.expires)) + '\n' +
                          oneLine(freshness.entityTag) + '\n' + oneLine(freshness.lastModified) +
-                         '\n');
+                         '\n' + oneLine(freshness.server) + '\n');
 }
 
 void TileStore::markUsed(const TileAddress& tile) const

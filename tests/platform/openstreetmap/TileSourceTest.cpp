@@ -128,6 +128,24 @@ TEST_F(TileSourceTest, AnOldTileIsShownWhileTheServerIsAsked)
     EXPECT_EQ(store.read(tile)->freshness.entityTag, QByteArray("\"v2\""));
 }
 
+TEST_F(TileSourceTest, TilesOfAnotherServerAreShownUntilThisOneSendsItsOwn)
+{
+    const TileAddress tile{4, 8, 5};
+    settle(mSource, {tile});
+    TileServer other;
+    mSource.setServer(other.url());
+    settle(mSource, {tile});
+    EXPECT_EQ(other.requests(), 1);
+
+    mPictures.clear();
+    TileSource later;
+    later.setFolder(mDir.path());
+    later.setServer(mServer.url());
+    settle(later, {tile});
+    EXPECT_EQ(mPictures[tile].size(), 2U) << "what is on disk, then its own";
+    EXPECT_EQ(mServer.requests(), 2);
+}
+
 TEST_F(TileSourceTest, AServerThatForbidsKeepingIsNotAskedWithEveryPicture)
 {
     mServer.setHeaders({"Cache-Control: no-store"});
