@@ -2,7 +2,6 @@
 
 #include "platform/openstreetmap/Graticule.h"
 #include "platform/tessel/Gl.h"
-#include "platform/tessel/Texture.h"
 
 #include <algorithm>
 
@@ -38,6 +37,20 @@ void MapPainter::begin(const MapProjection& projection)
         mGl.matrices().setOrtho(0.0, projection.windowWidth(), projection.windowHeight(), 0.0));
     glDisable(GL_DEPTH_TEST);
     glDisable(GL_BLEND);
+    prepareTextures();
+}
+
+/// Drivers compile a program for what it draws when it first draws it, which takes them tens of
+/// milliseconds: better with the first picture than in the middle of a drag.
+void MapPainter::prepareTextures()
+{
+    if (!mPrepared) {
+        mPrepared = true;
+        QImage nothing(1, 1, QImage::Format_RGBA8888_Premultiplied);
+        nothing.fill(Qt::transparent);
+        mFirst.setImage(nothing);
+        mFirst.render(mGl, 0.0, 0.0, 1.0, 1.0);
+    }
 }
 
 void MapPainter::drawOutline(const MapProjection& projection)
@@ -162,6 +175,8 @@ void MapPainter::release()
 {
     mTiles.clear();
     mShades.clear();
+    mFirst.release();
+    mPrepared = false;
     mFont.release();
     mGrid.release();
     mCoastLines.release();

@@ -6,6 +6,7 @@
 #include "platform/openstreetmap/TileView.h"
 #include "platform/tessel/GlHandler.h"
 #include "platform/tessel/Lines.h"
+#include "platform/tessel/Texture.h"
 #include "platform/tessel/TextureFont.h"
 
 #include <vector>
@@ -37,12 +38,15 @@ public:
 private:
     bool drawAncestor(TileTextures& textures, const PlacedTile& tile,
                       const Tessel::OpenGL::Color& color);
+    void prepareTextures();
     void drawDescendants(const PlacedTile& tile, int levels, const Tessel::OpenGL::Color& color);
 
     Tessel::OpenGL::GlHandler mGl;
     TileTextures mTiles;
     TileTextures mShades;
     CoastLines mCoast;
+    Tessel::OpenGL::Texture mFirst; ///< drawn once, see prepareTextures()
+    bool mPrepared = false;
     Tessel::OpenGL::TextureFont mFont;
     Tessel::OpenGL::Lines mGrid;
     Tessel::OpenGL::Lines mCoastLines;

@@ -45,7 +45,10 @@ QImage decodeTile(const QByteArray& data)
     if (std::max(size.width(), size.height()) > kLargestKept) {
         reader.setScaledSize(size.scaled(kLargestKept, kLargestKept, Qt::KeepAspectRatio));
     }
-    return reader.read().convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+    // As the graphics system takes it, so that nothing is left to do on the way to the screen.
+    const QImage image = reader.read();
+    return image.convertToFormat(image.hasAlphaChannel() ? QImage::Format_RGBA8888_Premultiplied
+                                                         : QImage::Format_RGBX8888);
 }
 
 } // namespace OpenStreet

@@ -7,6 +7,7 @@
 #include "platform/tessel/GlHandler.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace Tessel::OpenGL {
 
@@ -39,7 +40,9 @@ void Texture::setImage(const QImage& image)
 {
     mWidth = image.width();
     mHeight = image.height();
-    mPending = image.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+    mOpaque = !image.hasAlphaChannel();
+    mPending = image.convertToFormat(mOpaque ? QImage::Format_RGBX8888
+                                             : QImage::Format_RGBA8888_Premultiplied);
 }
 
 void Texture::render(GlHandler& gl, double x, double y, double width, double height)
@@ -64,7 +67,10 @@ void Texture::renderPart(GlHandler& gl, double x, double y, double width, double
     mBuffer.invalidate();
     mBuffer.bind(mVertices.data(), sizeof(mVertices));
     if (gl.textures().begin(gl.matrices(), mColor, TextureProgram::Content::Picture)) {
-        const Blending blending(Blending::Colors::Premultiplied);
+        std::optional<Blending> blending;
+        if (!mOpaque || mColor.alpha < 1.0F) { // it costs software drivers as much as the drawing
+            blending.emplace(Blending::Colors::Premultiplied);
+        }
         glDrawArrays(GL_TRIANGLE_STRIP, 0, static_cast<GLsizei>(mVertices.size()));
         TextureProgram::end();
     }

@@ -48,6 +48,7 @@ private:
     QImage mPending; ///< not handed over yet
     int mWidth = 0;
     int mHeight = 0;
+    bool mOpaque = false;
     unsigned int mTexture = 0;
     GlBuffer mBuffer;
     std::array<TextureProgram::Vertex, 4> mVertices;
