@@ -18,7 +18,7 @@ constexpr int kTimeout = 15000; ///< ms without any progress
 constexpr int kMostRedirects = 4;
 /// Seconds before a tile is asked for again, whatever the server allows: the map asks with every
 /// picture.
-constexpr std::int64_t kShortestLifetime = 600;
+constexpr std::int64_t kShortestLifetime = 60;
 constexpr int kOk = 200;
 constexpr int kNotModified = 304;
 
