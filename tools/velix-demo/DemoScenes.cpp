@@ -51,6 +51,8 @@ const std::vector<DemoScene>& demoScenes()
         {"limit", "Limits and warnings", nullptr, "viewLimit"},
         {"warning", "Warning lamps", nullptr, "viewWarning"},
         {"instrument", "EMU View: the engine's own display", nullptr, "viewInstrument"},
+        {"map", "Map: flight path and aircraft beside the table",
+         [](DemoStage& stage) { return stage.click("buttonMap1"); }, "viewTable"},
     };
     return scenes;
 }
