@@ -18,7 +18,7 @@ class ProfileInstallTest : public ::testing::Test
 protected:
     QString chosen(const QByteArray& text) const
     {
-        const QString path = program.home.filePath(QStringLiteral("chosen.xml"));
+        QString path = program.home.filePath(QStringLiteral("chosen.xml"));
         EXPECT_TRUE(TestProgram::write(path, text));
         return path;
     }

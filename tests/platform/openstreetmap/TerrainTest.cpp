@@ -146,6 +146,7 @@ QByteArray coast(const std::vector<std::pair<int, int>>& points)
 TEST(ShadeSourceTest, WhatHasLeftTheViewIsNotComputed)
 {
     std::vector<TileAddress> tiles;
+    tiles.reserve(50);
     for (int x = 0; x < 50; ++x) {
         tiles.push_back({11, 1000 + x, 700});
     }
