@@ -141,6 +141,7 @@ TEST(MapPathTest, FindsTheNearestPlaceAcrossTheAntimeridian)
     EXPECT_FALSE(MapPath().nearest(0.0, 0.0, 1e9));
 
     std::vector<FlightPathPoint> longPath;
+    longPath.reserve(1000);
     for (int i = 0; i < 1000; ++i) {
         longPath.push_back(at(i, 47.0 + i * 0.001, 8.0));
     }
