@@ -2,7 +2,6 @@
 
 #include "card/DecodingOrder.h"
 #include "card/RecordData.h"
-#include "core/Diagnostics.h"
 #include "export/ExportMeter.h"
 #include "export/OutputFile.h"
 #include "profile/Profile.h"
@@ -268,21 +267,10 @@ bool ExportCsv::writeTable(const RecordData& record, const CsvExportOptions& opt
 
 int ExportCsv::exportData(const RecordData& record, const CsvExportOptions& options)
 {
-    const QString path = QString::fromStdString(options.directory) + QLatin1Char('/') +
-                         QString::fromStdString(options.fileName);
     mCancelled = false;
-    mLastError =
-        writeOutputFile(path, [&](QIODevice& out) { return writeTable(record, options, out); });
-    if (mCancelled) {
-        mLastError.clear();
-        return 0;
-    }
-    if (!mLastError.isEmpty()) {
-        Diagnostics::print("could not write file <%s>: %s\n", path.toUtf8().constData(),
-                           mLastError.toUtf8().constData());
-        return 0;
-    }
-    return 1;
+    return writeExport(
+        options.directory, options.fileName,
+        [&](QIODevice& out) { return writeTable(record, options, out); }, mCancelled, mLastError);
 }
 
 std::size_t ExportCsv::rows(const RecordData& record, const CsvExportOptions& options) const

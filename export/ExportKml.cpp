@@ -3,7 +3,6 @@
 #include "card/CardContainer.h"
 #include "card/DecodingOrder.h"
 #include "card/RecordData.h"
-#include "core/Diagnostics.h"
 #include "core/Truncate.h"
 #include "export/ExportMeter.h"
 #include "export/KmlDocument.h"
@@ -232,21 +231,11 @@ bool ExportKml::writeDocument(const RecordData& record, const KmlExportOptions& 
 
 int ExportKml::exportData(const RecordData& record, const KmlExportOptions& options)
 {
-    const QString path = QString::fromStdString(options.directory) + QLatin1Char('/') +
-                         QString::fromStdString(options.fileName);
     mCancelled = false;
-    mLastError =
-        writeOutputFile(path, [&](QIODevice& out) { return writeDocument(record, options, out); });
-    if (mCancelled) {
-        mLastError.clear();
-        return 0;
-    }
-    if (!mLastError.isEmpty()) {
-        Diagnostics::print("could not write file <%s>: %s\n", path.toUtf8().constData(),
-                           mLastError.toUtf8().constData());
-        return 0;
-    }
-    return 1;
+    return writeExport(
+        options.directory, options.fileName,
+        [&](QIODevice& out) { return writeDocument(record, options, out); }, mCancelled,
+        mLastError);
 }
 
 KmlSummary ExportKml::summary(const RecordData& record, const KmlExportOptions& options)

@@ -1,5 +1,7 @@
 #include "export/OutputFile.h"
 
+#include "core/Diagnostics.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -44,6 +46,24 @@ QString writeOutputFile(const QString& path, const std::function<bool(QIODevice&
         return why;
     }
     return file.commit() ? QString() : reason(file);
+}
+
+int writeExport(const std::string& directory, const std::string& fileName,
+                const std::function<bool(QIODevice&)>& fill, const bool& cancelled, QString& error)
+{
+    const QString path =
+        QString::fromStdString(directory) + QLatin1Char('/') + QString::fromStdString(fileName);
+    error = writeOutputFile(path, fill);
+    if (cancelled) {
+        error.clear();
+        return 0;
+    }
+    if (!error.isEmpty()) {
+        Diagnostics::print("could not write file <%s>: %s\n", path.toUtf8().constData(),
+                           error.toUtf8().constData());
+        return 0;
+    }
+    return 1;
 }
 
 } // namespace VELIX

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <functional>
+#include <string>
 
 class QIODevice;
 
@@ -16,5 +17,11 @@ namespace VELIX {
 /// failure; none if everything was written.
 [[nodiscard]] QString writeOutputFile(const QString& path,
                                       const std::function<bool(QIODevice&)>& fill);
+
+/// Writes an export's file and says on failure why, in `error` and to the diagnostics. 1 if it was
+/// written, else 0; if `fill` cancelled itself, which `cancelled` tells then, without a reason.
+[[nodiscard]] int writeExport(const std::string& directory, const std::string& fileName,
+                              const std::function<bool(QIODevice&)>& fill, const bool& cancelled,
+                              QString& error);
 
 } // namespace VELIX
