@@ -167,7 +167,7 @@ void WidgetMap::wheelEvent(QWheelEvent* event)
     Diagnostics::print("wheelEvent inverted %d\n", event->inverted() ? 1 : 0);
     if (event->source() == Qt::MouseEventSynthesizedBySystem) {
         panByWheel(*event);
-    } else if (event->angleDelta().y() != 0) { // a wheel that tilts sideways means no zoom
+    } else {
         zoomAbout(event->position(),
                   MapNavigation::wheelZoomed(mContext->visibleRange, event->angleDelta().y()));
     }

@@ -107,20 +107,16 @@ bool MapPainter::covers(const std::vector<PlacedTile>& tiles) const
     });
 }
 
-bool MapPainter::drawTiles(const std::vector<PlacedTile>& tiles, double brightness)
+void MapPainter::drawTiles(const std::vector<PlacedTile>& tiles, double brightness)
 {
     const float light = toFloat(std::clamp(brightness, 0.0, 1.0));
     const Color color{light, light, light, 1.0F};
-    bool whole = true;
     for (const PlacedTile& placed : tiles) {
-        if (!drawAncestor(mTiles, placed, color)) {
-            whole = false;
-        }
+        drawAncestor(mTiles, placed, color);
         if (!mTiles.has(placed.address)) {
             drawDescendants(placed, kMostDescendants, color);
         }
     }
-    return whole;
 }
 
 void MapPainter::drawShades(const std::vector<PlacedTile>& tiles)

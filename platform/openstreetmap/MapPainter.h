@@ -27,8 +27,8 @@ public:
     void begin(const MapProjection& projection);
     /// Ground, graticule and coasts.
     void drawOutline(const MapProjection& projection);
-    /// Each tile itself, or what stands in for it. False if there is a hole.
-    bool drawTiles(const std::vector<PlacedTile>& tiles, double brightness);
+    /// Each tile itself, or what stands in for it.
+    void drawTiles(const std::vector<PlacedTile>& tiles, double brightness);
     void drawShades(const std::vector<PlacedTile>& tiles);
     /// Whether each tile is there itself or in an ancestor.
     [[nodiscard]] bool covers(const std::vector<PlacedTile>& tiles) const;

@@ -62,11 +62,6 @@ double TextureFont::height() const
     return QFontMetricsF(mFont).height();
 }
 
-double TextureFont::ascent() const
-{
-    return QFontMetricsF(mFont).ascent();
-}
-
 void TextureFont::render(GlHandler& gl, double x, double y, const QString& text)
 {
     mVertices.clear();

@@ -39,7 +39,6 @@ public:
     /// In pixels.
     [[nodiscard]] double width(const QString& text) const;
     [[nodiscard]] double height() const;
-    [[nodiscard]] double ascent() const;
 
     /// One line; its upper left corner is at x, y where y runs downwards.
     void render(GlHandler& gl, double x, double y, const QString& text);
