@@ -3,11 +3,10 @@
 #include "card/CardContainer.h"
 #include "core/DataHandler.h"
 #include "core/Property.h"
-#include "gui/ImageHandler.h"
 #include "gui/StandardDialogs.h"
-#include "gui/WidgetHint.h"
 #include "platform/tessel/Timer.h"
 #include "views/CursorTime.h"
+#include "views/DataPages.h"
 #include "views/DialogDataErrorMatrix.h"
 #include "views/DialogDataGraph.h"
 #include "views/DialogDataLimit.h"
@@ -16,29 +15,20 @@
 #include "views/DialogDataTable.h"
 #include "views/DialogDataView.h"
 #include "views/DialogDataWarning.h"
+#include "views/MapSplitter.h"
 #include "views/PageTabBar.h"
 #include "views/ReplayControls.h"
 #include "views/ReplayKeys.h"
 
 #include <QApplication>
-#include <QButtonGroup>
-#include <QSplitter>
-#include <QStackedWidget>
 #include <QTime>
-#include <QToolButton>
 #include <QVBoxLayout>
-
-#include <utility>
 
 namespace VELIX {
 
 namespace {
 
 constexpr int kReplayPeriod = 20; // ms
-constexpr int kIconSize = 32;
-
-/// The map buttons' ids.
-enum EMapLayout { eMapHidden = 0, eMapBeside = 1, eMapBelow = 2 };
 
 const DataHandler& pathsWithoutHome()
 {
@@ -73,10 +63,16 @@ DialogData::DialogData(Profile& profile, CardContainer& card, Property& settings
       mClock([watch = Tessel::Misc::Timer()] { return watch.elapsed(); })
 {
     createViews();
+    createPages();
+    auto* row = new QHBoxLayout;
+    row->addWidget(&mPages->tabs(), 1);
+    mSplitter = new MapSplitter(mPages, mMap, *row);
+    mSplitter->setObjectName(QStringLiteral("splitter"));
+    connect(mSplitter, &MapSplitter::signalArrangement, this, &DialogData::slotMapType);
+
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(createTabs());
-    createSplitter();
+    layout->addLayout(row);
     layout->addWidget(mSplitter, 1);
     createControls(emuOnly);
     layout->addWidget(mControls);
@@ -139,71 +135,19 @@ void DialogData::connectViews()
     connect(mWarning, &DialogDataEvents::signalShowInGraph, this, &DialogData::slotShowInGraph);
 }
 
-QBoxLayout* DialogData::createTabs()
+void DialogData::createPages()
 {
-    mStack = new QStackedWidget;
-    mStack->setObjectName(QStringLiteral("viewStack"));
-    mLoading = new WidgetHint(tr("Loading the record ..."), mStack);
-    mLoading->setObjectName(QStringLiteral("hintLoading"));
-    mLoading->setAutoFillBackground(true);
-    mLoading->hide();
-    mTabs = new PageTabBar;
-    mTabs->setObjectName(QStringLiteral("tabBar"));
-    mTabs->setExpanding(false);
-    mTabs->setDrawBase(false);
-    mTabs->setIconSize({kIconSize, kIconSize});
-
-    const auto addPage = [this](const char* icon, const QString& label, QWidget* page) {
-        mTabs->addTab(ImageHandler::instance().icon(QLatin1String(icon)), label);
-        mStack->addWidget(page);
-    };
-    addPage("tab-data", tr("Data"), mTable);
-    addPage("tab-graph", tr("Graph"), mGraph);
-    addPage("tab-fault", tr("Fault Matrix"), mFaultMatrix);
-    addPage("tab-limit", tr("Limit/Warning"), mLimit);
-    addPage("tab-warning", tr("Warning Lamps"), mWarning);
-    addPage("tab-statistic", tr("Tow Statistic"), mStatistic);
-    addPage("tab-view", tr("EMU View"), mInstrument);
-    connect(mTabs, &QTabBar::currentChanged, mStack, &QStackedWidget::setCurrentIndex);
-    connect(mStack, &QStackedWidget::currentChanged, this, &DialogData::signalPageChanged);
-
-    auto* row = new QHBoxLayout;
-    row->addWidget(mTabs, 1);
-    createMapButtons(row);
-    return row;
-}
-
-void DialogData::createMapButtons(QBoxLayout* row)
-{
-    mMapButtons = new QButtonGroup(this);
-    mMapButtons->setExclusive(true);
-    const auto addButton = [&](EMapLayout id, const char* icon, const QString& tip) {
-        auto* button = new QToolButton;
-        button->setObjectName(QStringLiteral("buttonMap%1").arg(id));
-        button->setCheckable(true);
-        button->setAutoRaise(true);
-        button->setIconSize({kIconSize, kIconSize});
-        button->setIcon(ImageHandler::instance().icon(QLatin1String(icon)));
-        button->setToolTip(tip);
-        button->setAccessibleName(tip);
-        mMapButtons->addButton(button, id);
-        row->addWidget(button);
-    };
-    addButton(eMapHidden, "map-none", tr("Hide Map Display"));
-    addButton(eMapBeside, "map-horizontal", tr("Tile Map Display Horizontally"));
-    addButton(eMapBelow, "map-vertical", tr("Tile Map Display Vertically"));
-    mMapButtons->button(eMapBeside)->setChecked(true);
-    connect(mMapButtons, &QButtonGroup::idClicked, this, &DialogData::slotMapType);
-}
-
-void DialogData::createSplitter()
-{
-    mSplitter = new QSplitter(Qt::Horizontal);
-    mSplitter->setObjectName(QStringLiteral("splitter"));
-    mSplitter->addWidget(mStack);
-    mSplitter->addWidget(mMap);
-    mSplitter->setSizes({200, 300});
-    connect(mSplitter, &QSplitter::splitterMoved, this, &DialogData::followSplitter);
+    mPages = new DataPages;
+    mPages->setObjectName(QStringLiteral("viewStack"));
+    mPages->tabs().setObjectName(QStringLiteral("tabBar"));
+    mPages->addPage(mTable, "tab-data", tr("Data"), "table");
+    mPages->addPage(mGraph, "tab-graph", tr("Graph"), "graph");
+    mPages->addPage(mFaultMatrix, "tab-fault", tr("Fault Matrix"), "fault");
+    mPages->addPage(mLimit, "tab-limit", tr("Limit/Warning"), "limit");
+    mPages->addPage(mWarning, "tab-warning", tr("Warning Lamps"), "warning");
+    mPages->addPage(mStatistic, "tab-statistic", tr("Tow Statistic"), "statistic");
+    mPages->addPage(mInstrument, "tab-view", tr("EMU View"), "instrument");
+    connect(mPages, &QStackedWidget::currentChanged, this, &DialogData::signalPageChanged);
 }
 
 void DialogData::createControls(bool emuOnly)
@@ -245,7 +189,7 @@ void DialogData::updateRecord()
     updateDisplay();
     mRoutes.updateRecord(mRecord);
     mRoutes.setTime(ECursorSource::Reload, mClock.cursor());
-    mLoading->hide();
+    mPages->uncover();
 }
 
 void DialogData::releaseRecord()
@@ -253,16 +197,15 @@ void DialogData::releaseRecord()
     mRecord = nullptr; // a running replay waits for the next record
     mRoutes.updateRecord(nullptr);
     // Pages without a record would ask for one that is already on its way.
-    mLoading->setGeometry(mStack->rect());
-    mLoading->raise();
-    mLoading->show();
-    mMap->showHint(tr("Loading the record ..."));
+    const QString sentence = tr("Loading the record ...");
+    mPages->cover(sentence);
+    mMap->showHint(sentence);
 }
 
 void DialogData::closeRecord()
 {
     releaseRecord();
-    mLoading->hide();
+    mPages->uncover();
     mMap->updateRecord(nullptr); // which says so
     mLimit->clear();             // lists wait for a next record with what they show
     mWarning->clear();
@@ -295,22 +238,12 @@ QString DialogData::helpTopic() const
     if (focus != nullptr && (mMap == focus || mMap->isAncestorOf(focus))) {
         return QStringLiteral("map");
     }
-    const QWidget* page = mStack->currentWidget();
-    const std::pair<const QWidget*, const char*> topics[] = {
-        {mTable, "table"},          {mGraph, "graph"},     {mFaultMatrix, "fault"},
-        {mLimit, "limit"},          {mWarning, "warning"}, {mStatistic, "statistic"},
-        {mInstrument, "instrument"}};
-    for (const auto& [view, topic] : topics) {
-        if (view == page) {
-            return QLatin1String(topic);
-        }
-    }
-    return {};
+    return mPages->helpTopic();
 }
 
 const Printable* DialogData::printablePage() const
 {
-    return dynamic_cast<const Printable*>(mStack->currentWidget());
+    return mPages->printable();
 }
 
 void DialogData::setCursor(ECursorSource source, double seconds)
@@ -404,32 +337,13 @@ void DialogData::slotWarningTime(double time)
 /// The graph moves after its tab was chosen: it then has its size.
 void DialogData::slotShowInGraph(double time)
 {
-    mTabs->setCurrentIndex(mStack->indexOf(mGraph));
+    mPages->showPage(mGraph);
     mGraph->showAround(time);
 }
 
 void DialogData::slotMapType(int id)
 {
-    if (id == eMapHidden) {
-        mSplitter->setSizes({100, 0});
-        return;
-    }
-    if (id != eMapBeside && id != eMapBelow) {
-        return;
-    }
-    mSplitter->setOrientation(id == eMapBeside ? Qt::Horizontal : Qt::Vertical);
-    const QList<int> sizes = mSplitter->sizes();
-    if (sizes.contains(0)) {
-        const int half = (sizes[0] + sizes[1]) / 2;
-        mSplitter->setSizes({half, half});
-    }
-}
-
-/// The buttons say what is so, also after the handle was dragged.
-void DialogData::followSplitter()
-{
-    const EMapLayout shown = mSplitter->orientation() == Qt::Horizontal ? eMapBeside : eMapBelow;
-    mMapButtons->button(mSplitter->sizes().last() == 0 ? eMapHidden : shown)->setChecked(true);
+    mSplitter->arrange(id);
 }
 
 void DialogData::updateDisplay()

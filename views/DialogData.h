@@ -6,16 +6,13 @@
 #include <QTimer>
 #include <QWidget>
 
-class QBoxLayout;
-class QButtonGroup;
-class QSplitter;
-class QStackedWidget;
 class QTime;
 class DataHandler;
 
 namespace VELIX {
 
 class CardContainer;
+class DataPages;
 class DialogDataErrorMatrix;
 class DialogDataGraph;
 class DialogDataLimit;
@@ -25,13 +22,12 @@ class DialogDataTable;
 class DialogDataView;
 class DialogDataWarning;
 class DialogService;
-class PageTabBar;
+class MapSplitter;
 class Printable;
 class Profile;
 class Property;
 class ReplayControls;
 class ReplayKeys;
-class WidgetHint;
 
 /// The data window: it hosts all views of the open record, owns the common time cursor and the
 /// replay that moves it, and tells every view of each change.
@@ -94,16 +90,13 @@ private slots:
 private:
     void createViews();
     void connectViews();
-    QBoxLayout* createTabs();
-    void createMapButtons(QBoxLayout* row);
-    void createSplitter();
+    void createPages();
     void createControls(bool emuOnly);
 
     void closeRecord();
     void setCursor(ECursorSource source, double seconds);
     void updateTime();
     void updateDisplay();
-    void followSplitter();
 
     Profile& mProfile;
     CardContainer& mCard;
@@ -116,11 +109,8 @@ private:
 
     QTimer mReplayTimer;
     ReplayKeys* mKeys = nullptr;
-    PageTabBar* mTabs = nullptr;
-    QButtonGroup* mMapButtons = nullptr;
-    QSplitter* mSplitter = nullptr;
-    QStackedWidget* mStack = nullptr;
-    WidgetHint* mLoading = nullptr; ///< lies over the pages between two records
+    DataPages* mPages = nullptr;
+    MapSplitter* mSplitter = nullptr;
     DialogDataTable* mTable = nullptr;
     DialogDataGraph* mGraph = nullptr;
     DialogDataView* mInstrument = nullptr;

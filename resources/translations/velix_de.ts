@@ -266,18 +266,6 @@
         <translation>EMU-Anzeige</translation>
     </message>
     <message>
-        <source>Hide Map Display</source>
-        <translation>Landkarte ausblenden</translation>
-    </message>
-    <message>
-        <source>Tile Map Display Horizontally</source>
-        <translation>Landkarte nebeneinander anordnen</translation>
-    </message>
-    <message>
-        <source>Tile Map Display Vertically</source>
-        <translation>Landkarte untereinander anordnen</translation>
-    </message>
-    <message>
         <source>Loading the record ...</source>
         <translation>Lade die Aufzeichnung ...</translation>
     </message>
@@ -1741,6 +1729,21 @@ Soll sie ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>VELIX::MapSplitter</name>
+    <message>
+        <source>Hide Map Display</source>
+        <translation>Landkarte ausblenden</translation>
+    </message>
+    <message>
+        <source>Tile Map Display Horizontally</source>
+        <translation>Landkarte nebeneinander anordnen</translation>
+    </message>
+    <message>
+        <source>Tile Map Display Vertically</source>
+        <translation>Landkarte untereinander anordnen</translation>
+    </message>
+</context>
+<context>
     <name>VELIX::PreferencesGeneral</name>
     <message>
         <source>&amp;Select...</source>
@@ -1808,6 +1811,18 @@ Soll sie ersetzt werden?</translation>
     <message>
         <source>The terrain is not shaded</source>
         <translation>Das Gelände wird nicht schattiert</translation>
+    </message>
+    <message>
+        <source> MB</source>
+        <translation> MB</translation>
+    </message>
+    <message>
+        <source>When it is full, the tiles unused for longest make way</source>
+        <translation>Ist er voll, machen die am längsten ungenutzten Kacheln Platz</translation>
+    </message>
+    <message>
+        <source>Dis&amp;k space for tiles</source>
+        <translation>Pl&amp;attenplatz für Kacheln</translation>
     </message>
 </context>
 <context>
