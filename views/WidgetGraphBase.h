@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/tessel/PictureBuffer.h"
 #include "views/GraphCurve.h"
 #include "views/GraphLook.h"
 #include "views/GraphModel.h"
-#include "views/GraphPlotBuffer.h"
 #include "views/GraphPointer.h"
 #include "views/GraphScene.h"
 
@@ -201,7 +201,8 @@ private:
     VELIX::GraphLook mLook;
     VELIX::GraphPointer mPointer;
     VELIX::GraphScene mScene;
-    VELIX::GraphPlotBuffer mPlot;
+    /// Grid and traces, smooth: a cursor that moves costs a copy of them.
+    Tessel::OpenGL::PictureBuffer mPlot{4};
     bool mPlotStale = true;   ///< the picture that mPlot keeps is out of date
     VELIX::GraphCurve mCurve; ///< kept for its memory
     std::vector<VELIX::GraphVertex> mLines;

@@ -82,7 +82,7 @@ void WidgetGraphBase::paintGL()
 
 void WidgetGraphBase::showPlot(const QSize& pixels)
 {
-    if (!VELIX::GraphPlotBuffer::isSupported()) {
+    if (!Tessel::OpenGL::PictureBuffer::isSupported()) {
         drawPlot(pixels);
         return;
     }

@@ -46,17 +46,25 @@ void MapPainter::prepareTextures()
 {
     if (!mPrepared) {
         mPrepared = true;
-        QImage nothing(1, 1, QImage::Format_RGBA8888_Premultiplied);
-        nothing.fill(Qt::transparent);
-        mFirst.setImage(nothing);
-        mFirst.render(mGl, 0.0, 0.0, 1.0, 1.0);
+        for (const QImage::Format format :
+             {QImage::Format_RGBX8888, QImage::Format_RGBA8888_Premultiplied}) {
+            QImage nothing(1, 1, format);
+            nothing.fill(Qt::transparent);
+            mFirst.setImage(nothing);
+            mFirst.render(mGl, 0.0, 0.0, 1.0, 1.0);
+        }
     }
+}
+
+void MapPainter::drawGround()
+{
+    glClearColor(kGround.red, kGround.green, kGround.blue, kGround.alpha);
+    glClear(GL_COLOR_BUFFER_BIT);
 }
 
 void MapPainter::drawOutline(const MapProjection& projection)
 {
-    glClearColor(kGround.red, kGround.green, kGround.blue, kGround.alpha);
-    glClear(GL_COLOR_BUFFER_BIT);
+    drawGround();
     const float width = toFloat(projection.windowWidth());
     const float height = toFloat(projection.windowHeight());
     const double step = graticuleStep(projection, kGridPixels);

@@ -25,6 +25,7 @@ public:
 
     /// Makes the window's pixels the units of all that is drawn until the next begin().
     void begin(const MapProjection& projection);
+    static void drawGround();
     /// Ground, graticule and coasts.
     void drawOutline(const MapProjection& projection);
     /// Each tile itself, or what stands in for it.

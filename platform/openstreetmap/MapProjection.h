@@ -7,6 +7,8 @@ struct GeoPoint
 {
     double latitude = 0.0;
     double longitude = 0.0;
+
+    bool operator==(const GeoPoint&) const = default;
 };
 
 /// A place in the window: device pixels, from the upper left corner, y downwards.
@@ -21,6 +23,8 @@ struct MercatorPoint
 {
     double x = 0.0;
     double y = 0.0;
+
+    bool operator==(const MercatorPoint&) const = default;
 };
 
 /// Half the circumference of the map's sphere: the map reaches that far in all four directions.
@@ -41,6 +45,8 @@ double normalizedLongitude(double degrees);
 class MapProjection
 {
 public:
+    bool operator==(const MapProjection&) const = default;
+
     void setCentre(const GeoPoint& centre);
     /// Extent of the window in metres; values that are not positive are ignored.
     void setVisibleRange(double width, double height);

@@ -1,9 +1,12 @@
+// First, since the toolkit includes the same headers without the functions.
+#include "platform/tessel/Gl.h"
+
 #include "platform/openstreetmap/OpenStreetMap.h"
 
 #include "platform/openstreetmap/MapPainter.h"
+#include "platform/openstreetmap/MapPicture.h"
 #include "platform/openstreetmap/ShadeSource.h"
 #include "platform/openstreetmap/TileSource.h"
-#include "platform/tessel/Gl.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,6 +20,9 @@ namespace {
 /// Of 256 kB each, or four times that from servers of large tiles. The largest view shows a
 /// hundred tiles.
 constexpr std::size_t kMostTextures = 256;
+/// Taken by one picture: handing them over and drawing them takes half a millisecond each, and a
+/// hundred of them can come from the disk at once.
+constexpr std::size_t kMostArrivals = 5;
 /// Levels above a missing tile that are looked for on disk.
 constexpr int kStandInLevels = 5;
 constexpr std::int64_t kMegabyte = 1024LL * 1024;
@@ -37,12 +43,13 @@ class OpenStreetMap::Private
 public:
     std::vector<TileAddress> addresses(const std::vector<PlacedTile>& tiles) const;
     std::vector<TileAddress> standIns(const std::vector<TileAddress>& tiles);
-    void takeArrived();
-    void renderTiles(const std::vector<PlacedTile>& placed);
+    std::set<TileAddress> takeArrived();
+    void renderTiles();
     void dropOld();
 
     MapProjection projection;
     MapPainter painter;
+    MapPicture picture{painter};
     TileSource source;
     ShadeSource shades;
     MapType type = Tiles;
@@ -82,31 +89,32 @@ std::vector<TileAddress> OpenStreetMap::Private::standIns(const std::vector<Tile
     return {result.begin(), result.end()};
 }
 
-void OpenStreetMap::Private::takeArrived()
+/// Returns what looks another way now.
+std::set<TileAddress> OpenStreetMap::Private::takeArrived()
 {
-    for (const auto& [tile, picture] : source.takeArrived()) {
-        painter.tiles().set(tile, picture);
+    std::set<TileAddress> changed;
+    for (const auto& [tile, image] : source.takeArrived(kMostArrivals)) {
+        painter.tiles().set(tile, image);
+        changed.insert(tile);
     }
-    for (const auto& [tile, picture] : shades.takeArrived()) {
-        painter.shades().set(tile, picture);
+    for (const auto& [tile, image] : shades.takeArrived()) {
+        painter.shades().set(tile, image);
+        if (!image.isNull()) {
+            changed.insert(tile);
+        }
     }
+    return changed;
 }
 
-void OpenStreetMap::Private::renderTiles(const std::vector<PlacedTile>& placed)
+void OpenStreetMap::Private::renderTiles()
 {
+    const std::vector<PlacedTile> placed = visibleTiles(projection);
     const std::vector<TileAddress> wanted = addresses(placed);
     source.want(wanted, standIns(wanted));
     if (shading) {
         shades.want(wanted);
     }
-    takeArrived();
-    if (!painter.covers(placed)) {
-        painter.drawOutline(projection);
-    }
-    painter.drawTiles(placed, brightness);
-    if (shading) {
-        painter.drawShades(placed);
-    }
+    picture.show({projection, true, shading, brightness}, placed, takeArrived());
     dropOld();
 }
 
@@ -148,10 +156,12 @@ void OpenStreetMap::setTerrainPath(const char* folder)
 {
     d->shades.setFolder(QString::fromUtf8(folder));
     d->painter.shades().clear();
+    d->picture.setStale();
 }
 
 bool OpenStreetMap::setCoastLines(const char* file)
 {
+    d->picture.setStale();
     return d->painter.coast().load(QString::fromUtf8(file));
 }
 
@@ -159,6 +169,7 @@ void OpenStreetMap::setLabelFont(const void* data, std::size_t bytes, int pixelS
 {
     // Without it the labels come in the system's font, at the same size.
     static_cast<void>(d->painter.font().load(data, bytes, "graticule", pixelSize));
+    d->picture.setStale();
 }
 
 void OpenStreetMap::setProjection(ProjectionType /*type*/) {} // there is but one
@@ -216,6 +227,7 @@ void OpenStreetMap::setStyle(const ShadingStyle& style)
     if (isUsable && !(style == d->shades.style())) {
         d->shades.setStyle(style);
         d->painter.shades().clear();
+        d->picture.setStale();
     }
 }
 
@@ -281,9 +293,9 @@ void OpenStreetMap::render()
     const StateGuard guard;
     d->painter.begin(d->projection);
     if (d->type == Outline) {
-        d->painter.drawOutline(d->projection);
+        d->picture.show({d->projection, false, false, 1.0}, {}, {});
     } else {
-        d->renderTiles(visibleTiles(d->projection));
+        d->renderTiles();
     }
 }
 
@@ -296,6 +308,7 @@ void OpenStreetMap::releaseGl()
         d->shades.forget(tile);
     }
     d->painter.release();
+    d->picture.release();
 }
 
 } // namespace OpenStreet

@@ -121,9 +121,15 @@ int TileSource::loading() const
     return mReading + mUnasked + mFetcher.loading() + static_cast<int>(mArrived.size());
 }
 
-std::vector<TileSource::Picture> TileSource::takeArrived()
+std::vector<TileSource::Picture> TileSource::takeArrived(std::size_t most)
 {
-    return std::exchange(mArrived, {});
+    std::vector<Picture> rest;
+    if (mArrived.size() > most) {
+        const auto end = mArrived.begin() + static_cast<std::ptrdiff_t>(most);
+        rest.assign(std::make_move_iterator(end), std::make_move_iterator(mArrived.end()));
+        mArrived.erase(end, mArrived.end());
+    }
+    return std::exchange(mArrived, std::move(rest));
 }
 
 /// What is known of tiles elsewhere is let go when it becomes much.

@@ -10,6 +10,7 @@
 #include <QString>
 #include <QThreadPool>
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -51,8 +52,9 @@ public:
 
     /// Tiles being read, queued or fetched, and what waits for the next want() or takeArrived().
     [[nodiscard]] int loading() const;
-    /// What has arrived since the last call; a tile may come twice: old from the disk, then new.
-    std::vector<Picture> takeArrived();
+    /// The first of what has arrived and was not taken yet, so many at the most; a tile may come
+    /// twice: old from the disk, then new.
+    std::vector<Picture> takeArrived(std::size_t most);
 
 signals:
     void arrived();

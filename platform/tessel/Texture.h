@@ -33,6 +33,9 @@ public:
     [[nodiscard]] int width() const { return mWidth; }
     [[nodiscard]] int height() const { return mHeight; }
 
+    /// Whether it hides all that is behind it.
+    [[nodiscard]] bool isOpaque() const { return mOpaque && mWidth > 0; }
+
     /// Tints the picture; white leaves it as it is.
     void setColor(const Color& color) { mColor = color; }
     /// Draws the whole picture; its upper left corner is at x, y where y runs downwards.

@@ -2,6 +2,7 @@
 
 #include "platform/openstreetmap/MapProjection.h"
 #include "platform/openstreetmap/TileStore.h"
+#include "tests/platform/openstreetmap/WrittenTerrain.h"
 #include "tests/support/TileServer.h"
 
 #include <QCoreApplication>
@@ -22,6 +23,7 @@
 using OpenStreet::OpenStreetMap;
 using OpenStreet::TileAddress;
 using OpenStreet::TileStore;
+using OpenStreet::Test::writeTerrain;
 using VELIX::Test::TileServer;
 
 namespace {
@@ -145,6 +147,37 @@ TEST_F(OpenStreetMapTest, WithoutServerTheDiskStandsInAndElseTheOutlineIsDrawn)
     }
     EXPECT_GE(lines, 2) << "meridians";
     EXPECT_LT(lines, 60);
+}
+
+TEST_F(OpenStreetMapTest, WhatArrivesIsAddedToThePictureAsIfAllWereDrawn)
+{
+    const auto complete = [this] {
+        lookAt(8, 20.0, 20.0);
+        render();
+        lookAt(10, 548.0, 354.0);
+        return render();
+    };
+    ASSERT_TRUE(TileStore(mDir.path()).write({9, 274, 177}, {TileServer::tile(9, 274, 177), {}}));
+    lookAt(10, 548.0, 354.0);
+    const QImage plain = settled(); // first with an ancestor in place of some
+    EXPECT_EQ(plain, complete());
+
+    writeTerrain(mDir.filePath(QStringLiteral("N48E012.hgt")), 1201, [](double x, double y) {
+        return static_cast<int>(800.0 + 400.0 * std::sin(x * 40.0) * std::cos(y * 30.0));
+    });
+    mMap->setTerrainPath(mDir.path().toUtf8().constData());
+    mMap->setLightDirection(-1.0, 1.0, 1.0);
+    mMap->setShading(true);
+    const QImage shaded = settled();
+    EXPECT_NE(shaded, plain);
+    EXPECT_EQ(shaded, complete());
+    mMap->setShadingContrast(3.0);
+    EXPECT_NE(settled(), shaded);
+    mMap->setBrightness(0.5);
+    EXPECT_LT(render().pixelColor(20, 390).lightness(), shaded.pixelColor(20, 390).lightness());
+    mMap->setShading(false);
+    mMap->setBrightness(1.0);
+    EXPECT_EQ(render(), plain);
 }
 
 TEST_F(OpenStreetMapTest, WindowAndPlaceAgreeAlsoForAnotherView)

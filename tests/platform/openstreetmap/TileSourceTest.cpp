@@ -51,7 +51,7 @@ protected:
     }
     void take(TileSource& source)
     {
-        for (const TileSource::Picture& picture : source.takeArrived()) {
+        for (const TileSource::Picture& picture : source.takeArrived(4)) {
             mPictures[picture.first].push_back(picture.second);
         }
     }

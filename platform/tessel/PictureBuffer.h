@@ -5,19 +5,22 @@
 
 #include <memory>
 
-namespace VELIX {
+namespace Tessel::OpenGL {
 
-/// Keeps a picture of grid and traces, so that only what stands over them has to be drawn again
-/// when a cursor moves. Lines in it are smooth, being drawn with four samples per pixel.
+/// Keeps what was drawn, so that a picture of which little changes costs a copy and that little.
 ///
-/// All calls but the constructor need the widget's OpenGL context to be current.
-class GraphPlotBuffer
+/// All calls but the constructor need one and the same OpenGL context to be current.
+class PictureBuffer
 {
 public:
-    /// Whether this context can copy from one frame buffer to another.
+    /// With several samples per pixel lines are smooth, at a fraction of the price of blended ones.
+    explicit PictureBuffer(int samplesPerPixel = 0) : mSamples(samplesPerPixel) {}
+
+    /// Whether the current context can copy from one frame buffer to another.
     [[nodiscard]] static bool isSupported();
 
-    /// Makes the buffer the target of all drawing, in the size given (pixels).
+    /// Makes the buffer the target of all drawing, in the size given (pixels). What was drawn in
+    /// that size before is still there.
     /// @return false if there is no such buffer; the target is then what it was
     [[nodiscard]] bool begin(const QSize& pixels);
     /// The picture is drawn.
@@ -30,9 +33,10 @@ public:
     void release();
 
 private:
+    int mSamples;
     std::unique_ptr<QOpenGLFramebufferObject> mDrawn; ///< several samples for each pixel
     /// Their mean: finding it costs as much as many copies.
     std::unique_ptr<QOpenGLFramebufferObject> mPicture;
 };
 
-} // namespace VELIX
+} // namespace Tessel::OpenGL

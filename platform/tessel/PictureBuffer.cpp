@@ -1,0 +1,79 @@
+#include "platform/tessel/PictureBuffer.h"
+
+#include <QOpenGLContext>
+#include <QOpenGLExtraFunctions>
+
+namespace Tessel::OpenGL {
+
+namespace {
+
+QOpenGLExtraFunctions& functions()
+{
+    return *QOpenGLContext::currentContext()->extraFunctions();
+}
+
+void copy(const QOpenGLFramebufferObject& source, GLuint target)
+{
+    QOpenGLExtraFunctions& gl = functions();
+    const int width = source.width();
+    const int height = source.height();
+    gl.glBindFramebuffer(GL_READ_FRAMEBUFFER, source.handle());
+    gl.glBindFramebuffer(GL_DRAW_FRAMEBUFFER, target);
+    gl.glBlitFramebuffer(0, 0, width, height, 0, 0, width, height, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    gl.glBindFramebuffer(GL_FRAMEBUFFER, target);
+}
+
+} // namespace
+
+bool PictureBuffer::isSupported()
+{
+    return QOpenGLFramebufferObject::hasOpenGLFramebufferBlit();
+}
+
+bool PictureBuffer::begin(const QSize& pixels)
+{
+    GLint target = 0; // making a buffer binds it
+    functions().glGetIntegerv(GL_FRAMEBUFFER_BINDING, &target);
+    if (!holds(pixels)) {
+        release(); // before the next ones take their memory
+        QOpenGLFramebufferObjectFormat format;
+        mPicture = std::make_unique<QOpenGLFramebufferObject>(pixels, format);
+        if (mSamples > 0) {
+            format.setSamples(mSamples);
+            mDrawn = std::make_unique<QOpenGLFramebufferObject>(pixels, format);
+        }
+    }
+    const QOpenGLFramebufferObject& drawn = mDrawn != nullptr ? *mDrawn : *mPicture;
+    if (!drawn.isValid() || !mPicture->isValid()) {
+        release();
+        functions().glBindFramebuffer(GL_FRAMEBUFFER, static_cast<GLuint>(target));
+        return false;
+    }
+    functions().glBindFramebuffer(GL_FRAMEBUFFER, drawn.handle());
+    return true;
+}
+
+void PictureBuffer::end() const
+{
+    if (mDrawn != nullptr) {
+        copy(*mDrawn, mPicture->handle());
+    }
+}
+
+bool PictureBuffer::holds(const QSize& pixels) const
+{
+    return mPicture != nullptr && mPicture->size() == pixels;
+}
+
+void PictureBuffer::copyTo(GLuint target) const
+{
+    copy(*mPicture, target);
+}
+
+void PictureBuffer::release()
+{
+    mDrawn.reset();
+    mPicture.reset();
+}
+
+} // namespace Tessel::OpenGL
