@@ -7,6 +7,7 @@ namespace VELIX {
 namespace {
 
 constexpr const char* kTileServer = "TileServer";
+constexpr const char* kCacheLimit = "TileCacheLimit";
 constexpr const char* kShading = "MapShading";
 constexpr const char* kContrast = "MapShadingContrast";
 constexpr const char* kBrightness = "MapShadingBrightness";
@@ -19,6 +20,7 @@ MapSettings MapSettings::read(const Property& settings)
     const MapSettings defaults;
     MapSettings map;
     map.tileServer = settings.getString(kTileServer, defaults.tileServer);
+    map.cacheLimit = settings.getInt(kCacheLimit, defaults.cacheLimit);
     map.shading = settings.getSwitch(kShading, defaults.shading);
     map.contrast = settings.getDouble(kContrast, defaults.contrast);
     map.brightness = settings.getDouble(kBrightness, defaults.brightness);
@@ -29,6 +31,7 @@ MapSettings MapSettings::read(const Property& settings)
 void MapSettings::store(Property& settings) const
 {
     settings.setString(kTileServer, tileServer);
+    settings.setInt(kCacheLimit, cacheLimit);
     settings.setSwitch(kShading, shading);
     settings.setDouble(kContrast, contrast);
     settings.setDouble(kBrightness, brightness);

@@ -6,7 +6,8 @@ namespace VELIX {
 
 class Property;
 
-/// Where map tiles come from and how the terrain is shaded, as the settings keep it.
+/// Where map tiles come from, how many are kept and how the terrain is shaded, as the settings
+/// keep it.
 struct MapSettings
 {
     static MapSettings read(const Property& settings);
@@ -14,6 +15,7 @@ struct MapSettings
     void store(Property& settings) const;
 
     std::string tileServer = "https://tile.openstreetmap.org/"; ///< base address, by zoom, x and y
+    int cacheLimit = 500;                                       ///< of tiles on disk, in MB
     bool shading = true;
     double contrast = 1.0;
     double brightness = 1.0;

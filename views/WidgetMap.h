@@ -157,7 +157,6 @@ private:
     std::string mDataPath;
     std::unique_ptr<OpenStreet::OpenStreetMap> mMap;
     MapSettings mTakenSettings; ///< those that the map was told
-    int mTakenCacheLimit = 0;
     bool mMapSetUp = false;
 
     Tessel::OpenGL::GlHandler mGl;

@@ -344,4 +344,24 @@ void WidgetMap::focusOutEvent(QFocusEvent* event)
     mKeys = {}; // their release goes elsewhere
 }
 
+void WidgetMap::applyKeys()
+{
+    const auto balance = [this](bool Keys::*more, bool Keys::*less) {
+        return (mKeys.*more || mTapped.*more ? 1 : 0) - (mKeys.*less || mTapped.*less ? 1 : 0);
+    };
+    const int zoom = balance(&Keys::zoomIn, &Keys::zoomOut);
+    const int north = balance(&Keys::north, &Keys::south);
+    const int east = balance(&Keys::east, &Keys::west);
+    mTapped = {};
+    if (zoom != 0) {
+        mContext->visibleRange = MapNavigation::keyZoomed(mContext->visibleRange, zoom);
+        mFollower.keepRange();
+    }
+    if (north != 0 || east != 0) {
+        leaveCentring(); // which would pull the map back
+        MapNavigation::keyPan(*mContext, north, east);
+    }
+    mDirty = mDirty || zoom != 0 || north != 0 || east != 0;
+}
+
 } // namespace VELIX
