@@ -25,7 +25,7 @@ namespace {
 constexpr const char* kLocale = "Locale";
 constexpr const char* kFontSize = "FontSize";
 constexpr int kDefaultFontSize = 12;
-constexpr int kMinimumWidth = 560;
+constexpr int kContentWidth = 540;
 constexpr int kGap = 8;
 constexpr int kListMargin = 24; ///< frame and padding beside the longest title
 
@@ -43,7 +43,6 @@ DialogPreferences::DialogPreferences(const AppContext& context, ProfileSettings&
       mMap(new PreferencesMap(this))
 {
     setWindowTitle(tr("Preferences"));
-    setMinimumWidth(kMinimumWidth);
     createPages();
     createLayout();
     fillDialog();
@@ -86,6 +85,7 @@ void DialogPreferences::createLayout()
     row->addWidget(mPages, 1);
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(kGap * 2);
+    layout->addStrut(kContentWidth); // a minimum of the window would not grow with the font
     layout->addLayout(row, 1);
     layout->addWidget(buttons);
 }
@@ -105,9 +105,6 @@ void DialogPreferences::showEvent(QShowEvent* event)
 void DialogPreferences::fitToFont()
 {
     mPageList->setFixedWidth(mPageList->sizeHintForColumn(0) + kListMargin);
-    layout()->activate();
-    // A width that was set once keeps the layout from asking for more.
-    setMinimumWidth(qMax(kMinimumWidth, minimumSizeHint().width()));
 }
 
 void DialogPreferences::fillDialog()

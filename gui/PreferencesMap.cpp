@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalBlocker>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 namespace VELIX {
@@ -16,6 +17,9 @@ namespace {
 
 constexpr double kLargest = 10.0;
 constexpr double kStep = 0.1;
+constexpr int kSmallestCache = 50;   // MB
+constexpr int kLargestCache = 20000; // MB
+constexpr int kCacheStep = 50;       // MB
 constexpr int kGap = 8;
 
 } // namespace
@@ -42,6 +46,7 @@ PreferencesMap::PreferencesMap(QWidget* parent)
     form->setHorizontalSpacing(kGap * 2);
     form->setVerticalSpacing(kGap);
     form->addRow(tr("&Tile server"), mTileServer);
+    mCacheLimit = addCacheLimit(*form);
     form->addRow(QString(), mShading);
     mContrast = addNumber(*form, tr("&Contrast"), "mapContrast");
     mBrightness = addNumber(*form, tr("&Brightness"), "mapBrightness");
@@ -52,7 +57,22 @@ PreferencesMap::PreferencesMap(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addLayout(form);
     layout->addStretch(1);
+    setTabOrder(mTileServer, mCacheLimit);
+    setTabOrder(mCacheLimit, mShading);
     setTabOrder(mFactor, defaults);
+}
+
+QSpinBox* PreferencesMap::addCacheLimit(QFormLayout& form)
+{
+    auto* box = new QSpinBox(this);
+    box->setObjectName(QStringLiteral("tileCacheLimit"));
+    box->setSingleStep(kCacheStep);
+    box->setSuffix(tr(" MB"));
+    box->setKeyboardTracking(false); // on the way to 1000 nobody wants to keep but 100
+    box->setToolTip(tr("When it is full, the tiles unused for longest make way"));
+    connect(box, qOverload<int>(&QSpinBox::valueChanged), this, &PreferencesMap::signalChanged);
+    form.addRow(tr("Dis&k space for tiles"), box);
+    return box;
 }
 
 QDoubleSpinBox* PreferencesMap::addNumber(QFormLayout& form, const QString& label, const char* name)
@@ -72,6 +92,10 @@ void PreferencesMap::showSettings(const MapSettings& map)
 {
     const QSignalBlocker blocker(this);
     mTileServer->setText(QString::fromStdString(map.tileServer));
+    // A limit that was written by hand stays, also an unusual one.
+    mCacheLimit->setRange(qMin(kSmallestCache, map.cacheLimit),
+                          qMax(kLargestCache, map.cacheLimit));
+    mCacheLimit->setValue(map.cacheLimit);
     mShading->setChecked(map.shading);
     mContrast->setValue(map.contrast);
     mBrightness->setValue(map.brightness);
@@ -83,6 +107,7 @@ MapSettings PreferencesMap::values() const
 {
     MapSettings map;
     map.tileServer = mTileServer->text().trimmed().toStdString();
+    map.cacheLimit = mCacheLimit->value();
     map.shading = mShading->isChecked();
     map.contrast = mContrast->value();
     map.brightness = mBrightness->value();

@@ -6,6 +6,7 @@ class QCheckBox;
 class QDoubleSpinBox;
 class QFormLayout;
 class QLineEdit;
+class QSpinBox;
 
 namespace VELIX {
 
@@ -27,11 +28,13 @@ signals:
     void signalChanged();
 
 private:
+    QSpinBox* addCacheLimit(QFormLayout& form);
     QDoubleSpinBox* addNumber(QFormLayout& form, const QString& label, const char* name);
     void enableShading();
     void slotDefaults();
 
     QLineEdit* mTileServer;
+    QSpinBox* mCacheLimit = nullptr;
     QCheckBox* mShading;
     QDoubleSpinBox* mContrast = nullptr;
     QDoubleSpinBox* mBrightness = nullptr;

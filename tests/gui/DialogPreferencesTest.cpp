@@ -14,6 +14,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QStackedWidget>
 #include <QTest>
 
@@ -166,6 +167,7 @@ TEST_F(DialogPreferencesTest, MapValuesAreStoredAsTheyAreChanged)
     auto& server = find<QLineEdit>("tileServer");
     server.setText(QStringLiteral("http://tiles.example/"));
     emit server.editingFinished();
+    find<QSpinBox>("tileCacheLimit").setValue(1000);
     find<QDoubleSpinBox>("mapContrast").setValue(1.5);
     find<QDoubleSpinBox>("mapFactor").stepUp();
     find<QCheckBox>("mapShading").setChecked(false);
@@ -175,7 +177,8 @@ TEST_F(DialogPreferencesTest, MapValuesAreStoredAsTheyAreChanged)
         const char* key;
         const char* changed;
         const char* byDefault;
-    } rows[] = {{"MapShading", "false", "true"},
+    } rows[] = {{"TileCacheLimit", "1000", "500"},
+                {"MapShading", "false", "true"},
                 {"MapShadingContrast", "1.5", "1"},
                 {"MapShadingBrightness", "1", "1"},
                 {"MapShadingFactor", "0.6", "0.5"}};
