@@ -18,6 +18,7 @@
 #include "gui/MainActions.h"
 #include "gui/MainToolBar.h"
 #include "gui/PrintController.h"
+#include "gui/Project.h"
 #include "gui/RecentMenu.h"
 #include "gui/StandardDialogs.h"
 #include "profile/Profile.h"
@@ -107,6 +108,9 @@ void DialogMain::createPanes()
     mDialogProfile = new DialogProfile(mContext.profile);
     connect(mDialogProfile, &DialogProfile::signalChanged, this,
             qOverload<>(&DialogMain::slotProfileChanged));
+    // Not so when the last tick is taken away: that says nothing about what is not listed.
+    connect(mDialogProfile, &DialogProfile::signalCleared, this,
+            [this] { mContext.project.setProfileData(); });
 
     mDialogData = new DialogData(mContext.profile, mContext.card, mContext.settings, mDialogs,
                                  mContext.paths, mContext.emuOnly);

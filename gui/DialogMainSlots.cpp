@@ -256,10 +256,6 @@ void DialogMain::slotCanChanged()
 
 void DialogMain::slotProfileChanged()
 {
-    if (mContext.profile.selectedParameters().empty()) {
-        // Cleared for all variants: nothing comes back when another one is chosen.
-        mContext.project.setProfileData();
-    }
     mProjects.setModified();
     mDialogData->updateProfile();
     updateEnabled();

@@ -287,6 +287,7 @@ void DialogProfile::slotClear()
         }
     }
     updateProject();
+    emit signalCleared();
     emit signalChanged();
     stopBlinking(); // the views show what is ticked: there is nothing left to confirm
 }

@@ -45,6 +45,8 @@ public:
 signals:
     /// The user confirmed or cleared the selection.
     void signalChanged();
+    /// No parameter is wanted, of other variants and profiles neither; signalChanged() follows.
+    void signalCleared();
     void signalInstallProfile();
 
 private slots:

@@ -145,6 +145,25 @@ TEST_F(DialogMainTest, AVariantCarriesTheSelectionOverAndRefillsTheViews)
     EXPECT_EQ(program.selection(), QStringLiteral("Airframe/Ground Speed, Airframe/Flaps"));
 }
 
+TEST_F(DialogMainTest, OnlyClearForgetsWhatAnotherVariantHas)
+{
+    startWithCard();
+    select(0, 0); // "Ground Speed"
+    select(0, 1); // "Flaps", which only Alpha has
+    const struct
+    {
+        const char* button;
+        const char* left;
+    } rows[] = {{"buttonConfirm", "Airframe/Flaps"}, {"buttonClear", ""}};
+    for (const auto& row : rows) {
+        chooseVariant("Beta");
+        find<QTreeWidget>("treeParameters").topLevelItem(0)->setCheckState(0, Qt::Unchecked);
+        find<QPushButton>(row.button).click();
+        chooseVariant("Alpha");
+        EXPECT_EQ(program.selection(), QLatin1String(row.left)) << row.button;
+    }
+}
+
 TEST_F(DialogMainTest, AVariantThatTheProfileLacksCountsAsNone)
 {
     program.settings.setString("Profile", "Gamma");
