@@ -104,7 +104,7 @@ bool ProjectController::read(const QString& file)
     }
     mModified = false;
     mRunFileOutdated = !isSamePath(file, mRunFile);
-    remember(file);
+    remember(mFile); // no other, since this is the name that saving under another one proposes
     return true;
 }
 

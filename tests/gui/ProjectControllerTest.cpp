@@ -65,6 +65,7 @@ TEST_F(ProjectControllerTest, AFileThatIsNoProjectNeverBecomesTheOneOfSave)
     choose(kSpeedId);
     EXPECT_TRUE(controller.saveProject(false));
     EXPECT_EQ(TestProgram::read(profile), before);
+    EXPECT_EQ(program.storedSetting("LastProjectPath"), runFile()); // proposed by "Save as"
 }
 
 TEST_F(ProjectControllerTest, KeepsARunFileThatItCannotRead)
