@@ -1,6 +1,3 @@
-// First, since the toolkit includes the same headers without the functions.
-#include "platform/tessel/Gl.h"
-
 #include "card/CardContainer.h"
 #include "core/DataHandler.h"
 #include "core/Property.h"
@@ -10,7 +7,6 @@
 #include "views/MapContext.h"
 #include "views/MapNavigation.h"
 #include "views/MapSymbol.h"
-#include "views/MapTrack.h"
 #include "views/WidgetMap.h"
 
 #include <QFile>
@@ -29,16 +25,11 @@ constexpr int kResizeDelay = 100; // ms
 constexpr double kLongest = 1.0;  // s without a repaint
 /// The same while tiles come: with a picture for each of them most of the time would go into
 /// pictures.
-constexpr double kLongestLoading = 0.08;
+constexpr double kLongestLoading = 0.04;
 constexpr int kLeastSize = 100;
 constexpr int kLabelPixels = 11;
 constexpr double kPathWidth = 3.0;
 constexpr double kSymbolSize = 40.0;
-constexpr double kScaleLength = 110.0;
-constexpr double kHoverPixels = 12.0; // from the path
-constexpr double kRadians = 0.017453292519943295;
-constexpr double kWorld = 40075016.685578488; // m of the map around the globe
-constexpr double kPlain = 1.0;                // brightness of the tiles
 
 } // namespace
 
@@ -262,23 +253,6 @@ QSize WidgetMap::pixels() const
             static_cast<int>(std::lround(height() * mRatio))};
 }
 
-double WidgetMap::mapMetresPerPixel() const
-{
-    return mContext->metresPerPixel / std::cos(mContext->centreLatitude * kRadians);
-}
-
-void WidgetMap::setViewPort()
-{
-    glViewport(0, 0, pixels().width(), pixels().height());
-}
-
-void WidgetMap::setViewPortOrtho()
-{
-    mGl.matrices().reset();
-    // A window without an area has no picture.
-    static_cast<void>(mGl.matrices().setOrtho(0.0, pixels().width(), pixels().height(), 0.0));
-}
-
 /// The context's centre and range with this window, to all that computes with them.
 void WidgetMap::updateWindow()
 {
@@ -310,7 +284,7 @@ void WidgetMap::slotTimeoutResize()
     updateGeometry(); // the layout puts it back
 }
 
-// --- painting
+// --- window and settings
 
 void WidgetMap::resizeGL(int width, int height)
 {
@@ -347,150 +321,6 @@ void WidgetMap::takeSettings()
         mMap->setTileCacheLimit(settings.cacheLimit);
     }
     mTakenSettings = settings;
-}
-
-void WidgetMap::paintGL()
-{
-    ++mPaintCount;
-    mDirty = false;
-    mLastRepaint = Tessel::Misc::Timer::getTime();
-    adoptRatio();
-    updateWindow();
-    if (mRedrawPath) {
-        redrawFlightPath();
-    } else if (mStaleLines) {
-        makeLines();
-    }
-    if (mRefit) {
-        fitView();
-    }
-    applyKeys();
-    takeSettings();
-    followAircraft();
-    updateWindow();
-    if (mMouse) {
-        mMap->window2LatLong(mMouse->x(), mMouse->y(), &mMouseLatitude, &mMouseLongitude);
-    }
-    drawMap();
-    drawPath();
-    drawAircraft();
-    drawOverlay();
-    mLoading = mMap->nrLoadingTiles() != 0;
-}
-
-void WidgetMap::applyKeys()
-{
-    const auto balance = [this](bool Keys::*more, bool Keys::*less) {
-        return (mKeys.*more || mTapped.*more ? 1 : 0) - (mKeys.*less || mTapped.*less ? 1 : 0);
-    };
-    const int zoom = balance(&Keys::zoomIn, &Keys::zoomOut);
-    const int north = balance(&Keys::north, &Keys::south);
-    const int east = balance(&Keys::east, &Keys::west);
-    mTapped = {};
-    if (zoom != 0) {
-        mContext->visibleRange = MapNavigation::keyZoomed(mContext->visibleRange, zoom);
-        mFollower.keepRange();
-    }
-    if (north != 0 || east != 0) {
-        leaveCentring(); // which would pull the map back
-        MapNavigation::keyPan(*mContext, north, east);
-    }
-    mDirty = mDirty || zoom != 0 || north != 0 || east != 0;
-}
-
-void WidgetMap::followAircraft()
-{
-    if (mContext->centreAircraft && !MapTrack::isEmpty(mAircraft) &&
-        mFollower.step(*mContext, mAircraft.latitude, mAircraft.longitude)) {
-        mDirty = true;
-    }
-}
-
-void WidgetMap::drawMap()
-{
-    setViewPort();
-    glDisable(GL_SCISSOR_TEST);
-    glClearColor(0.0F, 0.0F, 0.0F, 1.0F);
-    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-    mMap->setBrightness(kPlain);
-    mMap->setLightDirection(-1.0, 1.0, 1.0); // from the north-west, as on paper maps
-    mMap->setShading(mContext->shading);
-    mMap->setMapType(OpenStreet::Tiles);
-    mMap->render();
-    glDisable(GL_DEPTH_TEST);
-    glDisable(GL_BLEND);
-    glDisable(GL_LINE_SMOOTH);
-    setViewPortOrtho();
-}
-
-void WidgetMap::drawPath()
-{
-    if (mPath.empty()) {
-        return;
-    }
-    double x = 0.0;
-    double y = 0.0;
-    mMap->latLong2Window(mPath.middleLatitude(), mPath.middleLongitude(), &x, &y);
-    const double scale = mapMetresPerPixel();
-    const double world = kWorld / scale;
-    const double half = mPath.halfWidth() / scale;
-    // A window may show the globe more than once, and a path may lie across its edge.
-    const double first = std::ceil((-half - x) / world);
-    for (double copy = first; x + copy * world - half < pixels().width(); copy += 1.0) {
-        mLines.render(mGl, mPath, x + copy * world, y, scale);
-    }
-}
-
-void WidgetMap::drawAircraft()
-{
-    if (MapTrack::isEmpty(mAircraft)) {
-        return;
-    }
-    double x = 0.0;
-    double y = 0.0;
-    mMap->latLong2Window(mAircraft.latitude, mAircraft.longitude, &x, &y);
-    const double side = mSymbol.width();
-    mGl.matrices().push();
-    mGl.matrices().translate(x, y);
-    mGl.matrices().rotate(mAircraft.course); // y runs downwards, and so clockwise
-    mSymbol.render(mGl, -side / 2.0, -side / 2.0, side, side);
-    mGl.matrices().pop();
-}
-
-MapOverlay::Content WidgetMap::overlayContent() const
-{
-    MapOverlay::Content content;
-    content.scale = MapTexts::scaleBar(kScaleLength * mRatio * mContext->metresPerPixel, mImperial);
-    content.scalePixels = content.scale.metres / mContext->metresPerPixel;
-    content.legend = mPath.empty() || mColoring.colors.empty() ? nullptr : &mColoring;
-    if (mMouse && !mContext->dragging) {
-        addReadout(content);
-    }
-    return content;
-}
-
-void WidgetMap::addReadout(MapOverlay::Content& content) const
-{
-    content.mouse = *mMouse;
-    content.readout.append(MapTexts::position(mMouseLatitude, mMouseLongitude));
-    const auto place =
-        mPath.nearest(mMouseLatitude, mMouseLongitude, kHoverPixels * mRatio * mapMetresPerPixel());
-    if (!place || mFlightPath == nullptr) {
-        return;
-    }
-    const std::size_t next = std::min(place->index + 1, mFlightPath->size() - 1);
-    const FlightPathPoint there =
-        MapTrack::between((*mFlightPath)[place->index], (*mFlightPath)[next], place->fraction);
-    content.readout.append(MapTexts::moment(there, mImperial));
-    double x = 0.0;
-    double y = 0.0;
-    mMap->latLong2Window(there.latitude, there.longitude, &x, &y);
-    content.mark = QPointF(x, y);
-}
-
-void WidgetMap::drawOverlay()
-{
-    mOverlay.paint(mGl, pixels(), overlayContent());
 }
 
 } // namespace VELIX
