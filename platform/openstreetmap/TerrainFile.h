@@ -3,14 +3,16 @@
 #include <QFile>
 #include <QString>
 
+#include <array>
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 namespace OpenStreet {
 
 /// Heights of one square degree: an .hgt file of 1201 or 3601 rows of as many big-endian 16-bit
-/// metres, from the north-western corner; the borders are shared with the neighbours. The file is
-/// mapped into memory, not read.
+/// metres, from the north-western corner; the borders are shared with the neighbours. Rows are read
+/// when they are asked for, the last two are kept: a file that shrinks in the meantime has holes.
 class TerrainFile
 {
 public:
@@ -19,16 +21,22 @@ public:
 
     /// Metres above sea level, or not a number where a height is missing. Fractions 0..1 of the
     /// square, from its western and its northern border.
-    [[nodiscard]] float height(double fromWest, double fromNorth) const;
+    [[nodiscard]] float height(double fromWest, double fromNorth);
 
 private:
+    struct Row
+    {
+        int number = -1;
+        std::vector<std::int16_t> posts;
+    };
+
     TerrainFile() = default;
 
-    [[nodiscard]] std::int16_t post(int column, int row) const;
+    const std::vector<std::int16_t>& row(int number);
 
     QFile mFile;
-    const unsigned char* mData = nullptr;
     int mSide = 0;
+    std::array<Row, 2> mRows; ///< neighbours have a place each
 };
 
 } // namespace OpenStreet

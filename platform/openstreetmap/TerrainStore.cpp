@@ -33,7 +33,7 @@ QString TerrainStore::fileName(int south, int west)
 float TerrainStore::height(const GeoPoint& place)
 {
     const Corner corner = cornerOf(place);
-    const TerrainFile* file = fileOf(corner);
+    TerrainFile* file = fileOf(corner);
     if (file == nullptr) {
         return std::numeric_limits<float>::quiet_NaN();
     }
@@ -46,7 +46,7 @@ bool TerrainStore::covers(const GeoPoint& place)
     return fileOf(cornerOf(place)) != nullptr;
 }
 
-const TerrainFile* TerrainStore::fileOf(const Corner& corner)
+TerrainFile* TerrainStore::fileOf(const Corner& corner)
 {
     const auto found = mFiles.find(corner);
     if (found != mFiles.end()) {

@@ -29,7 +29,7 @@ public:
 private:
     using Corner = std::pair<int, int>; ///< south, west
 
-    const TerrainFile* fileOf(const Corner& corner);
+    TerrainFile* fileOf(const Corner& corner);
 
     QString mFolder;
     std::map<Corner, std::unique_ptr<TerrainFile>> mFiles; ///< null: there is none

@@ -43,6 +43,18 @@ TEST(TerrainStoreTest, HeightsLieWhereTheyBelong)
     EXPECT_FALSE(TerrainStore(dir.path()).covers({48.5, 11.5}));
 }
 
+TEST(TerrainStoreTest, AFileThatShrinksWhileItIsOpenHasHoles)
+{
+    const QTemporaryDir dir;
+    const QString path = dir.filePath(QStringLiteral("N48E011.hgt"));
+    writeTerrain(path, 1201, [](double, double) { return 500; });
+    TerrainStore terrain(dir.path());
+    EXPECT_NEAR(terrain.height({48.5, 11.5}), 500.0, 0.1);
+    ASSERT_TRUE(QFile::resize(path, 1201 * 2 * 100));
+    EXPECT_TRUE(std::isnan(terrain.height({48.1, 11.5})));
+    EXPECT_NEAR(terrain.height({48.95, 11.5}), 500.0, 0.1);
+}
+
 HeightGrid slope(double east, double north)
 {
     HeightGrid grid;
