@@ -84,23 +84,25 @@ void DialogProfileInfo::slotLink(const QString& link)
 
 void DialogProfileInfo::installProfile()
 {
+    // Whoever asked for it is in front: a link in the main window does not show this dialog.
+    QWidget* const front = isVisible() ? this : parentWidget();
     const QString title = tr("VELIX Warning");
-    const QString file = mDialogs.openFile(this, tr("Select Profile File"), QString(),
+    const QString file = mDialogs.openFile(front, tr("Select Profile File"), QString(),
                                            tr("Profile File (*.xml);;All Files (* *.*)"));
     if (file.isEmpty()) {
         return;
     }
     switch (ProfileInstaller::install(file, mSettings.installedFile())) {
     case ProfileInstaller::Result::NotAProfile:
-        mDialogs.information(this, title, tr("Not a valid VELIX profile !"));
+        mDialogs.information(front, title, tr("Not a valid VELIX profile !"));
         return;
     case ProfileInstaller::Result::CopyFailed:
-        mDialogs.warning(this, title, tr("Profile Installation failed !"));
+        mDialogs.warning(front, title, tr("Profile Installation failed !"));
         return;
     case ProfileInstaller::Result::Installed:
         break;
     }
-    mDialogs.information(this, tr("VELIX Info"), tr("New profile installed !"));
+    mDialogs.information(front, tr("VELIX Info"), tr("New profile installed !"));
     mSettings.forgetChosenFile();
     emit signalProfileChanged();
     fillProfileInfo();
