@@ -57,6 +57,7 @@ public:
     double brightness = 1.0;
     QMetaObject::Connection arrivedTile;
     QMetaObject::Connection arrivedShade;
+    QMetaObject::Connection failedTile;
 };
 
 std::vector<TileAddress>
@@ -286,6 +287,23 @@ void OpenStreetMap::setArrivedCallback(const std::function<void()>& callback)
         d->arrivedTile = QObject::connect(&d->source, &TileSource::arrived, callback);
         d->arrivedShade = QObject::connect(&d->shades, &ShadeSource::arrived, callback);
     }
+}
+
+void OpenStreetMap::setFailureCallback(
+    const std::function<void(const char* url, const char* reason)>& callback)
+{
+    QObject::disconnect(d->failedTile);
+    if (callback) {
+        d->failedTile = QObject::connect(
+            &d->source, &TileSource::failed, [callback](const QString& url, const QString& reason) {
+                callback(url.toUtf8().constData(), reason.toUtf8().constData());
+            });
+    }
+}
+
+void OpenStreetMap::retry()
+{
+    d->source.retry();
 }
 
 void OpenStreetMap::render()

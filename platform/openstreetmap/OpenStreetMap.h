@@ -81,6 +81,15 @@ public:
     [[nodiscard]] int nrLoadingTiles() const;
     /// Called whenever something has arrived that the next render() would show.
     void setArrivedCallback(const std::function<void()>& callback);
+    /// Called with the reason why there is no tile, and the address that was asked; also from
+    /// within render(). A reason is not given again for each tile that fails: only for another
+    /// server, after retry() or, where it concerns the server as a whole, when that has sent a tile
+    /// since.
+    void
+    setFailureCallback(const std::function<void(const char* url, const char* reason)>& callback);
+    /// Tiles that failed are asked for again with the next render(), instead of after a pause that
+    /// grows with each failure up to five minutes.
+    void retry();
 
     /// Draws over the whole view port, which the caller has set to the window.
     void render();

@@ -6,8 +6,10 @@
 #include <QDateTime>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QSslError>
 
 #include <algorithm>
+#include <iterator>
 
 namespace OpenStreet {
 
@@ -21,6 +23,24 @@ constexpr int kMostRedirects = 4;
 constexpr std::int64_t kShortestLifetime = 60;
 constexpr int kOk = 200;
 constexpr int kNotModified = 304;
+constexpr int kFirstError = 400;
+
+int statusOf(const QNetworkReply& reply)
+{
+    return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+}
+
+QString reasonOf(const QNetworkReply& reply)
+{
+    const int status = statusOf(reply);
+    if (status >= kFirstError || reply.error() == QNetworkReply::NoError) {
+        return QStringLiteral("HTTP status %1").arg(status);
+    }
+    if (reply.error() == QNetworkReply::OperationCanceledError) {
+        return QStringLiteral("no answer in time");
+    }
+    return reply.errorString();
+}
 
 } // namespace
 
@@ -39,18 +59,27 @@ TileFetcher::~TileFetcher()
 
 void TileFetcher::setServer(const QString& server)
 {
-    if (server != mServer) {
-        mServer = server;
+    if (server.trimmed() != mServer) {
+        mServer = server.trimmed();
         mQueue.clear();
         dropUnwanted({});
-        mRetries.clear();
+        retry();
     }
+}
+
+void TileFetcher::retry()
+{
+    mRetries.clear();
+    mTold.clear();
 }
 
 void TileFetcher::setWanted(const std::vector<Request>& wanted)
 {
     std::set<TileAddress> addresses;
     mQueue.clear();
+    if (mServer.isEmpty()) {
+        return;
+    }
     for (auto request = wanted.rbegin(); request != wanted.rend(); ++request) {
         addresses.insert(request->tile);
         if (mRunning.count(request->tile) == 0 && mRetries.mayAsk(request->tile, now())) {
@@ -63,7 +92,7 @@ void TileFetcher::setWanted(const std::vector<Request>& wanted)
 
 void TileFetcher::reject(const TileAddress& tile)
 {
-    mRetries.failed(tile, RetryPlan::Failure::Tile, now());
+    fail(tile, RetryPlan::Failure::Tile, QStringLiteral("not a picture of a tile"));
 }
 
 int TileFetcher::loading() const
@@ -78,7 +107,7 @@ void TileFetcher::dropUnwanted(const std::set<TileAddress>& wanted)
             ++it;
             continue;
         }
-        QNetworkReply* reply = it->second;
+        QNetworkReply* reply = it->second.reply;
         it = mRunning.erase(it);
         reply->disconnect(this);
         reply->abort();
@@ -101,7 +130,8 @@ void TileFetcher::start(const Request& request)
 {
     const QUrl url = tileUrl(mServer, request.tile);
     if (!url.isValid()) {
-        mRetries.failed(request.tile, RetryPlan::Failure::Server, now());
+        fail(request.tile, RetryPlan::Failure::Server,
+             QStringLiteral("not an address of HTTP or HTTPS"));
         return;
     }
     QNetworkRequest network(url);
@@ -116,23 +146,56 @@ void TileFetcher::start(const Request& request)
         network.setRawHeader("If-Modified-Since", request.known.lastModified);
     }
     QNetworkReply* reply = mNetwork.get(network);
-    mRunning.emplace(request.tile, reply);
-    connect(reply, &QNetworkReply::downloadProgress, this, [reply](qint64 received, qint64 total) {
-        if (std::max(received, total) > kLargestTileBytes) {
-            reply->abort();
+    mRunning[request.tile].reply = reply;
+    const TileAddress tile = request.tile;
+    connect(reply, &QNetworkReply::downloadProgress, this,
+            [this, tile](qint64 received, qint64 total) {
+                if (std::max(received, total) > kLargestTileBytes) {
+                    stop(tile, QStringLiteral("larger than a tile can be"));
+                }
+            });
+    connect(reply, &QNetworkReply::sslErrors, this, [this, tile](const QList<QSslError>& errors) {
+        if (!errors.isEmpty()) { // the connection ends itself, without saying which
+            mRunning[tile].stopped = errors.first().errorString();
         }
     });
     connect(reply, &QNetworkReply::finished, this, [this, request, reply] {
-        mRunning.erase(request.tile);
         finish(request, *reply);
         reply->deleteLater();
         startNext();
     });
 }
 
+/// Ends in finish().
+void TileFetcher::stop(const TileAddress& tile, const QString& reason)
+{
+    Running& running = mRunning[tile];
+    running.stopped = reason;
+    running.reply->abort();
+}
+
+void TileFetcher::succeed(const TileAddress& tile)
+{
+    mRetries.succeeded(tile);
+    for (auto it = mTold.begin(); it != mTold.end();) {
+        it = it->second == RetryPlan::Failure::Server ? mTold.erase(it) : std::next(it);
+    }
+}
+
+void TileFetcher::fail(const TileAddress& tile, RetryPlan::Failure failure, const QString& reason)
+{
+    mRetries.failed(tile, failure, now());
+    if (mTold.emplace(reason, failure).second) {
+        const QUrl url = tileUrl(mServer, tile);
+        emit failed(url.isValid() ? url.toString() : mServer, reason);
+    }
+}
+
 void TileFetcher::finish(const Request& request, QNetworkReply& reply)
 {
-    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const QString stopped = mRunning[request.tile].stopped;
+    mRunning.erase(request.tile);
+    const int status = statusOf(reply);
     TileFreshness freshness;
     const std::int64_t seconds = QDateTime::currentSecsSinceEpoch();
     freshness.expires =
@@ -148,7 +211,7 @@ void TileFetcher::finish(const Request& request, QNetworkReply& reply)
         if (freshness.lastModified.isEmpty()) {
             freshness.lastModified = request.known.lastModified;
         }
-        mRetries.succeeded(request.tile);
+        succeed(request.tile);
         emit unchanged(request.tile, freshness);
         return;
     }
@@ -156,8 +219,8 @@ void TileFetcher::finish(const Request& request, QNetworkReply& reply)
         emit fetched(request.tile, reply.read(kLargestTileBytes), freshness);
         return;
     }
-    mRetries.failed(request.tile,
-                    status == 0 ? RetryPlan::Failure::Server : RetryPlan::Failure::Tile, now());
+    fail(request.tile, status == 0 ? RetryPlan::Failure::Server : RetryPlan::Failure::Tile,
+         stopped.isEmpty() ? reasonOf(reply) : stopped);
 }
 
 } // namespace OpenStreet

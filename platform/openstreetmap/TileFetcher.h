@@ -42,8 +42,10 @@ public:
     /// no longer is dropped; tiles that failed lately wait for their time.
     void setWanted(const std::vector<Request>& wanted);
     /// Answers to fetched(): whether the bytes were a picture.
-    void accept(const TileAddress& tile) { mRetries.succeeded(tile); }
+    void accept(const TileAddress& tile) { succeed(tile); }
     void reject(const TileAddress& tile);
+    /// What failed is asked for again without waiting for its time.
+    void retry();
     /// Requests running or waiting for a free connection.
     [[nodiscard]] int loading() const;
 
@@ -53,11 +55,24 @@ signals:
                  const OpenStreet::TileFreshness& freshness);
     /// The copy that is there is up to date.
     void unchanged(const OpenStreet::TileAddress& tile, const OpenStreet::TileFreshness& freshness);
+    /// Why there is no tile, in English. Not for each tile that fails: the same reason is given
+    /// again only for another server, after retry() or, where it is the server's as a whole, when
+    /// it has sent a tile since.
+    void failed(const QString& url, const QString& reason);
 
 private:
+    struct Running
+    {
+        QNetworkReply* reply = nullptr;
+        QString stopped; ///< why it was stopped from here
+    };
+
     void startNext();
     void start(const Request& request);
+    void stop(const TileAddress& tile, const QString& reason);
     void finish(const Request& request, QNetworkReply& reply);
+    void succeed(const TileAddress& tile);
+    void fail(const TileAddress& tile, RetryPlan::Failure failure, const QString& reason);
     void dropUnwanted(const std::set<TileAddress>& wanted);
     [[nodiscard]] double now() const { return static_cast<double>(mClock.elapsed()) / 1000.0; }
 
@@ -65,8 +80,9 @@ private:
     QString mServer;
     QByteArray mUserAgent;
     std::vector<Request> mQueue; ///< most urgent last
-    std::map<TileAddress, QNetworkReply*> mRunning;
+    std::map<TileAddress, Running> mRunning;
     RetryPlan mRetries;
+    std::map<QString, RetryPlan::Failure> mTold; ///< reasons that were given
     QElapsedTimer mClock;
 };
 

@@ -32,6 +32,7 @@ TileSource::TileSource(QObject* parent)
     mCaretaker.setMaxThreadCount(1);
     connect(&mFetcher, &TileFetcher::fetched, this, &TileSource::takeFetched);
     connect(&mFetcher, &TileFetcher::unchanged, this, &TileSource::takeUnchanged);
+    connect(&mFetcher, &TileFetcher::failed, this, &TileSource::failed);
 }
 
 TileSource::~TileSource()

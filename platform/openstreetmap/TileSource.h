@@ -37,6 +37,8 @@ public:
     /// Tiles of another server are shown until this one has sent its own.
     void setServer(const QString& server);
     void setUserAgent(const QByteArray& agent) { mFetcher.setUserAgent(agent); }
+    /// Tiles that failed are asked for again without waiting for their time.
+    void retry() { mFetcher.retry(); }
     /// Pictures of another folder that are there already stay.
     void setFolder(const QString& folder);
     /// Of the store on disk.
@@ -58,6 +60,8 @@ public:
 
 signals:
     void arrived();
+    /// As TileFetcher::failed().
+    void failed(const QString& url, const QString& reason);
 
 private:
     enum class State { Reading, Missing, Decoding, Old, Fresh };

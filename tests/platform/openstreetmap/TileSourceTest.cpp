@@ -11,6 +11,8 @@
 
 #include <functional>
 #include <optional>
+#include <string>
+#include <vector>
 
 using namespace OpenStreet;
 using VELIX::Test::TileServer;
@@ -25,6 +27,11 @@ protected:
         mSource.setFolder(mDir.path());
         mSource.setServer(mServer.url());
         mSource.setUserAgent("Tester/1.0");
+        QObject::connect(&mSource, &TileSource::failed,
+                         [this](const QString& url, const QString& reason) {
+                             mFailures.push_back(reason.toStdString());
+                             mFailedUrl = url;
+                         });
     }
 
     static bool waitFor(const std::function<bool()>& done, int milliseconds = 5000)
@@ -60,6 +67,8 @@ protected:
     TileServer mServer;
     TileSource mSource;
     std::map<TileAddress, std::vector<QImage>> mPictures;
+    std::vector<std::string> mFailures;
+    QString mFailedUrl; ///< the last one's
 };
 
 TEST_F(TileSourceTest, TilesComeFromTheServerOnceAndThenFromTheDisk)
@@ -174,6 +183,39 @@ TEST_F(TileSourceTest, WhatIsNoTileCostsAMissingTileAndALaterTry)
     mServer.setMode(Mode::Redirect);
     settle(mSource, {{6, 40, 1}});
     EXPECT_EQ(mPictures.count({6, 40, 1}), 1U);
+}
+
+TEST_F(TileSourceTest, TellsWhyThereAreNoTilesButNotForEachOfThem)
+{
+    using Reasons = std::vector<std::string>;
+    mServer.setMode(TileServer::Mode::NotFound);
+    settle(mSource, {{4, 8, 5}, {4, 9, 5}, {4, 10, 5}});
+    EXPECT_EQ(mFailures, Reasons{"HTTP status 404"});
+    EXPECT_TRUE(mFailedUrl.startsWith(mServer.url() + QStringLiteral("/4/"))) << "the tile's";
+    mServer.setMode(TileServer::Mode::Html);
+    settle(mSource, {{5, 8, 5}, {5, 9, 5}});
+    mServer.setMode(TileServer::Mode::Endless);
+    settle(mSource, {{6, 8, 5}});
+    ASSERT_EQ(mFailures.size(), 3U);
+    EXPECT_EQ(mFailures[1], "not a picture of a tile");
+    mServer.setMode(TileServer::Mode::Tiles);
+    mSource.retry();
+    settle(mSource, {{4, 8, 5}});
+    EXPECT_EQ(mPictures.count({4, 8, 5}), 1U) << "at once";
+    EXPECT_EQ(mFailures.size(), 3U);
+
+    mFailures.clear();
+    TileServer gone;
+    gone.stop();
+    mSource.setServer(gone.url());
+    settle(mSource, {{7, 1, 5}, {7, 2, 5}, {7, 3, 5}, {7, 4, 5}, {7, 5, 5}});
+    EXPECT_EQ(mFailures, Reasons{"Connection refused"});
+    mSource.setServer(QStringLiteral("ftp://tiles.example"));
+    settle(mSource, {{4, 1, 1}, {4, 2, 1}});
+    mSource.setServer(QString());
+    settle(mSource, {{4, 1, 1}, {4, 2, 1}});
+    EXPECT_EQ(mFailures, (Reasons{"Connection refused", "not an address of HTTP or HTTPS"}));
+    EXPECT_EQ(mFailedUrl, QStringLiteral("ftp://tiles.example"));
 }
 
 TEST_F(TileSourceTest, WithoutAServerTheDiskServes)
