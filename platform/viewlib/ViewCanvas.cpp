@@ -1,6 +1,5 @@
 #include "platform/viewlib/ViewCanvas.h"
 
-#include "platform/viewlib/ViewModel.h"
 #include "platform/viewlib/ViewPainter.h"
 #include "platform/viewlib/ViewSurface.h"
 #include "platform/viewlib/ViewVariables.h"
@@ -34,7 +33,7 @@ double ViewCanvas::usableScale(const ViewModel& model, double scale)
 void ViewCanvas::forget()
 {
     mStill = QImage();
-    mConditions.clear();
+    mMovesStill.clear();
 }
 
 bool ViewCanvas::isOutdated(const ViewVariables& variables) const
@@ -44,30 +43,30 @@ bool ViewCanvas::isOutdated(const ViewVariables& variables) const
 
 void ViewCanvas::findConditions(const ViewModel& model)
 {
-    mConditions.clear();
-    const auto append = [this](const ConditionList& list) {
-        mConditions.insert(mConditions.end(), list.begin(), list.end());
+    mMovesStill.assign(model.conditions.size(), false);
+    const auto take = [this](const ConditionList& list) {
+        for (const int condition : list) {
+            mMovesStill[static_cast<std::size_t>(condition)] = true;
+        }
     };
     for (const ViewElement& element : model.elements) {
-        append(element.conditions);
+        take(element.conditions);
         if (const ViewBinding* binding = bindingOf(element); binding != nullptr) {
-            for (const ViewScale& scale : binding->scales) {
-                append(scale.conditions);
+            for (const auto& scale : binding->scales) {
+                take(scale->conditions);
             }
         }
     }
-    std::sort(mConditions.begin(), mConditions.end());
-    mConditions.erase(std::unique(mConditions.begin(), mConditions.end()), mConditions.end());
 }
 
-std::vector<bool> ViewCanvas::truths(const ViewModel& model, const ViewVariables& variables) const
+bool ViewCanvas::isStillAsBefore(const ViewTruths& truths) const
 {
-    std::vector<bool> all;
-    all.reserve(mConditions.size());
-    for (const int condition : mConditions) {
-        all.push_back(model.conditions[static_cast<std::size_t>(condition)].holds(variables));
+    for (std::size_t i = 0; i < truths.size(); ++i) {
+        if (mMovesStill[i] && truths[i] != mTruths[i]) {
+            return false;
+        }
     }
-    return all;
+    return true;
 }
 
 void ViewCanvas::paintStill(const ViewModel& model, const ViewVariables& variables)
@@ -85,7 +84,7 @@ void ViewCanvas::paintStill(const ViewModel& model, const ViewVariables& variabl
     mStill.fill(mHasGround ? model.colors.background : QColor(Qt::transparent));
     QPainter painter(&mStill);
     ViewSurface surface(painter, mScale, model.colors);
-    ViewPainter(model, variables, surface).paintStill();
+    ViewPainter(model, mTruths, variables, surface).paintStill();
 }
 
 void ViewCanvas::paintFrame(const ViewModel& model, const ViewVariables& variables)
@@ -96,7 +95,7 @@ void ViewCanvas::paintFrame(const ViewModel& model, const ViewVariables& variabl
     std::memcpy(mFrame.bits(), mStill.constBits(), static_cast<std::size_t>(mStill.sizeInBytes()));
     QPainter painter(&mFrame);
     ViewSurface surface(painter, mScale, model.colors);
-    ViewPainter(model, variables, surface).paintMoving();
+    ViewPainter(model, mTruths, variables, surface).paintMoving();
 }
 
 const QImage& ViewCanvas::picture(const ViewModel& model, const ViewVariables& variables,
@@ -109,11 +108,12 @@ const QImage& ViewCanvas::picture(const ViewModel& model, const ViewVariables& v
     if (!isOther && mRevision == variables.revision()) {
         return mFrame;
     }
-    std::vector<bool> now = truths(model, variables);
-    if (isOther || now != mTruths) {
+    ViewTruths now = model.truths(variables);
+    const bool isStill = !isOther && isStillAsBefore(now);
+    mTruths = std::move(now);
+    if (!isStill) {
         mScale = scale;
         mHasGround = hasGround;
-        mTruths = std::move(now);
         paintStill(model, variables);
     }
     mRevision = variables.revision();

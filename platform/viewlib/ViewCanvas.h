@@ -1,12 +1,13 @@
 #pragma once
 
+#include "platform/viewlib/ViewModel.h"
+
 #include <QImage>
 
 #include <vector>
 
 namespace Vista2D {
 
-struct ViewModel;
 class ViewVariables;
 
 /// A view as a picture. What stands still is painted once for a scale and kept, so that a frame
@@ -32,8 +33,7 @@ public:
 
 private:
     void findConditions(const ViewModel& model);
-    [[nodiscard]] std::vector<bool> truths(const ViewModel& model,
-                                           const ViewVariables& variables) const;
+    [[nodiscard]] bool isStillAsBefore(const ViewTruths& truths) const;
     void paintStill(const ViewModel& model, const ViewVariables& variables);
     void paintFrame(const ViewModel& model, const ViewVariables& variables);
 
@@ -42,8 +42,8 @@ private:
     double mScale = 0.0;
     bool mHasGround = true;
     unsigned long mRevision = 0;
-    std::vector<int> mConditions; ///< those on which what stands still depends
-    std::vector<bool> mTruths;
+    std::vector<bool> mMovesStill; ///< of each condition: whether what stands still depends on it
+    ViewTruths mTruths;
 };
 
 } // namespace Vista2D

@@ -70,6 +70,11 @@ std::vector<ViewTick> ticksOf(const ViewScale& scale)
     return ticks;
 }
 
+double tickCount(const ViewScale& scale)
+{
+    return scale.step > 0.0 ? std::fabs(scale.to - scale.from) / scale.step * scale.minor : 0.0;
+}
+
 QString numberText(const ViewScale& scale, double shown)
 {
     if (!std::isfinite(shown) || std::fabs(shown) > kLongestNumber) {

@@ -33,6 +33,9 @@ struct ViewTick
 /// The ticks of a scale: whole multiples of the step are long ones.
 [[nodiscard]] std::vector<ViewTick> ticksOf(const ViewScale& scale);
 
+/// How many there are, give or take one.
+[[nodiscard]] double tickCount(const ViewScale& scale);
+
 /// The text of a shown value; dashes for one that is not a number.
 [[nodiscard]] QString numberText(const ViewScale& scale, double shown);
 /// The number at a tick.

@@ -8,6 +8,8 @@
 #include <QSizeF>
 #include <QString>
 
+#include <algorithm>
+#include <memory>
 #include <set>
 #include <type_traits>
 #include <variant>
@@ -17,6 +19,16 @@ namespace Vista2D {
 
 /// The conditions that must all hold, by their place in ViewModel::conditions.
 using ConditionList = std::vector<int>;
+
+/// Of every condition of a view whether it holds. They are found once for a picture: what they
+/// decide on is far more than they are, since groups and named scales hand theirs to many elements.
+using ViewTruths = std::vector<bool>;
+
+[[nodiscard]] inline bool hold(const ConditionList& list, const ViewTruths& truths)
+{
+    return std::all_of(list.begin(), list.end(),
+                       [&](int condition) { return truths[static_cast<std::size_t>(condition)]; });
+}
 
 /// A coloured stretch of a scale.
 struct ViewBand
@@ -47,6 +59,9 @@ struct ViewScale
     [[nodiscard]] bool hasRange() const { return from != to; }
 };
 
+/// Instruments share the scales that have a name, of which thousands may take the same.
+using ViewScales = std::vector<std::shared_ptr<const ViewScale>>;
+
 struct ViewText
 {
     enum class Align { Left, Center, Right };
@@ -56,7 +71,7 @@ struct ViewText
     Align align = Align::Left;
     QColor color;
     bool bold = false;
-    double width = 0.0; ///< longer texts are cut; 0: none is
+    double width = 0.0; ///< longer texts are cut; 0: those that are longer than the panel
 };
 
 /// A text that takes the place of the number, or lights a lamp.
@@ -82,9 +97,18 @@ struct ViewBinding
 {
     int slot = -1; ///< -1: none
     int stateSlot = -1;
-    std::vector<ViewScale> scales;
+    ViewScales scales;
     std::vector<ViewCaption> captions;
     std::vector<ViewCase> cases;
+
+    /// The scale in force; null if none is.
+    [[nodiscard]] const ViewScale* scaleOf(const ViewTruths& truths) const
+    {
+        const auto first = std::find_if(scales.begin(), scales.end(), [&](const auto& scale) {
+            return hold(scale->conditions, truths);
+        });
+        return first == scales.end() ? nullptr : first->get();
+    }
 };
 
 /// Angles in degrees, clockwise from twelve o'clock.
@@ -215,25 +239,15 @@ struct ViewModel
     std::vector<ViewElement> elements; ///< in the order of drawing
     std::set<int> slotsUsed;           ///< of the variables that something depends on
 
-    [[nodiscard]] bool holds(const ConditionList& list, const ViewVariables& variables) const
+    /// Of every condition whether it holds.
+    [[nodiscard]] ViewTruths truths(const ViewVariables& variables) const
     {
-        for (const int condition : list) {
-            if (!conditions[static_cast<std::size_t>(condition)].holds(variables)) {
-                return false;
-            }
+        ViewTruths all;
+        all.reserve(conditions.size());
+        for (const ViewCondition& condition : conditions) {
+            all.push_back(condition.holds(variables));
         }
-        return true;
-    }
-    /// The scale in force; null if none is.
-    [[nodiscard]] const ViewScale* scaleOf(const ViewBinding& binding,
-                                           const ViewVariables& variables) const
-    {
-        for (const ViewScale& scale : binding.scales) {
-            if (holds(scale.conditions, variables)) {
-                return &scale;
-            }
-        }
-        return nullptr;
+        return all;
     }
 };
 

@@ -22,7 +22,7 @@ const ViewScale& orNone(const ViewScale* scale)
 ViewReading ViewPainter::reading(const ViewBinding& binding) const
 {
     ViewReading reading;
-    reading.scale = &orNone(mModel.scaleOf(binding, mVariables));
+    reading.scale = &orNone(binding.scaleOf(mTruths));
     reading.shown = std::numeric_limits<double>::quiet_NaN();
     if (binding.slot >= 0) {
         reading.shown = shownValue(*reading.scale, mVariables.value(binding.slot));
@@ -30,7 +30,7 @@ ViewReading ViewPainter::reading(const ViewBinding& binding) const
         reading.state = state >= 2.0 ? 2 : state >= 1.0 ? 1 : 0;
     }
     for (const ViewCase& one : binding.cases) {
-        if (mModel.holds(one.conditions, mVariables)) {
+        if (hold(one.conditions, mTruths)) {
             reading.inCase = &one;
             break;
         }
@@ -41,7 +41,7 @@ ViewReading ViewPainter::reading(const ViewBinding& binding) const
 void ViewPainter::paintStill()
 {
     for (const ViewElement& element : mModel.elements) {
-        if (mModel.holds(element.conditions, mVariables)) {
+        if (hold(element.conditions, mTruths)) {
             paintStill(element);
         }
     }
@@ -50,7 +50,7 @@ void ViewPainter::paintStill()
 void ViewPainter::paintMoving()
 {
     for (const ViewElement& element : mModel.elements) {
-        if (mModel.holds(element.conditions, mVariables)) {
+        if (hold(element.conditions, mTruths)) {
             paintMoving(element);
         }
     }
@@ -59,7 +59,7 @@ void ViewPainter::paintMoving()
 void ViewPainter::paintStill(const ViewElement& element)
 {
     const auto scaleOf = [this](const ViewBinding& binding) -> const ViewScale& {
-        return orNone(mModel.scaleOf(binding, mVariables));
+        return orNone(binding.scaleOf(mTruths));
     };
     if (const auto* gauge = std::get_if<ViewGauge>(&element.shape)) {
         paintDial(mSurface, *gauge, scaleOf(gauge->binding));

@@ -13,8 +13,10 @@ class ViewVariables;
 class ViewPainter
 {
 public:
-    ViewPainter(const ViewModel& model, const ViewVariables& variables, ViewSurface& surface)
-        : mModel(model), mVariables(variables), mSurface(surface)
+    /// \param truths of the model's conditions, with these variables
+    ViewPainter(const ViewModel& model, const ViewTruths& truths, const ViewVariables& variables,
+                ViewSurface& surface)
+        : mModel(model), mTruths(truths), mVariables(variables), mSurface(surface)
     {}
 
     void paintStill();
@@ -26,6 +28,7 @@ private:
     void paintMoving(const ViewElement& element);
 
     const ViewModel& mModel;
+    const ViewTruths& mTruths;
     const ViewVariables& mVariables;
     ViewSurface& mSurface;
 };

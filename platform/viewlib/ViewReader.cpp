@@ -1,6 +1,9 @@
 #include "platform/viewlib/ViewReader.h"
 
+#include "platform/viewlib/ViewGeometry.h"
 #include "platform/viewlib/ViewVariables.h"
+
+#include <algorithm>
 
 namespace Vista2D {
 
@@ -158,8 +161,41 @@ void ViewReader::close(int line)
     }
 }
 
-/// A dial without a range has nowhere to point.
+namespace {
+
+/// What there is to draw in an instrument, with the scale that has most.
+std::size_t detailsOf(const ViewBinding& binding)
+{
+    std::size_t most = 0;
+    for (const auto& scale : binding.scales) {
+        const auto ticks = static_cast<std::size_t>(tickCount(*scale));
+        most = std::max(most, ticks + scale->bands.size() + scale->marks.size());
+    }
+    return most + binding.captions.size();
+}
+
+} // namespace
+
+/// The instrument is the last element: its block holds no others.
 void ViewReader::checkInstrument(const Block& closed)
+{
+    const std::size_t details = detailsOf(*bindingOf(mModel.elements[closed.element]));
+    if (mDetails + details > kMostDetails) {
+        if (!mCrowded) {
+            mErrors.add(closed.line, closed.word,
+                        QStringLiteral("more than %1 ticks, bands, marks and texts in the view")
+                            .arg(kMostDetails));
+        }
+        mCrowded = true;
+        mModel.elements.pop_back();
+        return;
+    }
+    mDetails += details;
+    checkRange(closed);
+}
+
+/// A dial without a range has nowhere to point.
+void ViewReader::checkRange(const Block& closed)
 {
     const ViewElement& element = mModel.elements[closed.element];
     const bool needsRange = std::holds_alternative<ViewGauge>(element.shape) ||
@@ -167,11 +203,10 @@ void ViewReader::checkInstrument(const Block& closed)
     if (!needsRange) {
         return;
     }
-    const std::vector<ViewScale>& scales = bindingOf(element)->scales;
-    bool hasRange = !scales.empty();
-    for (const ViewScale& scale : scales) {
-        hasRange = hasRange && scale.hasRange();
-    }
+    const ViewScales& scales = bindingOf(element)->scales;
+    const bool hasRange =
+        !scales.empty() && std::all_of(scales.begin(), scales.end(),
+                                       [](const auto& scale) { return scale->hasRange(); });
     if (!hasRange) {
         mErrors.add(closed.line, closed.word,
                     QStringLiteral("needs a scale with \"from\" and \"to\""));
@@ -219,6 +254,21 @@ bool ViewReader::box(ViewAttributes& attributes, QRectF& target)
     return hasCorner && hasSize;
 }
 
+/// A longer text than a panel has room for would cost time with every picture.
+bool ViewReader::shownText(ViewAttributes& attributes, const char* name, QString& target)
+{
+    QString given;
+    if (!attributes.text(name, given)) {
+        return false;
+    }
+    if (given.size() > kLongestText) {
+        attributes.wrong(name, QStringLiteral("is longer than %1 characters").arg(kLongestText));
+        given.truncate(kLongestText);
+    }
+    target = given;
+    return true;
+}
+
 void ViewReader::textStyle(ViewAttributes& attributes, ViewText& style)
 {
     using Align = ViewText::Align;
@@ -259,7 +309,7 @@ ViewBinding& ViewReader::binding()
     return *bindingOf(mModel.elements[block().element]);
 }
 
-std::vector<ViewScale>& ViewReader::openScales()
+ViewScales& ViewReader::openScales()
 {
     return block().kind == Block::Kind::Scales ? mScales[block().scales] : binding().scales;
 }

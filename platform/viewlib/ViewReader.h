@@ -22,7 +22,13 @@ public:
     static constexpr int kLargestFile = 1 << 20; ///< bytes
     static constexpr std::size_t kMostElements = 5000;
     static constexpr std::size_t kDeepestBlock = 32;
-    static constexpr int kMostTicks = 200; ///< of one scale, short ones included
+    static constexpr int kMostTicks = 200;         ///< of one scale, short ones included
+    static constexpr std::size_t kMostScales = 64; ///< of one instrument or name
+    static constexpr std::size_t kMostBands = 64;  ///< of one scale; marks as well
+    /// Ticks, bands, marks and texts of all instruments together. Each costs a stroke or a text
+    /// where named scales cost the file a word.
+    static constexpr std::size_t kMostDetails = 10000;
+    static constexpr int kLongestText = 200; ///< characters
 
     enum class Layout { Wide, Tall };
 
@@ -90,7 +96,10 @@ private:
     void add(const ViewStatement& statement, ViewAttributes& attributes, Shape shape);
     /// The instrument that the open block belongs to.
     [[nodiscard]] ViewBinding& binding();
-    [[nodiscard]] std::vector<ViewScale>& openScales();
+    [[nodiscard]] ViewScales& openScales();
+    enum class Part { Band, Mark };
+    void addToScale(ViewAttributes& attributes, Part part, const ViewBand& band);
+    bool shownText(ViewAttributes& attributes, const char* name, QString& target);
     void readCaption(ViewAttributes& attributes, ViewCaption::Shows shows);
     void bind(ViewAttributes& attributes, ViewBinding& target, bool isNeeded);
     void condition(ViewAttributes& attributes, ConditionList& target);
@@ -99,6 +108,7 @@ private:
     void textStyle(ViewAttributes& attributes, ViewText& style);
     void rangeOf(ViewAttributes& attributes, ViewScale& scale);
     void checkInstrument(const Block& closed);
+    void checkRange(const Block& closed);
 
     ViewVariables& mVariables;
     Layout mLayout;
@@ -106,10 +116,12 @@ private:
     ViewModel mModel;
     ViewErrors mErrors;
     ViewAttributes::ColorNames mColors;
-    std::map<QString, std::vector<ViewScale>> mScales; ///< by name
+    std::map<QString, ViewScales> mScales; ///< by name
     std::vector<Block> mBlocks;
     std::size_t mIgnored = 0; ///< blocks opened too deep
+    std::size_t mDetails = 0; ///< of the instruments so far
     bool mFull = false;       ///< the file has too many elements
+    bool mCrowded = false;    ///< it has too many details
 };
 
 } // namespace Vista2D

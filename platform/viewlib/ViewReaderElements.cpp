@@ -171,7 +171,7 @@ void ViewReader::readLamp(ViewStatement& statement, ViewAttributes& attributes)
 {
     ViewLamp lamp;
     bind(attributes, lamp.binding, false);
-    attributes.text("text", lamp.text);
+    shownText(attributes, "text", lamp.text);
     attributes.number("textsize", lamp.textSize, 1.0, kLargestText);
     attributes.number("corner", lamp.corner, 0.0, kFarthest);
     if (box(attributes, lamp.box)) {
@@ -184,7 +184,7 @@ void ViewReader::readLabel(ViewStatement& statement, ViewAttributes& attributes)
     ViewLabel label;
     label.style.color = mModel.colors.text;
     textStyle(attributes, label.style);
-    const bool hasText = attributes.require(attributes.text("text", label.text), "text");
+    const bool hasText = attributes.require(shownText(attributes, "text", label.text), "text");
     if (place(attributes, "at", label.style.at) && hasText) {
         add(statement, attributes, std::move(label));
     }

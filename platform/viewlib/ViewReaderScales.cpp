@@ -1,8 +1,7 @@
 // The lines of instruments.
 
+#include "platform/viewlib/ViewGeometry.h"
 #include "platform/viewlib/ViewReader.h"
-
-#include <cmath>
 
 namespace Vista2D {
 
@@ -16,9 +15,7 @@ void ViewReader::rangeOf(ViewAttributes& attributes, ViewScale& scale)
     }
     attributes.number("step", scale.step, 0.0, kLargest);
     attributes.number("minor", scale.minor, 1, kMostTicks);
-    const double ticks =
-        scale.step > 0.0 ? std::fabs(scale.to - scale.from) / scale.step * scale.minor : 0.0;
-    if (ticks > kMostTicks) {
+    if (tickCount(scale) > kMostTicks) {
         attributes.wrong("step", QStringLiteral("makes more than %1 ticks").arg(kMostTicks));
         scale.step = 0.0;
     }
@@ -35,13 +32,31 @@ void ViewReader::readScale(ViewStatement&, ViewAttributes& attributes)
     attributes.number("offset", scale.offset, -kLargest, kLargest);
     attributes.number("round", scale.round, 0.0, kLargest);
     attributes.number("decimals", scale.decimals, 0, 9);
-    attributes.text("unit", scale.unit);
-    std::vector<ViewScale>& scales = openScales();
-    if (scales.size() < 64) {
-        scales.push_back(std::move(scale));
+    shownText(attributes, "unit", scale.unit);
+    ViewScales& scales = openScales();
+    if (scales.size() < kMostScales) {
+        scales.push_back(std::make_shared<const ViewScale>(std::move(scale)));
     } else {
-        attributes.wrong(QStringLiteral("more than 64 scales"));
+        attributes.wrong(QStringLiteral("more than %1 scales").arg(kMostScales));
     }
+}
+
+/// Changes a copy: others may have the last scale too.
+void ViewReader::addToScale(ViewAttributes& attributes, Part part, const ViewBand& band)
+{
+    ViewScales& scales = openScales();
+    if (scales.empty()) {
+        attributes.wrong(QStringLiteral("no scale before it"));
+        return;
+    }
+    auto changed = std::make_shared<ViewScale>(*scales.back());
+    std::vector<ViewBand>& list = part == Part::Band ? changed->bands : changed->marks;
+    if (list.size() == kMostBands) {
+        attributes.wrong(QStringLiteral("more than %1 of them at a scale").arg(kMostBands));
+        return;
+    }
+    list.push_back(band);
+    scales.back() = std::move(changed);
 }
 
 void ViewReader::readBand(ViewStatement&, ViewAttributes& attributes)
@@ -52,10 +67,8 @@ void ViewReader::readBand(ViewStatement&, ViewAttributes& attributes)
     const bool hasTo =
         attributes.require(attributes.number("to", band.to, -kLargest, kLargest), "to");
     const bool hasColor = attributes.require(attributes.color("color", band.color), "color");
-    if (openScales().empty()) {
-        attributes.wrong(QStringLiteral("no scale before it"));
-    } else if (hasFrom && hasTo && hasColor) {
-        openScales().back().bands.push_back(band);
+    if (hasFrom && hasTo && hasColor) {
+        addToScale(attributes, Part::Band, band);
     }
 }
 
@@ -65,10 +78,8 @@ void ViewReader::readMark(ViewStatement&, ViewAttributes& attributes)
     const bool hasPlace =
         attributes.require(attributes.number("at", mark.from, -kLargest, kLargest), "at");
     const bool hasColor = attributes.require(attributes.color("color", mark.color), "color");
-    if (openScales().empty()) {
-        attributes.wrong(QStringLiteral("no scale before it"));
-    } else if (hasPlace && hasColor) {
-        openScales().back().marks.push_back(mark);
+    if (hasPlace && hasColor) {
+        addToScale(attributes, Part::Mark, mark);
     }
 }
 
@@ -100,7 +111,7 @@ void ViewReader::readCase(ViewStatement&, ViewAttributes& attributes)
     const std::size_t before = mModel.conditions.size();
     condition(attributes, read.conditions);
     const bool hasCondition = attributes.require(mModel.conditions.size() > before, "if");
-    attributes.text("text", read.text);
+    shownText(attributes, "text", read.text);
     attributes.color("color", read.color);
     if (hasCondition) {
         binding().cases.push_back(std::move(read));

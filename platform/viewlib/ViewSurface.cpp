@@ -74,13 +74,17 @@ void ViewSurface::text(const ViewText& style, const QString& text, const QColor&
     mPainter.setFont(font(style.size, style.bold));
     mPainter.setPen(color);
     const QFontMetricsF metrics(mPainter.font(), mPainter.device());
+    // Large letters cost most, those that nobody sees as well, so that the panel is the limit.
+    const double panel = mPainter.device()->width();
+    const double room = style.width > 0.0 ? std::min(style.width * mScale, panel) : panel;
     QString shown = text;
-    if (style.width > 0.0 && metrics.horizontalAdvance(text) > style.width * mScale) {
-        shown = metrics.elidedText(text, Qt::ElideRight, style.width * mScale);
+    double width = metrics.horizontalAdvance(text);
+    if (width > room) {
+        shown = metrics.elidedText(text, Qt::ElideRight, room);
+        width = metrics.horizontalAdvance(shown);
     }
     QPointF at = style.at * mScale;
     if (style.align != ViewText::Align::Left) {
-        const double width = metrics.horizontalAdvance(shown);
         at.rx() -= style.align == ViewText::Align::Right ? width : width / 2.0;
     }
     // Base lines on whole pixels keep the feet of the letters sharp.

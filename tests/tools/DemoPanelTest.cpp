@@ -86,7 +86,7 @@ TEST(DemoPanel, BandsRepeatTheThresholdsOfTheProfile)
                 }
                 for (const auto& [name, p] : bound) {
                     if (binding->slot == variables.find(name)) {
-                        const ViewScale* scale = reader.model().scaleOf(*binding, variables);
+                        const ViewScale* scale = binding->scaleOf(reader.model().truths(variables));
                         ASSERT_NE(scale, nullptr) << name;
                         compare(profile, p, *scale,
                                 name + " " + variant.name.toStdString() + std::to_string(unit));

@@ -99,7 +99,36 @@ TEST(ViewReader, HostileFilesEndInFewErrors)
     const std::string many =
         mistakes("view size=9,9\n" + QByteArray("line from=1,1 to=2,2\n").repeated(6000));
     EXPECT_EQ(many, "5002 line: more than 5000 elements\n5000");
+
+    // Few lines that many elements take over.
+    const QByteArray scale = "scale from=0 to=1 step=1 unit=" + QByteArray(300, 'x') + "\n";
+    const QByteArray named =
+        "view size=9,9\nscales name=A {\n" + scale +
+        QByteArray("band from=0 to=1 color=limit\nmark at=0 color=limit\n").repeated(99) + "}\n";
+    const std::string scales = mistakes(named + QByteArray("value var=N at=1,1 scales=A\n"));
+    EXPECT_EQ(scales.substr(0, scales.find('\n')),
+              "3 scale: \"unit\" is longer than 200 characters");
+    EXPECT_NE(scales.find("132 band: more than 64 of them at a scale\n"
+                          "133 mark: more than 64 of them at a scale\n"),
+              std::string::npos);
+    const std::string crowded = mistakes(
+        "view size=9,9\nscales name=A {\nscale from=0 to=200 step=1\n}\n" +
+        QByteArray("bar var=N at=1,1 size=9,9 scales=A\n").repeated(99) + "line from=1,1 to=2,2");
+    EXPECT_EQ(crowded, "55 bar: more than 10000 ticks, bands, marks and texts in the view\n51");
+
     ViewVariables variables;
+    ViewReader taken(variables);
+    taken.read("view size=9,9\nscales name=A {\nscale from=0 to=1\n}\n"
+               "value var=N at=1,1 scales=A\nvalue var=N at=1,1 scales=A {\n"
+               "band from=0 to=1 color=limit\n}");
+    const auto scaleOf = [&](std::size_t i) {
+        return bindingOf(taken.model().elements.at(i))->scales.front();
+    };
+    const auto named0 = scaleOf(0);
+    EXPECT_EQ(named0.use_count(), 3); // the name, the element and here
+    EXPECT_TRUE(named0->bands.empty());
+    EXPECT_EQ(scaleOf(1)->bands.size(), 1U);
+
     ViewReader reader(variables);
     reader.read(QByteArray("?\n").repeated(100000));
     EXPECT_EQ(reader.errors().back().message, "further mistakes are not listed");
@@ -126,7 +155,8 @@ TEST(ViewReader, ConditionsChooseScaleAndUnit)
     for (const auto& row : rows) {
         variables.set(variables.slot("UNIT"), row.unit);
         variables.set(variables.slot("VARIANT"), row.variant);
-        EXPECT_EQ(reader.model().scaleOf(value.binding, variables)->unit.toStdString(), row.result)
+        EXPECT_EQ(value.binding.scaleOf(reader.model().truths(variables))->unit.toStdString(),
+                  row.result)
             << row.unit << " " << row.variant;
     }
 }
