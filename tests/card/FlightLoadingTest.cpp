@@ -1,10 +1,5 @@
-#include "card/CardContainer.h"
-#include "profile/Profile.h"
-#include "tests/support/CapturedDiagnostics.h"
-#include "tests/support/CardFolder.h"
+#include "tests/card/CardFixture.h"
 #include "tests/support/ProfileBuilder.h"
-
-#include <gtest/gtest.h>
 
 namespace VELIX::Test {
 namespace {
@@ -13,45 +8,31 @@ constexpr std::uint32_t kSpeed = 500;
 constexpr std::uint32_t kOther = 501;
 
 /// Two flights at one sample a second: 60 from 100 to 199 and from 400 to 499, else 0.
-RecordBuilder twoFlights()
-{
-    RecordBuilder record;
-    for (int second = 0; second < 600; ++second) {
-        const bool flying = (second >= 100 && second < 200) || (second >= 400 && second < 500);
-        record.at(second).id(kSpeed).floatValue(flying ? 60.0F : 0.0F);
-        record.id(kOther).source(0).ushortValue(static_cast<std::uint16_t>(second)).source(2);
-    }
-    return record;
-}
-
-class FlightLoading : public ::testing::Test
+class FlightLoading : public CardFixture
 {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(ProfileBuilder()
-                        .conversion("km/h", "kt", 0.5, 0)
-                        .device("EMU")
-                        .parameter(kSpeed, QStringLiteral("Speed"), "FLOAT")
-                        .set("velixDataType", "GroundSpeed")
-                        .set("unitMetric", "km/h")
-                        .set("unitImperial", "kt")
-                        .parameter(kOther, QStringLiteral("Other"), "USHORT")
-                        .load(mProfile));
-        mFolder.add("a.CAN", twoFlights());
-        mFolder.add("b.CAN", RecordBuilder()
-                                 .date(RecordBuilder::utc(2025, 6, 30, 12, 0, 0))
-                                 .at(650)
-                                 .id(kOther)
-                                 .ushortValue(650));
-        mCard.readContainer(mFolder.path());
+        ProfileBuilder builder;
+        builder.conversion("km/h", "kt", 0.5, 0).device("EMU");
+        builder.parameter(kOther, QStringLiteral("Other"), "USHORT");
+        builder.parameter(kSpeed, QStringLiteral("Speed"), "FLOAT");
+        builder.set("velixDataType", "GroundSpeed");
+        builder.set("unitMetric", "km/h").set("unitImperial", "kt");
+        ASSERT_TRUE(builder.load(mProfile));
+        RecordBuilder record;
+        for (int second = 0; second < 600; ++second) {
+            const bool flying = second % 300 >= 100 && second % 300 < 200;
+            record.at(second).id(kSpeed).source(2).floatValue(flying ? 60.0F : 0.0F);
+            record.id(kOther).source(0).ushortValue(static_cast<std::uint16_t>(second));
+        }
+        mFolder.add("a.CAN", record);
+        mFolder.add("b.CAN",
+                    recordOf(kOther, {{650, 650}}).date(RecordBuilder::utc(2025, 6, 30, 12, 0, 0)));
+        read();
     }
     const std::vector<RecordFlight>& flights() const { return mCard.recordCycles().at(1).flights; }
-
-    CapturedDiagnostics mOutput;
-    CardFolder mFolder;
-    Profile mProfile;
-    CardContainer mCard{mProfile};
+    std::size_t workingSize() const { return mCard.recordData().entries(kOther).size(); }
 };
 
 TEST_F(FlightLoading, AWholeCycleKeepsAllEntriesAndKnowsItsFlights)
@@ -65,7 +46,7 @@ TEST_F(FlightLoading, AWholeCycleKeepsAllEntriesAndKnowsItsFlights)
     EXPECT_EQ(flights()[1].takeoffTime, 411.0);
     // The cycle's date is that of the next file less the stop time of its first (599 s).
     EXPECT_EQ(flights()[0].dateTime, RecordBuilder::utc(2025, 6, 30, 12, 0, 0).addSecs(111 - 599));
-    EXPECT_EQ(mCard.recordData().entries(kOther).size(), 601U);
+    EXPECT_EQ(workingSize(), 601U);
     EXPECT_EQ(&mCard.recordData(), &mCard.loadedData()) << "shared, not copied";
     EXPECT_FALSE(mCard.recordData().flight.statistic.valid);
     ASSERT_EQ(mCard.recordData().cycleFlights.size(), 2U);
@@ -96,30 +77,28 @@ TEST_F(FlightLoading, AChosenFlightNarrowsTheWorkingData)
     EXPECT_EQ(mCard.getValue(other, 5.5), 5.0) << "look-ups reach beyond the flight";
 }
 
-TEST_F(FlightLoading, AFlightThatIsNotThereLoadsTheWholeCycle)
+TEST_F(FlightLoading, WithoutTheFlightTheWholeRecordIsShown)
 {
     for (const int flight : {2, 1000000, -7}) {
         ASSERT_EQ(mCard.loadCycle(1, flight), 1);
-        EXPECT_EQ(mCard.recordData().entries(kOther).size(), 601U);
+        EXPECT_EQ(workingSize(), 601U) << "no flight " << flight;
     }
-}
-
-TEST_F(FlightLoading, ARefusedLoadChoosesNoFlightInTheOldData)
-{
-    mCard.loadCycle(1, -1);
     mCard.setMemoryLimit(1);
     EXPECT_EQ(mCard.loadCycle(1, 0), 1);
     EXPECT_FALSE(mCard.lastError().isEmpty());
-    EXPECT_EQ(mCard.recordData().entries(kOther).size(), 601U);
-}
+    EXPECT_EQ(workingSize(), 601U) << "a refused load chooses none in the old data";
 
-TEST_F(FlightLoading, LoadingFilesDropsTheChosenFlight)
-{
+    mCard.setMemoryLimit(0);
     mCard.loadCycle(1, 0);
-    mCard.loadFiles(CardFolder::names({"a.CAN"}));
-    EXPECT_FALSE(mCard.recordData().flight.statistic.valid);
+    load({"a.CAN"});
+    EXPECT_FALSE(mCard.recordData().flight.statistic.valid) << "loading files drops it";
     EXPECT_TRUE(mCard.recordData().cycleFlights.empty());
-    EXPECT_EQ(mCard.recordData().entries(kOther).size(), 600U);
+    EXPECT_EQ(workingSize(), 600U);
+
+    mProfile.clear(); // and with it the ground speed
+    ASSERT_EQ(mCard.loadCycle(1, 0), 1);
+    EXPECT_TRUE(flights().empty());
+    EXPECT_EQ(workingSize(), 601U);
 }
 
 TEST_F(FlightLoading, FlightsAreFoundInTheUnitThatIsShown)
@@ -130,18 +109,6 @@ TEST_F(FlightLoading, FlightsAreFoundInTheUnitThatIsShown)
     mProfile.setCurrentUnit(eUnitMetric);
     mCard.loadCycle(1, -1);
     EXPECT_EQ(flights().size(), 2U) << "found anew on every load";
-}
-
-TEST_F(FlightLoading, NoGroundSpeedNoFlights)
-{
-    Profile without;
-    ASSERT_TRUE(
-        ProfileBuilder().device("EMU").parameter(1, QStringLiteral("x"), "FLOAT").load(without));
-    CardContainer card(without);
-    card.readContainer(mFolder.path());
-    ASSERT_EQ(card.loadCycle(1, 0), 1);
-    EXPECT_TRUE(card.recordCycles().at(1).flights.empty());
-    EXPECT_EQ(card.recordData().entries(kOther).size(), 601U);
 }
 
 } // namespace

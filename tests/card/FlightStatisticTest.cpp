@@ -1,11 +1,6 @@
-#include "card/CardContainer.h"
 #include "card/FlightStatisticCalculator.h"
-#include "profile/Profile.h"
-#include "tests/support/CapturedDiagnostics.h"
-#include "tests/support/CardFolder.h"
+#include "tests/card/CardFixture.h"
 #include "tests/support/ProfileBuilder.h"
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 
@@ -14,7 +9,7 @@ namespace {
 
 enum : std::uint32_t { eLat = 1, eLon, eAlt, eThrottle, eFuelFlowA, eFuelFlowB, eSpeed };
 
-class FlightStatistics : public ::testing::Test
+class FlightStatistics : public CardFixture
 {
 protected:
     void SetUp() override
@@ -38,9 +33,7 @@ protected:
     FlightStatistic statistic(double takeoff, double landing)
     {
         mRecord.at(2000).id(99).ucharValue(0); // look-ups reach to the end of the record
-        mFolder.add("a.CAN", mRecord);
-        mCard.readContainer(mFolder.path());
-        mCard.loadFiles(CardFolder::names({"a.CAN"}));
+        loadOnly(mRecord);
         RecordFlight flight;
         flight.startTime = takeoff - 30.0;
         flight.stopTime = landing + 30.0;
@@ -51,10 +44,6 @@ protected:
         return flight.statistic;
     }
 
-    CapturedDiagnostics mOutput;
-    CardFolder mFolder;
-    Profile mProfile;
-    CardContainer mCard{mProfile};
     RecordBuilder mRecord;
 };
 
@@ -81,33 +70,18 @@ TEST_F(FlightStatistics, SumsUpATowFlight)
     EXPECT_NEAR(s.fuelPer100, 0.3, 1e-12);
 }
 
-TEST_F(FlightStatistics, OnlySamplesInsideTheSpanCount)
+TEST_F(FlightStatistics, OnlyTheSpanCountsByTimeAndAltitudesFromATenthOfAMetre)
 {
-    add(eAlt, {{69.9, 5}, {70, 100}, {130, 200}, {230, 250}, {230.1, 900}});
+    add(eAlt, {{69.9, 5}, {70, 100}, {130, 0.05}, {150, 250}, {140, 250}, {230, 0.2}, {231, 900}});
     add(eSpeed, {{69, 500}, {70, 10}, {231, 500}});
-    add(eFuelFlowA, {{60, 3600}, {70, 3600}, {71, 3600}, {231, 3600}});
+    add(eFuelFlowA, {{60, 3600}, {70, 3600}, {130, 36}, {120, 72}, {231, 3600}});
     const FlightStatistic s = statistic(100, 200);
-    EXPECT_EQ(s.minAlt, 100.0);
-    EXPECT_EQ(s.maxAlt, 250.0) << "boundaries included";
+    EXPECT_FLOAT_EQ(static_cast<float>(s.minAlt), 0.2F) << "boundaries included";
+    EXPECT_EQ(s.maxAlt, 250.0);
+    EXPECT_EQ(s.descendRate, s.climb / 60.0) << "from 140, where the maximum comes first";
     EXPECT_EQ(s.maxSpeed, 10.0);
-    EXPECT_NEAR(s.fuelA, 1.0, 1e-12) << "the first sample only sets the time";
-}
-
-TEST_F(FlightStatistics, EntriesAreWalkedByTime)
-{
-    add(eFuelFlowA, {{110, 3600}, {130, 36}, {120, 72}});
-    add(eAlt, {{140, 300}, {120, 100}, {130, 300}, {110, 200}});
-    const FlightStatistic s = statistic(100, 200);
-    EXPECT_NEAR(s.fuelA, 10 * 72 / 3600.0 + 10 * 36 / 3600.0, 1e-12);
-    EXPECT_EQ(s.climbRate, 200.0 / 30.0) << "the maximum at 130 comes first";
-}
-
-TEST_F(FlightStatistics, AltitudesBelowATenthOfAMetreAreNone)
-{
-    add(eAlt, {{110, 0.05}, {120, -20}, {130, 0.2}, {140, 10}});
-    const FlightStatistic s = statistic(100, 200);
-    EXPECT_FLOAT_EQ(static_cast<float>(s.minAlt), 0.2F);
-    EXPECT_EQ(s.maxAlt, 10.0);
+    EXPECT_NEAR(s.fuelA, 50 * 72 / 3600.0 + 10 * 36 / 3600.0, 1e-12)
+        << "the first sample only sets the time";
 }
 
 /// Latitude in the record's form, that moves a hundredth of a degree north with each second.
@@ -132,25 +106,21 @@ TEST_F(FlightStatistics, MeasuresTheTakeOffFromTheRoll)
     EXPECT_NEAR(s.distance15, 16 * 1111.2, 3.0) << "from 102 to 118";
 }
 
-TEST_F(FlightStatistics, PointsNeverFoundLieAtTheOrigin)
+TEST_F(FlightStatistics, WhatIsNeverFoundIsZeroOrNotFiniteOrLiesAtTheOrigin)
 {
-    add(eLat, {{99, 1000}, {150, 1000}});
-    add(eLon, {{99, 0}, {150, 0}});
-    add(eThrottle, {{100, 91}});
-    const FlightStatistic s = statistic(100, 200);
-    EXPECT_NEAR(s.distance, 10 * 60 * 1852.0, 3.0);
-    EXPECT_NEAR(s.distance15, 10 * 60 * 1852.0, 3.0);
-}
-
-TEST_F(FlightStatistics, WithoutSamplesFiguresAreZeroOrNotFinite)
-{
-    const FlightStatistic s = statistic(100, 200);
+    FlightStatistic s = statistic(100, 200);
     for (const double figure : {s.fuel, s.minAlt, s.maxAlt, s.climb, s.maxSpeed, s.distance}) {
         EXPECT_EQ(figure, 0.0);
     }
     EXPECT_TRUE(std::isinf(s.timePer100));
     EXPECT_TRUE(std::isnan(s.fuelPer100));
-    EXPECT_EQ(s.flightTime, 100.0);
+
+    add(eLat, {{99, 1000}, {150, 1000}});
+    add(eLon, {{99, 0}, {150, 0}});
+    add(eThrottle, {{100, 91}});
+    s = statistic(100, 200);
+    EXPECT_NEAR(s.distance, 10 * 60 * 1852.0, 3.0);
+    EXPECT_NEAR(s.distance15, 10 * 60 * 1852.0, 3.0);
 }
 
 TEST_F(FlightStatistics, TellWhichUnitsTheyWereConvertedTo)

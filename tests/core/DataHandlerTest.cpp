@@ -12,68 +12,53 @@ using VELIX::Test::CapturedDiagnostics;
 
 namespace {
 
-std::string reportOf(const std::string& home)
+class DataFolders : public ::testing::Test
 {
-    return "Data Path      : <" + home + "/VELIX/data/>\nUser Data Path : <" + home +
-           "/VELIX/data/>\nResource Path  : </opt/velix/bin/../resources/>\nProfile Path  : <" +
-           home + "/VELIX/data/>\n";
-}
-
-TEST(DataHandler, MakesItsFolderOnceAndReportsThePaths)
-{
-    const QTemporaryDir temporary;
-    const std::string home = temporary.path().toStdString();
-    const std::string data = home + "/VELIX/data/";
-
-    DataHandler first;
+protected:
+    /// What is printed by a start that says this about its folder.
+    std::string report(const std::string& aboutFolder) const
+    {
+        return "HOME: <" + mHome + ">\n" + aboutFolder + "Data Path      : <" + mData +
+               ">\nUser Data Path : <" + mData +
+               ">\nResource Path  : </opt/velix/bin/../resources/>\nProfile Path  : <" + mData +
+               ">\n";
+    }
+    std::string printedBy(DataHandler& paths) const
     {
         CapturedDiagnostics output;
-        first.init(home.c_str(), "/opt/velix/bin");
-        EXPECT_EQ(output.text(),
-                  "HOME: <" + home + ">\nDataPath created <" + data + ">\n" + reportOf(home));
+        paths.init(mHome.c_str(), "/opt/velix/bin");
+        return output.text();
     }
-    EXPECT_TRUE(QDir(QString::fromStdString(data)).exists());
-    EXPECT_EQ(first.dataPath(), data);
-    EXPECT_EQ(first.userDataPath(), data);
-    EXPECT_EQ(first.profilePath(), data);
-    EXPECT_EQ(first.resourcePath(), "/opt/velix/bin/../resources/");
+
+    QTemporaryDir mFolder;
+    std::string mHome = mFolder.path().toStdString();
+    std::string mData = mHome + "/VELIX/data/";
+    DataHandler mPaths;
+};
+
+TEST_F(DataFolders, AreMadeOnceAndReported)
+{
+    EXPECT_EQ(printedBy(mPaths), report("DataPath created <" + mData + ">\n"));
+    EXPECT_TRUE(QDir(QString::fromStdString(mData)).exists());
+    EXPECT_EQ(mPaths.dataPath(), mData);
+    EXPECT_EQ(mPaths.userDataPath(), mData);
+    EXPECT_EQ(mPaths.profilePath(), mData);
+    EXPECT_EQ(printedBy(mPaths), report(""));
 
     CapturedDiagnostics output;
-    DataHandler().init(home.c_str(), "/opt/velix/bin");
-    EXPECT_EQ(output.text(), "HOME: <" + home + ">\n" + reportOf(home));
+    mPaths.init(nullptr, "/usr/bin");
+    EXPECT_EQ(output.text(), "") << "without a home only the resources are known";
+    EXPECT_EQ(mPaths.dataPath() + mPaths.userDataPath() + mPaths.profilePath(), "");
+    EXPECT_EQ(mPaths.resourcePath(), "/usr/bin/../resources/");
 }
 
-TEST(DataHandler, WithoutHomeOnlyTheResourcesAreKnown)
+TEST_F(DataFolders, ThatCannotBeMadeAreReportedAndTheirPathsKept)
 {
-    const QTemporaryDir home;
-    DataHandler paths;
-    CapturedDiagnostics output;
-    paths.init(home.path().toStdString().c_str(), "/bin");
-    const std::string before = output.text();
-
-    paths.init(nullptr, "/opt/velix/bin");
-    EXPECT_EQ(output.text(), before);
-    EXPECT_EQ(paths.dataPath(), "");
-    EXPECT_EQ(paths.userDataPath(), "");
-    EXPECT_EQ(paths.profilePath(), "");
-    EXPECT_EQ(paths.resourcePath(), "/opt/velix/bin/../resources/");
-}
-
-TEST(DataHandler, AFolderThatCannotBeMadeIsReportedAndItsPathKept)
-{
-    const QTemporaryDir temporary;
-    QFile file(temporary.filePath(QStringLiteral("VELIX")));
+    QFile file(mFolder.filePath(QStringLiteral("VELIX")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly)); // in the folder's place
-    const std::string home = temporary.path().toStdString();
-    const std::string data = home + "/VELIX/data/";
-
-    DataHandler paths;
-    CapturedDiagnostics output;
-    paths.init(home.c_str(), "/opt/velix/bin");
-    EXPECT_EQ(output.text(), "HOME: <" + home + ">\ncould not create DataPath <" + data +
-                                 ">\ncould not create UserDataPath <" + data + ">\n" +
-                                 reportOf(home));
-    EXPECT_EQ(paths.dataPath(), data);
+    EXPECT_EQ(printedBy(mPaths), report("could not create DataPath <" + mData +
+                                        ">\ncould not create UserDataPath <" + mData + ">\n"));
+    EXPECT_EQ(mPaths.dataPath(), mData);
 }
 
 } // namespace

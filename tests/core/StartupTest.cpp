@@ -57,7 +57,8 @@ TEST_F(Startup, GoesThroughItsStepsInOrderAndEndsCleanlyOnASignal)
     const QByteArray home = mHome.path().toUtf8();
     int position = 0;
     for (const QByteArray& text :
-         {QByteArray("Version  : VELIX 2.1.2\n"),
+         {QByteArray("----\n\n  "), QByteArray("Debriefing of engine monitoring data\n\n"),
+          QByteArray("Version  : VELIX 2.1.2\n"), QByteArray("CWD      : /"), QByteArray("\n----"),
           QByteArray("unknown option -x\nUsage of " VELIX_PROGRAM " :\n"), "HOME: <" + home + ">\n",
           "DataPath created <" + home + "/VELIX/data/>\n",
           "could not open file <" + home + "/VELIX/data//VELIX.ini>\n",

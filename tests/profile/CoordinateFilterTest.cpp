@@ -11,7 +11,7 @@ namespace VELIX::Test {
 namespace {
 
 /// The form dddmm.mmmm of decimal degrees.
-double degreesMinutes(double degrees)
+double recorded(double degrees)
 {
     const double whole = std::trunc(degrees);
     return whole * 100.0 + (degrees - whole) * 60.0;
@@ -19,128 +19,99 @@ double degreesMinutes(double degrees)
 
 constexpr double kTolerance = 1e-6; // degrees: minutes pass through single precision
 
-void settle(CoordinateFilter& filter, double latitude, double longitude, int times = 5)
-{
-    for (int i = 0; i < times; ++i) {
-        filter.latitude(degreesMinutes(latitude));
-        filter.longitude(degreesMinutes(longitude));
-    }
-}
-
 TEST(DegreesMinutes, BecomeDecimalDegrees)
 {
-    struct Row
-    {
-        double value;
-        double degrees;
-    };
-    const Row rows[] = {{0, 0},    {4830, 48.5}, {-4830, -48.5}, {17959.9, 179.998333},
-                        {30, 0.5}, {-30, -0.5}};
-    for (const Row& row : rows) {
-        EXPECT_NEAR(degreesFromDegreesMinutes(row.value), row.degrees, kTolerance) << row.value;
+    const std::pair<double, double> rows[] = {
+        {0, 0}, {4830, 48.5}, {-4830, -48.5}, {17959.9, 179.998333}, {-30, -0.5}};
+    for (const auto& [value, degrees] : rows) {
+        EXPECT_NEAR(degreesFromDegreesMinutes(value), degrees, kTolerance);
     }
-    const double minutes = 15.123456789;
-    EXPECT_EQ(degreesFromDegreesMinutes(4800.0 + minutes),
-              48.0 + static_cast<double>(static_cast<float>(std::fmod(48.0 + minutes / 100, 1.0))) *
-                         100.0 / 60.0)
+    const auto part = static_cast<float>(std::fmod(48.0 + 15.123456789 / 100, 1.0));
+    EXPECT_EQ(degreesFromDegreesMinutes(4815.123456789),
+              48.0 + static_cast<double>(part) * 100.0 / 60.0)
         << "only the minutes lose precision";
     EXPECT_TRUE(std::isnan(degreesFromDegreesMinutes(std::nan(""))));
 }
 
-TEST(CoordinateFilter, TrustsTheFirstFivePositionsOffTheOrigin)
+TEST(CoordinateFilter, TrustsFiveLatitudesThenHoldsTheLastAcrossJumpsOfTenKilometres)
 {
     CoordinateFilter filter;
-    for (const double degrees : {0.0, 10.0, 0.0, -60.0, 30.0, 0.0005, 80.0, 48.0}) {
-        EXPECT_NEAR(filter.latitude(degreesMinutes(degrees)), degrees, kTolerance)
-            << "zeros do not count";
+    const struct
+    {
+        double measured;
+        double accepted;
+    } rows[] = {{0, 0},      {10, 10},         {0, 0},         {-60, -60},
+                {30, 30},    {0.0005, 0.0005}, {80, 80}, // zeros do not count
+                {48, 48},    {48.18, 48},      {48.08, 48.08}, {48.26, 48.08},
+                {0, 48.08}, // a lost fix
+                {48.0, 48.0}};
+    for (const auto& row : rows) {
+        EXPECT_NEAR(filter.latitude(recorded(row.measured)), row.accepted, kTolerance)
+            << row.measured;
     }
-    EXPECT_NEAR(filter.latitude(degreesMinutes(48.18)), 48.0, kTolerance) << "the sixth must fit";
 }
 
-TEST(CoordinateFilter, RejectsJumpsInLatitudeOfMoreThanTenKilometres)
-{
-    CoordinateFilter filter;
-    settle(filter, 48.0, 11.0);
-    EXPECT_NEAR(filter.latitude(degreesMinutes(48.08)), 48.08, kTolerance);
-    EXPECT_NEAR(filter.latitude(degreesMinutes(48.26)), 48.08, kTolerance) << "20 km";
-    EXPECT_EQ(filter.latitude(0.0), filter.latitude(degreesMinutes(48.08))) << "lost fix";
-    EXPECT_NEAR(filter.latitude(degreesMinutes(48.0)), 48.0, kTolerance) << "and goes on";
-}
-
-TEST(CoordinateFilter, AllowsMoreDegreesOfLongitudeTowardsThePoles)
+TEST(CoordinateFilter, AllowsMoreDegreesOfLongitudeTowardsThePolesAndComparesTheShortWay)
 {
     const struct
     {
         double latitude;
-        double step;
+        double from;
+        double to;
         bool accepted;
-    } rows[] = {{0.0011, 0.0895, true}, {0.0011, 0.0905, false}, {60, 0.179, true},
-                {60, 0.181, false},     {-60, 0.179, true},      {89, 5.1, true},
-                {89, 5.2, false}};
+    } rows[] = {
+        {0.0011, 20, 20.0895, true}, {0.0011, 20, 20.0905, false}, {60, 20, 20.179, true},
+        {60, 20, 20.181, false},     {-60, 20, 20.179, true},      {89, 20, 25.1, true},
+        {89, 20, 25.2, false},       {10, 179.97, -179.97, true},  {10, -179.97, 179.97, true},
+        {10, 179.97, -179.8, false},
+    };
     for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << row.latitude << ": " << row.from << " " << row.to);
         CoordinateFilter filter;
-        settle(filter, row.latitude, 20.0);
-        const double expected = row.accepted ? 20.0 + row.step : 20.0;
-        EXPECT_NEAR(filter.longitude(degreesMinutes(20.0 + row.step)), expected, kTolerance)
-            << row.latitude << " " << row.step;
+        for (int i = 0; i < 5; ++i) {
+            filter.latitude(recorded(row.latitude));
+            filter.longitude(recorded(row.from));
+        }
+        EXPECT_NEAR(filter.longitude(recorded(row.to)), row.accepted ? row.to : row.from,
+                    kTolerance);
+        filter.reset();
+        EXPECT_NEAR(filter.latitude(recorded(-20)), -20, kTolerance) << "judged afresh";
+        EXPECT_NEAR(filter.longitude(recorded(-70)), -70, kTolerance) << "judged afresh";
     }
-}
-
-TEST(CoordinateFilter, ComparesLongitudesTheShortWayRound)
-{
-    CoordinateFilter filter;
-    settle(filter, 10.0, 179.97);
-    EXPECT_NEAR(filter.longitude(degreesMinutes(-179.97)), -179.97, kTolerance);
-    EXPECT_NEAR(filter.longitude(degreesMinutes(179.99)), 179.99, kTolerance) << "and back";
-    EXPECT_NEAR(filter.longitude(degreesMinutes(-179.8)), 179.99, kTolerance) << "still a jump";
-}
-
-TEST(CoordinateFilter, ResetForgetsWhatItHadCounted)
-{
-    CoordinateFilter filter;
-    settle(filter, 48.0, 11.0);
-    filter.reset();
-    EXPECT_NEAR(filter.latitude(degreesMinutes(-20.0)), -20.0, kTolerance);
-    EXPECT_NEAR(filter.longitude(degreesMinutes(-70.0)), -70.0, kTolerance);
 }
 
 TEST(CoordinateFilter, BelongsToTheRolesOfRealsAlone)
 {
     Profile profile;
-    ASSERT_TRUE(ProfileBuilder()
-                    .device("EMU")
-                    .parameter(1, QStringLiteral("Lat"), "FLOAT")
-                    .set("velixDataType", "Latitude")
-                    .parameter(2, QStringLiteral("Lon"), "FLOAT")
-                    .set("velixDataType", "Longitude")
-                    .set("factor", "100")
-                    .parameter(3, QStringLiteral("Alt"), "FLOAT")
-                    .set("velixDataType", "Altitude")
-                    .load(profile));
+    ProfileBuilder builder;
+    builder.device("EMU");
+    int id = 0;
+    for (const char* role : {"Latitude", "Longitude", "Altitude"}) {
+        builder.parameter(id++, QString(), "FLOAT").set("velixDataType", role).set("factor", "100");
+    }
+    ASSERT_TRUE(builder.load(profile));
     const auto& parameters = profile.data().devices.front().parameters;
-    const RecordEntry entry = RecordBuilder().floatValue(4830.0F).last();
-    EXPECT_NEAR(profile.getDouble(entry, parameters.at(1), true), 48.5, kTolerance);
-    EXPECT_NEAR(profile.getDouble(RecordBuilder().floatValue(48.3F).last(), parameters.at(2), true),
-                48.5, 1e-4)
-        << "scaled before it is converted";
-    EXPECT_EQ(profile.getDouble(entry, parameters.at(3), true), 4830.0);
-    ProfileParameter whole = parameters.at(1);
+    const RecordEntry entry = RecordBuilder().floatValue(48.5F).last();
+    const double degrees[] = {48.0 + 50.0 / 60.0, 48.0 + 50.0 / 60.0,
+                              4850.0}; // scaled before it is converted
+    for (const int role : {0, 1, 2}) {
+        EXPECT_NEAR(profile.getDouble(entry, parameters.at(role), true), degrees[role], 1e-4);
+    }
+    ProfileParameter whole = parameters.at(0);
     whole.dataType = eLong;
-    EXPECT_EQ(profile.getDouble(RecordBuilder().longValue(4830).last(), whole, true), 4830.0);
+    EXPECT_EQ(profile.getDouble(RecordBuilder().longValue(48).last(), whole, true), 4800.0);
 
     // Texts and states pass through the same filter.
     int state = 0;
     QColor color;
     for (int i = 0; i < 5; ++i) {
-        profile.getDataState(entry, parameters.at(1), state, color);
+        profile.getDataState(entry, parameters.at(0), state, color);
     }
-    const RecordEntry jump = RecordBuilder().floatValue(1000.0F).last();
-    EXPECT_EQ(profile.getDataString(jump, parameters.at(1), state, color),
-              QStringLiteral("48.500000"));
+    const RecordEntry jump = RecordBuilder().floatValue(10.0F).last();
+    const auto text = [&] { return profile.getDataString(jump, parameters.at(0), state, color); };
+    EXPECT_EQ(text(), QStringLiteral("48.833333"));
     profile.resetCoordinates();
-    EXPECT_EQ(profile.getDataString(jump, parameters.at(1), state, color),
-              QStringLiteral("10.000000"));
-    EXPECT_NEAR(Profile::calcCoordinate(4830.0), 48.5, kTolerance);
+    EXPECT_EQ(text(), QStringLiteral("10.000000"));
     EXPECT_NEAR(profile.calcCoordinateLat(1030.0, 0.0), 10.5, kTolerance);
     EXPECT_NEAR(profile.calcCoordinateLong(1030.0, 0.0), 10.5, kTolerance);
 }

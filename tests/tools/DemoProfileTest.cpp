@@ -3,12 +3,11 @@
 #include "profile/Profile.h"
 #include "tools/democard/MessageTable.h"
 
-#include <QDomDocument>
 #include <QFile>
-#include <QSet>
+#include <QRegularExpression>
 #include <gtest/gtest.h>
 
-#include <map>
+#include <set>
 
 namespace VELIX::Demo {
 namespace {
@@ -16,171 +15,99 @@ namespace {
 const QString kProfile = QStringLiteral(DEMO_RESOURCES "/Profile.xml");
 const QString kProject = QStringLiteral(DEMO_RESOURCES "/CurrentProject.xml");
 
-QDomElement rootOf(QDomDocument& doc, const QString& path)
+/// What follows a piece of text in a file, up to the next quotation mark.
+std::set<std::string> following(const QString& path, const char* text)
 {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    QString error;
-    int line = 0;
-    EXPECT_TRUE(doc.setContent(&file, &error, &line)) << error.toStdString() << " line " << line;
-    return doc.documentElement();
+    const QRegularExpression pattern(QLatin1String(text) + QStringLiteral("([^\"]+)\""));
+    auto matches = pattern.globalMatch(QString::fromUtf8(file.readAll()));
+    std::set<std::string> found;
+    while (matches.hasNext()) {
+        found.insert(matches.next().captured(1).toStdString());
+    }
+    return found;
 }
 
-/// One "Parameter" element, with the name of its device.
-struct Description
+class DemoProfile : public ::testing::Test
 {
-    QString fullName;
-    QDomElement element;
-
-    int number(const char* name, int def) const
+protected:
+    void load(const char* variant)
     {
-        return element.attribute(QLatin1String(name), QString::number(def)).toInt(nullptr, 0);
+        ASSERT_EQ(mProfile.loadProfile(kProfile, QLatin1String(variant)), 1);
     }
-    double real(const char* name, double def) const
+    const ProfileParameter* find(const std::string& fullName) const
     {
-        return element.attribute(QLatin1String(name), QString::number(def)).toDouble();
-    }
-    QString text(const char* name) const { return element.attribute(QLatin1String(name)); }
-    bool isFaultBit() const { return !text("errorType").isEmpty(); }
-};
-
-std::vector<Description> descriptions(const QDomElement& root)
-{
-    std::vector<Description> all;
-    const QString parameter = QStringLiteral("Parameter");
-    for (QDomElement d = root.firstChildElement(QStringLiteral("Device")); !d.isNull();
-         d = d.nextSiblingElement(QStringLiteral("Device"))) {
-        const QString device = d.attribute(QStringLiteral("name")) + QLatin1Char('/');
-        for (QDomElement p = d.firstChildElement(parameter); !p.isNull();
-             p = p.nextSiblingElement(parameter)) {
-            all.push_back({device + p.attribute(QStringLiteral("name")), p});
-        }
-    }
-    return all;
-}
-
-/// Names of the elements of a list, for example of all "Enum" in "EnumList".
-QSet<QString> listed(const QDomElement& root, const char* list, const char* item)
-{
-    QSet<QString> names;
-    const QDomElement parent = root.firstChildElement(QLatin1String(list));
-    for (QDomElement e = parent.firstChildElement(QLatin1String(item)); !e.isNull();
-         e = e.nextSiblingElement(QLatin1String(item))) {
-        names.insert(e.attribute(QStringLiteral("name")));
-    }
-    return names;
-}
-
-TEST(DemoProfile, DescribesEveryMessageAsItIsSent)
-{
-    QDomDocument doc;
-    std::map<QString, Description> byName;
-    for (const Description& d : descriptions(rootOf(doc, kProfile))) {
-        if (!d.isFaultBit()) {
-            EXPECT_TRUE(byName.emplace(d.fullName, d).second) << d.fullName.toStdString();
-        }
-    }
-    EXPECT_EQ(byName.size(), messageTable().size());
-    const std::map<EDataType, const char*> typeNames = {
-        {eFloat, "FLOAT"}, {eLong, "LONG"},      {eULong, "ULONG"},    {eBLong, "BLONG"},
-        {eShort, "SHORT"}, {eUShort, "USHORT"},  {eBShort, "BSHORT"},  {eChar, "CHAR"},
-        {eUChar, "UCHAR"}, {eShort2, "SHORT_2"}, {eUChar2, "UCHAR_2"},
-    };
-    for (const Message& m : messageTable()) {
-        const auto found = byName.find(QLatin1String(m.name));
-        ASSERT_NE(found, byName.end()) << m.name;
-        const Description& d = found->second;
-        EXPECT_EQ(d.number("id", 0), static_cast<int>(m.id)) << m.name;
-        EXPECT_EQ(d.number("startByte", 0), m.startByte) << m.name;
-        EXPECT_EQ(d.real("factor", 1.0), m.factor) << m.name;
-        EXPECT_EQ(d.real("offset", 0.0), m.offset) << m.name;
-        // A fault word's bits are BLONG as it is sent; the word as a whole is shown as a number.
-        const bool word = d.fullName.endsWith(QLatin1String("/Fault Word"));
-        EXPECT_EQ(d.text("dataType"), QLatin1String(word ? "LONG" : typeNames.at(m.type)))
-            << m.name;
-    }
-}
-
-TEST(DemoProfile, FaultBitsLieInTheFaultWordsOfTheirDevice)
-{
-    QDomDocument doc;
-    std::map<QString, int> words;
-    for (const Message& m : messageTable()) {
-        const QString name = QLatin1String(m.name);
-        if (name.endsWith(QLatin1String("/Fault Word"))) {
-            words[name.section(QLatin1Char('/'), 0, 0)] = static_cast<int>(m.id);
-        }
-    }
-    QSet<QString> types;
-    for (const Description& d : descriptions(rootOf(doc, kProfile))) {
-        if (d.isFaultBit()) {
-            types.insert(d.text("errorType"));
-            const std::string name = d.fullName.toStdString();
-            EXPECT_EQ(d.number("id", 0), words[d.fullName.section(QLatin1Char('/'), 0, 0)]) << name;
-            EXPECT_EQ(d.number("startBit", -1), d.number("endBit", -2)) << name;
-            EXPECT_EQ(d.text("dataType"), QLatin1String("BLONG")) << name;
-        }
-    }
-    EXPECT_EQ(types.size(), 3);
-    EXPECT_EQ(words.size(), 3U);
-}
-
-TEST(DemoProfile, NamesOnlyListsAndUnitsThatItDefines)
-{
-    QDomDocument doc;
-    const QDomElement root = rootOf(doc, kProfile);
-    const QSet<QString> enums = listed(root, "EnumList", "Enum");
-    const QSet<QString> thresholds = listed(root, "ThresholdList", "Threshold");
-    QSet<QString> units;
-    const QDomElement conversions = root.firstChildElement(QStringLiteral("UnitConversions"));
-    for (QDomElement u = conversions.firstChildElement(); !u.isNull(); u = u.nextSiblingElement()) {
-        units.insert(u.attribute(QStringLiteral("unitMetric")) + QLatin1Char('_') +
-                     u.attribute(QStringLiteral("unitImperial")));
-    }
-    QSet<QString> used;
-    for (const Description& d : descriptions(root)) {
-        const std::string name = d.fullName.toStdString();
-        const QString enumId = d.text("enumId");
-        const QString thresholdId = d.text("thresholdId");
-        EXPECT_TRUE(enumId.isEmpty() || enums.contains(enumId)) << name;
-        EXPECT_TRUE(thresholdId.isEmpty() || thresholds.contains(thresholdId)) << name;
-        used << enumId << thresholdId;
-        if (d.text("unitMetric") != d.text("unitImperial")) {
-            const QString pair = d.text("unitMetric") + QLatin1Char('_') + d.text("unitImperial");
-            EXPECT_TRUE(units.contains(pair)) << name;
-        }
-    }
-    EXPECT_TRUE(used.contains(enums)) << "an enumeration that nothing uses";
-    EXPECT_TRUE(used.contains(thresholds)) << "thresholds that nothing uses";
-}
-
-const ProfileParameter* parameter(const Profile& profile, const char* fullName)
-{
-    for (const ProfileDevice& device : profile.data().devices) {
-        for (const auto& [id, p] : device.parameters) {
-            if (p.fullName == QLatin1String(fullName)) {
-                return &p;
+        for (const ProfileDevice& device : mProfile.data().devices) {
+            for (const auto& [id, p] : device.parameters) {
+                if (p.fullName.toStdString() == fullName) {
+                    return &p;
+                }
             }
         }
+        return nullptr;
     }
-    return nullptr;
+    /// Threshold state of a value of a parameter; -1 without the parameter.
+    int stateOf(const char* fullName, double value) const
+    {
+        const ProfileParameter* p = find(fullName);
+        int state = -1;
+        QColor color;
+        if (p != nullptr) {
+            mProfile.getThreshold(*p, value, state, color);
+        }
+        return state;
+    }
+
+    Profile mProfile;
+};
+
+TEST_F(DemoProfile, DescribesEveryMessageAsItIsSent)
+{
+    load("");
+    for (const Message& m : messageTable()) {
+        const ProfileParameter* p = find(m.name);
+        ASSERT_NE(p, nullptr) << m.name;
+        EXPECT_EQ(p->id, static_cast<int>(m.id)) << m.name;
+        EXPECT_EQ(p->startByte, m.startByte) << m.name;
+        EXPECT_EQ(p->factor, m.factor) << m.name;
+        EXPECT_EQ(p->offset, m.offset) << m.name;
+        // A fault word's bits are BLONG as it is sent; the word as a whole is shown as a number.
+        const bool word = p->name == QLatin1String("Fault Word");
+        EXPECT_EQ(p->dataType, word ? eLong : m.type) << m.name;
+    }
+    std::size_t described = 0;
+    std::set<int> errorTypes;
+    for (const ProfileDevice& device : mProfile.data().devices) {
+        described += device.parameters.size();
+        for (const auto& [id, p] : device.parameters) {
+            EXPECT_TRUE(p.unitMetric == p.unitImperial || p.hasConversion)
+                << p.fullName.toStdString();
+        }
+        ASSERT_EQ(device.errorMatrices.size(), 1U);
+        const FaultMatrix& matrix = device.errorMatrices.front();
+        EXPECT_EQ(matrix.id, find(device.name.toStdString() + "/Fault Word")->id);
+        for (const auto& [bit, p] : matrix.bits) {
+            EXPECT_EQ(p.startByte, 4) << p.fullName.toStdString();
+            errorTypes.insert(p.errorType);
+        }
+    }
+    EXPECT_EQ(described, messageTable().size()) << "nor any bit that lies in no fault word";
+    EXPECT_EQ(errorTypes, (std::set<int>{1, 2, 3}));
 }
 
-/// Threshold state of a value of a parameter; -1 without the parameter.
-int stateOf(const Profile& profile, const char* fullName, double value)
+TEST_F(DemoProfile, NamesTheListsThatItDefinesAndNoOther)
 {
-    const ProfileParameter* p = parameter(profile, fullName);
-    int state = -1;
-    QColor color;
-    if (p != nullptr) {
-        profile.getThreshold(*p, value, state, color);
-    }
-    return state;
+    EXPECT_EQ(following(kProfile, "enumId=\""), following(kProfile, "<Enum name=\""));
+    EXPECT_EQ(following(kProfile, "thresholdId=\""), following(kProfile, "<Threshold name=\""));
+    EXPECT_FALSE(following(kProfile, "thresholdId=\"").empty());
 }
 
-TEST(DemoProfile, VariantsDiffer)
+TEST_F(DemoProfile, DiffersByVariantButHasWhatTheProjectSelects)
 {
-    struct Row
+    const std::set<std::string> selected = following(kProject, "<Parameter name=\"");
+    EXPECT_EQ(selected.size(), 16U);
+    const struct
     {
         const char* variant;
         bool towHook;
@@ -188,49 +115,30 @@ TEST(DemoProfile, VariantsDiffer)
         int speed5300;
         int oil110;
         int fuel20;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"Standard", false, true, 1, 0, 0},
         {"Tow", true, true, 0, 0, 1},
         {"Trainer", true, false, 1, 1, 0},
         {"", true, true, 1, 1, 0},
     };
-    Profile profile;
-    for (const Row& row : rows) {
-        ASSERT_EQ(profile.loadProfile(kProfile, QLatin1String(row.variant)), 1);
-        EXPECT_EQ(parameter(profile, "Airframe/Tow Hook") != nullptr, row.towHook) << row.variant;
-        EXPECT_EQ(parameter(profile, "Lane A/Injection Time") != nullptr, row.injection)
-            << row.variant;
-        EXPECT_EQ(stateOf(profile, "Lane A/Engine Speed", 5300.0), row.speed5300) << row.variant;
-        EXPECT_EQ(stateOf(profile, "Lane A/Oil Temperature", 110.0), row.oil110) << row.variant;
-        EXPECT_EQ(stateOf(profile, "Airframe/Fuel Level", 20.0), row.fuel20) << row.variant;
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.variant);
+        load(row.variant);
+        EXPECT_EQ(find("Airframe/Tow Hook") != nullptr, row.towHook);
+        EXPECT_EQ(find("Lane A/Injection Time") != nullptr, row.injection);
+        EXPECT_EQ(stateOf("Lane A/Engine Speed", 5300.0), row.speed5300);
+        EXPECT_EQ(stateOf("Lane A/Oil Temperature", 110.0), row.oil110);
+        EXPECT_EQ(stateOf("Airframe/Fuel Level", 20.0), row.fuel20);
         for (const char* role :
              {"Latitude", "Longitude", "Altitude", "GroundSpeed", "ThrottleA", "FuelA", "FuelB"}) {
-            EXPECT_NE(profile.getParameterFromVelixType(QLatin1String(role)).id, 0) << role;
+            EXPECT_NE(mProfile.getParameterFromVelixType(QLatin1String(role)).id, 0) << role;
+        }
+        for (const std::string& name : selected) {
+            EXPECT_NE(find(name), nullptr) << name;
         }
     }
-    EXPECT_EQ(profile.loadVariants(kProfile), 1);
-    EXPECT_EQ(profile.variants().size(), 3U);
-}
-
-TEST(DemoProject, SelectsParametersThatEveryVariantHas)
-{
-    QDomDocument doc;
-    const QDomElement list = rootOf(doc, kProject).firstChildElement(QStringLiteral("Parameters"));
-    QStringList names;
-    for (QDomElement p = list.firstChildElement(); !p.isNull(); p = p.nextSiblingElement()) {
-        names.append(p.attribute(QStringLiteral("name")));
-    }
-    EXPECT_GE(names.size(), 12);
-    EXPECT_LE(names.size(), 16);
-    Profile profile;
-    for (const char* variant : {"Standard", "Tow", "Trainer"}) {
-        ASSERT_EQ(profile.loadProfile(kProfile, QLatin1String(variant)), 1);
-        for (const QString& name : names) {
-            EXPECT_NE(parameter(profile, name.toUtf8().constData()), nullptr)
-                << variant << ": " << name.toStdString();
-        }
-    }
+    EXPECT_EQ(mProfile.loadVariants(kProfile), 1);
+    EXPECT_EQ(mProfile.variants().size(), 3U);
 }
 
 } // namespace
