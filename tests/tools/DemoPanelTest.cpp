@@ -115,8 +115,7 @@ TEST(DemoPanel, HasNoMistakeAndNamesWhatTheProfileBinds)
             known.insert(variables.slot(own));
         }
         for (const auto& [name, p] : boundParameters(profile)) {
-            known.insert({variables.slot(name), variables.slot(name + "_STATE"),
-                          variables.slot(name + "_MISSING")});
+            known.insert({variables.slot(name), variables.slot(name + "_STATE")});
         }
         for (const int slot : reader.model().slotsUsed) {
             EXPECT_EQ(known.count(slot), 1U) << "slot " << slot;
