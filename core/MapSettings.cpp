@@ -21,6 +21,9 @@ MapSettings MapSettings::read(const Property& settings)
     MapSettings map;
     map.tileServer = settings.getString(kTileServer, defaults.tileServer);
     map.cacheLimit = settings.getInt(kCacheLimit, defaults.cacheLimit);
+    if (map.cacheLimit < 1) {
+        map.cacheLimit = defaults.cacheLimit; // it would empty the folder, prefilled tiles included
+    }
     map.shading = settings.getSwitch(kShading, defaults.shading);
     map.contrast = settings.getDouble(kContrast, defaults.contrast);
     map.brightness = settings.getDouble(kBrightness, defaults.brightness);

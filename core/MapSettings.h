@@ -10,6 +10,7 @@ class Property;
 /// keep it.
 struct MapSettings
 {
+    /// A limit that is no number or below 1 counts as the default one.
     static MapSettings read(const Property& settings);
     /// Only into the store; the caller writes the file.
     void store(Property& settings) const;

@@ -1,3 +1,5 @@
+#include "core/MapSettings.h"
+#include "core/Property.h"
 #include "profile/Profile.h"
 #include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
@@ -221,9 +223,49 @@ TEST(MapColoringTest, ShowsValuesAlongTheScaleAndThresholdsInTheirColour)
     const QRgb cold = MapColoring::scale(0.0);
     const QRgb warm = MapColoring::scale(40.0 / 75.0);
     EXPECT_EQ(byOil.colors, (std::vector<QRgb>{cold, cold, warm, warm, qRgb(255, 255, 0)}));
+    ASSERT_EQ(byOil.passed.size(), 1U);
+    EXPECT_EQ(byOil.passed[0].label, QStringLiteral("Warning"));
+    EXPECT_EQ(byOil.passed[0].color, qRgb(255, 255, 0));
 
     const RecordBuilder without;
     EXPECT_EQ(MapColoring::byParameter(path, *without.data(), profile, oil).colors.size(), 5U);
+}
+
+TEST(MapSettingsTest, NoLimitEmptiesTheFolderOfTiles)
+{
+    const std::pair<const char*, int> rows[] = {{"80", 80},   {"1", 1},           {"0", 500},
+                                                {"-20", 500}, {"80MB", 80},       {"much", 500},
+                                                {"", 500},    {"4294967295", 500}};
+    for (const auto& [stored, limit] : rows) {
+        Property settings;
+        settings.setString("TileCacheLimit", stored);
+        EXPECT_EQ(MapSettings::read(settings).cacheLimit, limit) << stored;
+    }
+}
+
+TEST(MapColoringTest, LegendNamesTheValuesOfAnEnumeration)
+{
+    Profile profile;
+    ProfileBuilder builder;
+    builder.enumeration("Mode", {{0, "Off"}, {2, "In control"}});
+    builder.device("EMU").parameter(500, QStringLiteral("Mode"), "UCHAR").set("enumId", "Mode");
+    ASSERT_TRUE(builder.load(profile));
+    const ProfileParameter& mode = profile.data().devices[0].parameters.at(500);
+    const auto legend = [&](std::initializer_list<std::uint8_t> values) {
+        RecordBuilder record;
+        std::vector<FlightPathPoint> path;
+        double time = 10.0;
+        for (const std::uint8_t value : values) {
+            record.id(500).at(time).payload(eUChar, std::uint32_t{value} << 24);
+            path.push_back(at(time, 47.0, 8.0));
+            time += 1.0;
+        }
+        const MapColoring coloring = MapColoring::byParameter(path, *record.data(), profile, mode);
+        return coloring.lowest + QLatin1Char('|') + coloring.highest;
+    };
+    EXPECT_EQ(legend({2, 0, 2}), QStringLiteral("Off|In control"));
+    EXPECT_EQ(legend({0, 7}), QStringLiteral("Off|7")) << "without a name";
+    EXPECT_EQ(legend({2, 2}), QStringLiteral("In control|")) << "one value has one label";
 }
 
 TEST(MapTextsTest, WritesLengthsAndPlaces)
