@@ -7,17 +7,22 @@ namespace OpenStreet {
 
 namespace {
 
-constexpr double kFirstPause = 2.0;
-constexpr double kLongestPause = 300.0;
 /// So many tiles are remembered; then all are tried anew.
 constexpr std::size_t kMostTiles = 20000;
 
 } // namespace
 
-void RetryPlan::Pause::extend(double now)
+void RetryPlan::setPauses(double first, double longest)
 {
-    until = now + std::min(kFirstPause * std::pow(2.0, std::min(failures, 20)), kLongestPause);
-    ++failures;
+    mFirstPause = first;
+    mLongestPause = longest;
+}
+
+void RetryPlan::extend(Pause& pause, double now) const
+{
+    const double doubled = mFirstPause * std::pow(2.0, std::min(pause.failures, 20));
+    pause.until = now + std::min(doubled, mLongestPause);
+    ++pause.failures;
 }
 
 void RetryPlan::failed(const TileAddress& tile, Failure failure, double now)
@@ -25,10 +30,10 @@ void RetryPlan::failed(const TileAddress& tile, Failure failure, double now)
     if (mTiles.size() >= kMostTiles) {
         mTiles.clear();
     }
-    mTiles[tile].extend(now);
+    extend(mTiles[tile], now);
     // Requests that ran side by side fail side by side: they count once.
     if (failure == Failure::Server && now >= mServer.until) {
-        mServer.extend(now);
+        extend(mServer, now);
     }
 }
 

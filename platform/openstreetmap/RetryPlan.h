@@ -16,6 +16,8 @@ public:
         Server ///< no answer
     };
 
+    /// Seconds after the first failure; each one more doubles it, up to the longest.
+    void setPauses(double first, double longest);
     void failed(const TileAddress& tile, Failure failure, double now);
     void succeeded(const TileAddress& tile);
     [[nodiscard]] bool mayAsk(const TileAddress& tile, double now) const;
@@ -27,10 +29,12 @@ private:
     {
         int failures = 0;
         double until = 0.0;
-
-        void extend(double now);
     };
 
+    void extend(Pause& pause, double now) const;
+
+    double mFirstPause = 2.0;
+    double mLongestPause = 300.0;
     std::map<TileAddress, Pause> mTiles;
     Pause mServer;
 };

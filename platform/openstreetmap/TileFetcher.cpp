@@ -7,6 +7,7 @@
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QSslError>
+#include <QTimer>
 
 #include <algorithm>
 #include <iterator>
@@ -16,7 +17,7 @@ namespace OpenStreet {
 namespace {
 
 constexpr std::size_t kMostConnections = 4;
-constexpr int kTimeout = 15000; ///< ms without any progress
+constexpr int kReadAhead = 256 * 1024;
 constexpr int kMostRedirects = 4;
 /// Seconds before a tile is asked for again, whatever the server allows: the map asks with every
 /// picture.
@@ -48,13 +49,20 @@ TileFetcher::TileFetcher(QObject* parent) : QObject(parent)
 {
     mClock.start();
     mNetwork.setRedirectPolicy(QNetworkRequest::NoLessSafeRedirectPolicy);
-    mNetwork.setTransferTimeout(kTimeout);
+    setPatience({});
 }
 
 TileFetcher::~TileFetcher()
 {
     mQueue.clear();
     dropUnwanted({});
+}
+
+void TileFetcher::setPatience(const Patience& patience)
+{
+    mPatience = patience;
+    mNetwork.setTransferTimeout(patience.silence);
+    mRetries.setPauses(patience.firstPause, patience.longestPause);
 }
 
 void TileFetcher::setServer(const QString& server)
@@ -148,12 +156,7 @@ void TileFetcher::start(const Request& request)
     QNetworkReply* reply = mNetwork.get(network);
     mRunning[request.tile].reply = reply;
     const TileAddress tile = request.tile;
-    connect(reply, &QNetworkReply::downloadProgress, this,
-            [this, tile](qint64 received, qint64 total) {
-                if (std::max(received, total) > kLargestTileBytes) {
-                    stop(tile, QStringLiteral("larger than a tile can be"));
-                }
-            });
+    limit(tile, *reply);
     connect(reply, &QNetworkReply::sslErrors, this, [this, tile](const QList<QSslError>& errors) {
         if (!errors.isEmpty()) { // the connection ends itself, without saying which
             mRunning[tile].stopped = errors.first().errorString();
@@ -166,12 +169,34 @@ void TileFetcher::start(const Request& request)
     });
 }
 
-/// Ends in finish().
-void TileFetcher::stop(const TileAddress& tile, const QString& reason)
+/// In bytes and in time.
+void TileFetcher::limit(const TileAddress& tile, QNetworkReply& reply)
 {
-    Running& running = mRunning[tile];
-    running.stopped = reason;
-    running.reply->abort();
+    // Else the network would read as fast as it can while nobody looks. It stops some 30 kB short
+    // of this size, so that it must be larger than a tile.
+    reply.setReadBufferSize(kLargestTileBytes + kReadAhead);
+    const auto check = [this, tile, &reply] {
+        const qint64 announced = reply.header(QNetworkRequest::ContentLengthHeader).toLongLong();
+        if (std::max(announced, reply.bytesAvailable()) > kLargestTileBytes) {
+            stop(tile, reply, QStringLiteral("larger than a tile can be"));
+        }
+    };
+    connect(&reply, &QNetworkReply::metaDataChanged, this, check);
+    connect(&reply, &QNetworkReply::readyRead, this, check);
+    // The other limit is one of silence: a byte now and then would keep the connection for ever.
+    QTimer::singleShot(mPatience.whole, &reply, [this, tile, &reply] {
+        stop(tile, reply, QStringLiteral("not whole in time"));
+    });
+}
+
+/// Ends in finish().
+void TileFetcher::stop(const TileAddress& tile, const QNetworkReply& reply, const QString& reason)
+{
+    const auto running = mRunning.find(tile);
+    if (running != mRunning.end() && running->second.reply == &reply) {
+        running->second.stopped = reason;
+        running->second.reply->abort();
+    }
 }
 
 void TileFetcher::succeed(const TileAddress& tile)

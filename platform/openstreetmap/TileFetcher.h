@@ -30,12 +30,22 @@ public:
         TileFreshness known; ///< of the copy that is there; without tags the tile is fetched anew
     };
 
+    /// With slow servers, and with those that fail.
+    struct Patience
+    {
+        int silence = 15000;     ///< ms without any progress
+        int whole = 30000;       ///< ms for a tile
+        double firstPause = 2.0; ///< s after a failure; doubled by each one more
+        double longestPause = 300.0;
+    };
+
     explicit TileFetcher(QObject* parent = nullptr);
     ~TileFetcher() override;
 
     /// Running requests to another server are dropped.
     void setServer(const QString& server);
     [[nodiscard]] const QString& server() const { return mServer; }
+    void setPatience(const Patience& patience);
     void setUserAgent(const QByteArray& agent) { mUserAgent = agent; }
 
     /// The tiles that are wanted from now on, most urgent first. What was asked for and is wanted
@@ -69,7 +79,8 @@ private:
 
     void startNext();
     void start(const Request& request);
-    void stop(const TileAddress& tile, const QString& reason);
+    void limit(const TileAddress& tile, QNetworkReply& reply);
+    void stop(const TileAddress& tile, const QNetworkReply& reply, const QString& reason);
     void finish(const Request& request, QNetworkReply& reply);
     void succeed(const TileAddress& tile);
     void fail(const TileAddress& tile, RetryPlan::Failure failure, const QString& reason);
@@ -81,6 +92,7 @@ private:
     QByteArray mUserAgent;
     std::vector<Request> mQueue; ///< most urgent last
     std::map<TileAddress, Running> mRunning;
+    Patience mPatience;
     RetryPlan mRetries;
     std::map<QString, RetryPlan::Failure> mTold; ///< reasons that were given
     QElapsedTimer mClock;

@@ -36,7 +36,9 @@ public:
         Garbage,   ///< 200 with noise under the name of a picture
         Truncated, ///< half a picture, said to be whole
         Enormous,  ///< a picture of 30,000 x 30,000 in its head
-        Flood      ///< more bytes than a tile can have
+        Flood,     ///< more bytes than a tile can have
+        Stream,    ///< bytes without end, and without saying how many
+        Drip       ///< a byte now and then
     };
 
     TileServer()
@@ -44,8 +46,10 @@ public:
         mServer.listen(QHostAddress::LocalHost);
         connect(&mServer, &QTcpServer::newConnection, this, [this] {
             while (QTcpSocket* socket = mServer.nextPendingConnection()) {
+                mMostSockets = std::max(mMostSockets, ++mSockets);
                 connect(socket, &QTcpSocket::readyRead, this, [this, socket] { read(*socket); });
                 connect(socket, &QTcpSocket::disconnected, this, [this, socket] {
+                    --mSockets;
                     mAnswering.removeAll(socket);
                     socket->deleteLater();
                 });
@@ -58,11 +62,16 @@ public:
     /// Sent with every tile, such as "Cache-Control: max-age=60".
     void setHeaders(const QList<QByteArray>& headers) { mHeaders = headers; }
     void setEntityTag(const QByteArray& tag) { mTag = tag; }
+    void setLastModified(const QByteArray& time) { mLastModified = time; }
     void stop() { mServer.close(); }
 
+    const QByteArray& lastModified() const { return mLastModified; }
     int requests() const { return mRequests; }
     int notModified() const { return mNotModified; }
     int mostParallel() const { return mMostParallel; }
+    int mostSockets() const { return mMostSockets; }
+    /// Bytes without end that went out.
+    qint64 streamed() const { return mStreamed; }
     const QList<QByteArray>& paths() const { return mPaths; }
     /// Of the last request; names in lower case.
     QByteArray header(const QByteArray& name) const { return mLastHeaders.value(name); }
@@ -164,6 +173,10 @@ private:
             return send(socket, "200 OK", enormous());
         case Mode::Flood:
             return send(socket, "200 OK", QByteArray(8 * 1024 * 1024, 'x'));
+        case Mode::Stream:
+            return stream(socket);
+        case Mode::Drip:
+            return drip(socket);
         default:
             return sendTile(socket, path);
         }
@@ -179,11 +192,39 @@ private:
                 return send(socket, "304 Not Modified", "", headers);
             }
         }
+        if (!mLastModified.isEmpty()) {
+            headers.append("Last-Modified: " + mLastModified);
+            if (mLastHeaders.value("if-modified-since") == mLastModified) {
+                ++mNotModified;
+                return send(socket, "304 Not Modified", "", headers);
+            }
+        }
         const QList<QByteArray> parts = path.split('/');
         send(socket, "200 OK",
              tile(parts.value(1).toInt(), parts.value(2).toInt(),
                   parts.value(3).split('.').value(0).toInt()),
              headers);
+    }
+
+    void stream(QTcpSocket& socket)
+    {
+        socket.write("HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n");
+        const auto more = [this, &socket](qint64 bytes) {
+            mStreamed += bytes;
+            constexpr int kAhead = 32 << 20; // so that the system always has enough to send
+            if (socket.bytesToWrite() < kAhead) {
+                socket.write(QByteArray(kAhead, 'x'));
+            }
+        };
+        connect(&socket, &QTcpSocket::bytesWritten, this, more);
+    }
+
+    static void drip(QTcpSocket& socket)
+    {
+        socket.write("HTTP/1.1 200 OK\r\nContent-Length: 100000\r\n\r\n");
+        auto* timer = new QTimer(&socket);
+        connect(timer, &QTimer::timeout, &socket, [&socket] { socket.write("x"); });
+        timer->start(20);
     }
 
     static void send(QTcpSocket& socket, const QByteArray& status, const QByteArray& body,
@@ -200,6 +241,7 @@ private:
     Mode mMode = Mode::Tiles;
     QList<QByteArray> mHeaders;
     QByteArray mTag;
+    QByteArray mLastModified;
     std::map<QTcpSocket*, QByteArray> mText;
     QMap<QByteArray, QByteArray> mLastHeaders;
     QList<QByteArray> mPaths;
@@ -207,6 +249,9 @@ private:
     int mRequests = 0;
     int mNotModified = 0;
     int mMostParallel = 0;
+    int mSockets = 0;
+    int mMostSockets = 0;
+    qint64 mStreamed = 0;
     QTcpServer mServer; ///< the last: its connections still count themselves out when it ends
 };
 

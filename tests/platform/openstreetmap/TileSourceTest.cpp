@@ -99,16 +99,22 @@ TEST_F(TileSourceTest, FourAtATimeAndOnlyWhatIsStillWanted)
     for (int x = 0; x < 20; ++x) {
         tiles.push_back({5, x, 3});
     }
-    mSource.want(tiles, {});
+    settle(mSource, tiles);
+    EXPECT_EQ(mPictures.size(), 20U);
+    EXPECT_EQ(mServer.mostParallel(), 4);
+    EXPECT_EQ(mServer.mostSockets(), 4);
+
+    mServer.setMode(TileServer::Mode::Silent);
+    tiles.assign({{6, 1, 3}, {6, 2, 3}, {6, 3, 3}, {6, 4, 3}, {6, 5, 3}, {6, 6, 3}});
     ASSERT_TRUE(waitFor([&] {
         mSource.want(tiles, {});
-        return mServer.requests() >= 4;
+        return mServer.requests() >= 24;
     }));
+    mServer.setMode(TileServer::Mode::Tiles);
     const std::vector<TileAddress> elsewhere{{5, 30, 30}};
     settle(mSource, elsewhere);
     EXPECT_EQ(mPictures.count(elsewhere[0]), 1U);
-    EXPECT_LE(mServer.mostParallel(), 5) << "four, and one whose end the server has yet to see";
-    EXPECT_LE(mServer.requests(), 9) << "what is out of sight is not fetched";
+    EXPECT_EQ(mServer.requests(), 25) << "what is out of sight is not fetched";
 }
 
 TEST_F(TileSourceTest, AnOldTileIsShownWhileTheServerIsAsked)
@@ -124,6 +130,13 @@ TEST_F(TileSourceTest, AnOldTileIsShownWhileTheServerIsAsked)
     settle(mSource, {tile});
     EXPECT_EQ(mServer.requests(), 1) << "it is fresh again";
     ASSERT_TRUE(waitFor([&] { return store.read(tile)->freshness.expires > 1000; }));
+
+    const TileAddress dated{4, 9, 5};
+    mServer.setEntityTag({});
+    mServer.setLastModified("Wed, 21 Oct 2015 07:28:00 GMT");
+    ASSERT_TRUE(store.write(dated, {TileServer::tile(1, 1, 1), {1, "", mServer.lastModified()}}));
+    settle(mSource, {dated});
+    EXPECT_EQ(mServer.notModified(), 2);
 
     mServer.setEntityTag("\"v2\"");
     ASSERT_TRUE(store.refresh(tile, {1, "\"v1\"", ""}));
@@ -216,6 +229,60 @@ TEST_F(TileSourceTest, TellsWhyThereAreNoTilesButNotForEachOfThem)
     settle(mSource, {{4, 1, 1}, {4, 2, 1}});
     EXPECT_EQ(mFailures, (Reasons{"Connection refused", "not an address of HTTP or HTTPS"}));
     EXPECT_EQ(mFailedUrl, QStringLiteral("ftp://tiles.example"));
+}
+
+TEST_F(TileSourceTest, ServersThatTakeTheirTimeOccupyNoConnectionForEver)
+{
+    TileFetcher::Patience patience;
+    patience.whole = 300;
+    mSource.setPatience(patience);
+    mServer.setMode(TileServer::Mode::Drip);
+    const std::vector<TileAddress> tiles{{4, 1, 5}, {4, 2, 5}, {4, 3, 5}, {4, 4, 5}, {4, 5, 5}};
+    ASSERT_TRUE(waitFor([&] {
+        mSource.want(tiles, {});
+        return mServer.requests() == 4;
+    }));
+    mServer.setMode(TileServer::Mode::Tiles);
+    settle(mSource, tiles);
+    EXPECT_EQ(mPictures.count(tiles[4]), 1U) << "only the four tiles have failed";
+    EXPECT_EQ(mPictures.size(), 1U);
+    EXPECT_EQ(mFailures, std::vector<std::string>{"not whole in time"});
+
+    patience.whole = 30000;
+    patience.silence = 300;
+    mSource.setPatience(patience);
+    mServer.setMode(TileServer::Mode::Silent);
+    settle(mSource, {{5, 1, 1}});
+    EXPECT_EQ(mFailures.back(), "no answer in time");
+}
+
+TEST_F(TileSourceTest, AnAnswerWithoutEndIsCutOff)
+{
+    mServer.setMode(TileServer::Mode::Stream);
+    settle(mSource, {{4, 8, 5}});
+    EXPECT_EQ(mFailures, std::vector<std::string>{"larger than a tile can be"});
+    EXPECT_GT(mServer.streamed(), 4 << 20);
+    EXPECT_LT(mServer.streamed(), 24 << 20) << "a tile's and what the system keeps on its way";
+}
+
+TEST_F(TileSourceTest, ATileThatFailedIsAskedForAgainAfterAWhile)
+{
+    mSource.setPatience({15000, 30000, 0.1, 0.2});
+    mServer.setMode(TileServer::Mode::Error);
+    const TileAddress tile{4, 8, 5};
+    const auto wanted = [&] {
+        mSource.want({tile}, {});
+        take(mSource);
+    };
+    ASSERT_TRUE(waitFor([&] {
+        wanted();
+        return mServer.requests() >= 4;
+    }));
+    mServer.setMode(TileServer::Mode::Tiles);
+    EXPECT_TRUE(waitFor([&] {
+        wanted();
+        return mPictures.count(tile) == 1;
+    }));
 }
 
 TEST_F(TileSourceTest, WithoutAServerTheDiskServes)
