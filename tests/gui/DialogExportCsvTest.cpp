@@ -60,7 +60,7 @@ TEST_F(DialogExportCsvTest, SaysWhatIsWrongWithAPlaceAndStaysThere)
     EXPECT_EQ(edit("exportPath").text(), QStringLiteral("."));
     EXPECT_EQ(edit("exportFile").text(), QStringLiteral("ExportVelix.csv"));
     open();
-    ASSERT_TRUE(TestProgram::write(program.home.filePath(QStringLiteral("plain")), "x"));
+    ASSERT_TRUE(writeFile(program.home.filePath(QStringLiteral("plain")), "x"));
     const QString home = program.home.path();
     const struct
     {
@@ -99,37 +99,37 @@ TEST_F(DialogExportCsvTest, SaysWhatIsWrongWithAPlaceAndStaysThere)
 TEST_F(DialogExportCsvTest, AsksOnceBeforeItReplacesAFile)
 {
     for (const char* name : {"ExportVelix.csv", "other.csv"}) {
-        ASSERT_TRUE(TestProgram::write(program.home.filePath(QLatin1String(name)), "x"));
+        ASSERT_TRUE(writeFile(program.home.filePath(QLatin1String(name)), "x"));
     }
     open();
-    wizard.next();
-    EXPECT_EQ(subTitle(), kPathPage);
-    EXPECT_EQ(program.dialogs.takeAsked().size(), 1);
-    program.dialogs.agrees = true;
-    wizard.next();
-    EXPECT_EQ(subTitle(), kOptionsPage);
-    EXPECT_EQ(program.dialogs.takeAsked().size(), 1);
-
-    wizard.back();
-    wizard.next();
-    EXPECT_TRUE(program.dialogs.takeAsked().isEmpty()); // the answer is known
-    wizard.back();
-    edit("exportFile").setText(QStringLiteral("other.csv"));
-    wizard.next();
-    EXPECT_EQ(program.dialogs.takeAsked().size(), 1);
+    const struct
+    {
+        const char* file;
+        bool agrees;
+        int asked;
+    } rows[] = {{"ExportVelix.csv", false, 1},
+                {"ExportVelix.csv", true, 1},
+                {"ExportVelix.csv", false, 0}, // the answer is known
+                {"other.csv", false, 1}};
+    for (const auto& row : rows) {
+        edit("exportFile").setText(QLatin1String(row.file));
+        program.dialogs.agrees = row.agrees;
+        wizard.next();
+        EXPECT_EQ(program.dialogs.takeAsked().size(), row.asked);
+        EXPECT_EQ(subTitle(), row.agrees || row.asked == 0 ? kOptionsPage : kPathPage);
+        wizard.back();
+    }
 }
 
 TEST_F(DialogExportCsvTest, BrowsesForTheFolder)
 {
     open();
-    const QString before = edit("exportPath").text();
-    auto* browse = wizard.currentPage()->findChild<QPushButton*>();
-    browse->click(); // cancelled
-    EXPECT_EQ(edit("exportPath").text(), before);
-    EXPECT_EQ(program.dialogs.takeAsked(), QStringList(QStringLiteral("Save CSV Export")));
-    EXPECT_EQ(program.dialogs.lastStart, before);
-    program.dialogs.file = QStringLiteral("/tmp");
-    browse->click();
+    for (const QString& chosen : {QString(), QStringLiteral("/tmp")}) {
+        program.dialogs.file = chosen;
+        wizard.currentPage()->findChild<QPushButton*>()->click();
+        EXPECT_EQ(program.dialogs.lastStart, program.home.path());
+        EXPECT_EQ(edit("exportPath").text(), chosen.isEmpty() ? program.home.path() : chosen);
+    }
     EXPECT_EQ(wizard.options().directory, "/tmp");
 }
 
@@ -167,11 +167,14 @@ TEST_F(DialogExportCsvTest, HandsOutTheAnswersAndKeepsThemForNextTime)
     EXPECT_FALSE(options.allParameters);
     EXPECT_TRUE(options.aligned);
 
-    EXPECT_EQ(program.storedSetting("CsvExportDir"), program.home.path());
-    EXPECT_EQ(program.storedSetting("CsvLimiter"), QStringLiteral("9"));
-    EXPECT_EQ(program.storedSetting("CsvResolution"), QStringLiteral("10"));
-    EXPECT_EQ(program.storedSetting("CsvAllParameter"), QStringLiteral("false"));
-    EXPECT_EQ(program.storedSetting("CsvAligned"), QStringLiteral("true"));
+    const std::pair<const char*, QString> stored[] = {{"CsvExportDir", program.home.path()},
+                                                      {"CsvLimiter", QStringLiteral("9")},
+                                                      {"CsvResolution", QStringLiteral("10")},
+                                                      {"CsvAllParameter", QStringLiteral("false")},
+                                                      {"CsvAligned", QStringLiteral("true")}};
+    for (const auto& [key, text] : stored) {
+        EXPECT_EQ(program.storedSetting(key), text) << key;
+    }
 
     DialogExportCsv next(program.settings, program.dialogs, rows);
     next.loadOptions();
@@ -184,8 +187,6 @@ TEST_F(DialogExportCsvTest, CancellingChangesNothing)
     CsvExportOptions options;
     options.delimiter = '|';
     QTimer::singleShot(0, &wizard, [this] {
-        edit("exportPath").setText(program.home.path());
-        wizard.next();
         activate("csvLimiter", 1);
         wizard.reject();
     });

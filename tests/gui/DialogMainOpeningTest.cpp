@@ -3,6 +3,7 @@
 #include "gui/DialogPreferences.h"
 #include "tests/gui/MainWindowFixture.h"
 
+#include <QDir>
 #include <QDropEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -60,8 +61,8 @@ TEST_F(DialogMainOpeningTest, TakesCardsAndProjectsThatAreDroppedOnAnyPane)
 {
     ASSERT_TRUE(program.installProfile());
     ASSERT_TRUE(writeCard(program.cardFolder()));
-    ASSERT_TRUE(TestProgram::write(path("mine.xml"), kProject));
-    ASSERT_TRUE(TestProgram::write(path("notes.txt"), "text"));
+    ASSERT_TRUE(writeFile(path("mine.xml"), kProject));
+    ASSERT_TRUE(writeFile(path("notes.txt"), "text"));
     start();
     QWidget* const panes[] = {window.get(), find<QTreeWidget>("treeParameters").viewport(),
                               &find<QLineEdit>("searchParameters"), table().viewport()};
@@ -116,7 +117,7 @@ TEST_F(DialogMainOpeningTest, ListsProjectsOfTheUserAndDropsDeletedOnes)
     ASSERT_TRUE(program.installProfile());
     start();
     for (const char* name : {"one.xml", "two.xml"}) {
-        ASSERT_TRUE(TestProgram::write(path(name), kProject));
+        ASSERT_TRUE(writeFile(path(name), kProject));
         program.dialogs.file = path(name);
         action(eActionOpenProject).trigger();
     }
@@ -143,7 +144,7 @@ TEST_F(DialogMainOpeningTest, OnlyAChangedProjectCanBeSaved)
     EXPECT_TRUE(save.isEnabled());
     QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier);
     EXPECT_FALSE(save.isEnabled());
-    EXPECT_TRUE(TestProgram::read(program.data("CurrentProject.xml")).contains("Oil Temp"));
+    EXPECT_TRUE(readFile(program.data("CurrentProject.xml")).contains("Oil Temp"));
 }
 
 TEST_F(DialogMainOpeningTest, AChosenProfileAndItsVariantComeBackInTheNextRun)
@@ -158,7 +159,7 @@ TEST_F(DialogMainOpeningTest, AChosenProfileAndItsVariantComeBackInTheNextRun)
     find<DialogPreferences>().slotProfilePath(QDir::current().relativeFilePath(path("own.xml")));
     EXPECT_EQ(find<QTreeWidget>("treeParameters").topLevelItemCount(), 1);
     EXPECT_EQ(program.profile.currentVariant(), QString());
-    chooseVariant("Twin");
+    chooseIn("selectorVariant", "Twin");
     window->close();
     window.reset();
 
@@ -167,10 +168,10 @@ TEST_F(DialogMainOpeningTest, AChosenProfileAndItsVariantComeBackInTheNextRun)
     EXPECT_EQ(program.profile.currentVariant(), QStringLiteral("Twin"));
     EXPECT_EQ(find<QwtComboBox>("selectorVariant").currentText(), QStringLiteral("Twin"));
     // What only the other profile knows is still selected there.
-    EXPECT_TRUE(TestProgram::read(program.data("CurrentProject.xml")).contains("Lane A/Oil Temp"));
+    EXPECT_TRUE(readFile(program.data("CurrentProject.xml")).contains("Lane A/Oil Temp"));
 
     // A chosen file that is broken later on is told.
-    ASSERT_TRUE(TestProgram::write(path("own.xml"), "<Other/>"));
+    ASSERT_TRUE(writeFile(path("own.xml"), "<Other/>"));
     window.reset();
     start();
     EXPECT_TRUE(notice().contains(path("own.xml")));

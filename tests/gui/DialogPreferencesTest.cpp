@@ -51,7 +51,7 @@ protected:
     QString chooseFile(const QByteArray& content)
     {
         program.dialogs.file = program.home.filePath(QStringLiteral("chosen.xml"));
-        EXPECT_TRUE(TestProgram::write(program.dialogs.file, content));
+        EXPECT_TRUE(writeFile(program.dialogs.file, content));
         find<QPushButton>("buttonSelectProfile").click();
         return program.dialogs.file;
     }

@@ -20,29 +20,15 @@ using namespace VELIX::Test;
 
 namespace {
 
-constexpr int kLatitudeId = 1036;
-constexpr int kLongitudeId = 1037;
-
 class ExportControllerTest : public ::testing::Test
 {
 protected:
     void SetUp() override
     {
-        ProfileBuilder profile = demoProfile();
-        profile.device("Position")
-            .parameter(kLatitudeId, QStringLiteral("Latitude"), "FLOAT")
-            .set("velixDataType", "Latitude");
-        profile.parameter(kLongitudeId, QStringLiteral("Longitude"), "FLOAT");
-        ASSERT_TRUE(profile.load(program.profile));
+        ASSERT_TRUE(flightProfile().load(program.profile));
         ProfileBuilder::selectAll(program.profile);
-        RecordBuilder record;
-        for (int i = 0; i < kSeconds; ++i) {
-            record.at(i).id(kLatitudeId).floatValue(47.0F).id(kLongitudeId).floatValue(8.0F);
-            record.id(kOilId).floatValue(90.0F);
-        }
         const QString card = program.home.filePath(QStringLiteral("CARD.7"));
-        ASSERT_TRUE(QDir().mkpath(card));
-        ASSERT_TRUE(record.write(card + QStringLiteral("/0001.CAN")));
+        ASSERT_TRUE(writeFlights(card));
         ASSERT_TRUE(program.card.readContainer(card));
         ASSERT_EQ(program.card.loadFiles({QStringLiteral("0001.CAN")}), 1);
         program.settings.setString("LastPath", card.toStdString());
@@ -76,7 +62,7 @@ protected:
     }
     QString file(const char* name) const { return folder + QLatin1Char('/') + QLatin1String(name); }
 
-    static constexpr int kSeconds = 600;
+    static constexpr int kSeconds = 180; ///< of the flights
     TestProgram program;
     QString folder = program.home.filePath(QStringLiteral("out"));
     QString notice;
@@ -108,7 +94,7 @@ TEST(ExportController, NamesTheKmlFileAfterTheCard)
 TEST_F(ExportControllerTest, WritesWhatTheWizardsSumUp)
 {
     exportKml();
-    const QByteArray kml = TestProgram::read(file("CARD.kml"));
+    const QByteArray kml = readFile(file("CARD.kml"));
     const auto* kmlWizard = window.findChild<DialogExportKml*>();
     const auto summary = [](const QWizard* wizard, const char* line) {
         const auto* label = wizard->findChild<QLabel*>(QLatin1String(line));
@@ -121,7 +107,7 @@ TEST_F(ExportControllerTest, WritesWhatTheWizardsSumUp)
     EXPECT_TRUE(notice.contains(file("CARD.kml")));
 
     exportCsv();
-    const QByteArray csv = TestProgram::read(file("ExportVelix.csv"));
+    const QByteArray csv = readFile(file("ExportVelix.csv"));
     EXPECT_EQ(csv.count('\n') - 1, summary(window.findChild<DialogExportCsv*>(), "summary0"));
     EXPECT_EQ(csv.count('\n') - 1, kSeconds);
     EXPECT_TRUE(program.dialogs.takeAsked().isEmpty());
@@ -154,7 +140,7 @@ TEST_F(ExportControllerTest, ACancelledExportLeavesTheOldFile)
     } rows[] = {{"CARD.kml", [this] { exportKml(); }},
                 {"ExportVelix.csv", [this] { exportCsv(); }}};
     for (const auto& row : rows) {
-        ASSERT_TRUE(TestProgram::write(file(row.name), "old"));
+        ASSERT_TRUE(writeFile(file(row.name), "old"));
         bool shown = false;
         QTimer user;
         QObject::connect(&user, &QTimer::timeout, [&] {
@@ -166,7 +152,7 @@ TEST_F(ExportControllerTest, ACancelledExportLeavesTheOldFile)
         user.start(0);
         row.run();
         EXPECT_TRUE(shown) << row.name;
-        EXPECT_EQ(TestProgram::read(file(row.name)), "old");
+        EXPECT_EQ(readFile(file(row.name)), "old");
         EXPECT_EQ(notice, QStringLiteral("The export was cancelled. Nothing was written."));
         EXPECT_EQ(program.dialogs.takeAsked().size(), 1); // about the old file, no failure
         EXPECT_FALSE(exports.isWriting());
@@ -177,7 +163,7 @@ TEST_F(ExportControllerTest, ACancelledExportLeavesTheOldFile)
 TEST_F(ExportControllerTest, ALookUpMeanwhileDoesNotDisturbTheWriting)
 {
     exportCsv();
-    const QByteArray alone = TestProgram::read(file("ExportVelix.csv"));
+    const QByteArray alone = readFile(file("ExportVelix.csv"));
     program.dialogs.agrees = true;
     exports.setPatience(0);
     int lookUps = 0;
@@ -191,5 +177,5 @@ TEST_F(ExportControllerTest, ALookUpMeanwhileDoesNotDisturbTheWriting)
     replay.start(0);
     exportCsv();
     EXPECT_GT(lookUps, 0);
-    EXPECT_EQ(TestProgram::read(file("ExportVelix.csv")), alone);
+    EXPECT_EQ(readFile(file("ExportVelix.csv")), alone);
 }

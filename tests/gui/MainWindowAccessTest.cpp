@@ -7,6 +7,7 @@
 #include "views/WidgetMap.h"
 
 #include <QAbstractButton>
+#include <QActionGroup>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -63,11 +64,15 @@ TEST_F(DialogMainTest, EveryButtonHasANameAndCanBeReachedByKey)
         EXPECT_FALSE(button->text().isEmpty() && button->accessibleName().isEmpty())
             << nameOf(*button);
         EXPECT_FALSE(button->text().isEmpty() && button->toolTip().isEmpty()) << nameOf(*button);
+        EXPECT_FALSE(button->text().isEmpty() && button->icon().isNull()) << nameOf(*button);
         // The tool bar's actions are in the menus, too.
         const bool ofToolBar = qobject_cast<const QToolBar*>(button->parent()) != nullptr;
         EXPECT_TRUE(ofToolBar || (button->focusPolicy() & Qt::TabFocus)) << nameOf(*button);
     }
     EXPECT_GT(buttons, 20);
+    for (const QAction* action : find<MainActions>().group()->actions()) {
+        EXPECT_FALSE(action->icon().isNull()) << action->text().toStdString();
+    }
 }
 
 TEST_F(DialogMainTest, EveryMenuAnswersToDifferentLetters)

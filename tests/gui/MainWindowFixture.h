@@ -5,13 +5,13 @@
 #include "gui/MainActions.h"
 #include "gui/QwtComboBox.h"
 #include "tests/gui/TestProgram.h"
+#include "tests/support/ViewTexts.h"
 
 #include <gtest/gtest.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -26,9 +26,10 @@ class DialogMainTest : public ::testing::Test
 {
 protected:
     /// Starts the program, up to and with its deferred start-up.
-    void start()
+    void start() { start(program.dialogs); }
+    void start(DialogService& dialogs)
     {
-        window = std::make_unique<DialogMain>(program.context, program.dialogs);
+        window = std::make_unique<DialogMain>(program.context, dialogs);
         QApplication::setActiveWindow(window.get());
         QTest::qWait(60);
     }
@@ -48,11 +49,13 @@ protected:
     QTreeWidget& cycles() { return find<QTreeWidget>("treeCycles"); }
     QString loaded() { return find<DialogStatusBar>().loaded(); }
     QString notice() { return find<DialogStatusBar>().notice(); }
-    bool loadCycle(int index)
+    /// Loads a cycle or flight by its line; true once the status bar names it.
+    bool load(QTreeWidgetItem* line, const char* name)
     {
-        cycles().setCurrentItem(cycles().topLevelItem(index));
-        return QTest::qWaitFor([this] { return !loaded().isEmpty(); }, kLoadMs);
+        cycles().setCurrentItem(line);
+        return QTest::qWaitFor([&] { return loaded().startsWith(QLatin1String(name)); }, kLoadMs);
     }
+    bool loadCycle(int index) { return load(cycles().topLevelItem(index), "Cycle"); }
     void select(int device, int parameter)
     {
         find<QTreeWidget>("treeParameters")
@@ -61,23 +64,17 @@ protected:
             ->setCheckState(0, Qt::Checked);
         find<QPushButton>("buttonConfirm").click();
     }
-    void chooseVariant(const char* name)
+    void chooseIn(const char* selector, const char* text)
     {
-        auto& box = find<QwtComboBox>("selectorVariant");
-        const int index = box.findText(QLatin1String(name));
+        auto& box = find<QwtComboBox>(selector);
+        const int index = box.findText(QLatin1String(text));
+        ASSERT_GE(index, 0) << text;
         box.setCurrentIndex(index);
-        emit box.activated(index);
+        emit box.activated(index); // as a click on the item does
     }
     /// The value table, among those of all views.
     QTableWidget& table() { return *find<QWidget>("viewTable").findChild<QTableWidget*>(); }
-    QString headings()
-    {
-        QStringList texts;
-        for (int i = 0; i < table().columnCount(); ++i) {
-            texts.append(table().horizontalHeaderItem(i)->text());
-        }
-        return texts.join(QLatin1Char('|'));
-    }
+    std::string headings() { return headingsOf(table()); }
 
     TestProgram program;
     std::unique_ptr<DialogMain> window;

@@ -19,10 +19,10 @@ protected:
     QString chosen(const QByteArray& text) const
     {
         QString path = program.home.filePath(QStringLiteral("chosen.xml"));
-        EXPECT_TRUE(TestProgram::write(path, text));
+        EXPECT_TRUE(writeFile(path, text));
         return path;
     }
-    QByteArray installed() const { return TestProgram::read(program.data("Profile.xml")); }
+    QByteArray installed() const { return readFile(program.data("Profile.xml")); }
     void set(const char* key, const QString& value)
     {
         program.settings.setString(key, value.toStdString());

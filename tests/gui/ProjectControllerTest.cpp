@@ -23,16 +23,12 @@ protected:
     /// The user confirms a selection of this one parameter.
     void choose(int id)
     {
-        for (ProfileDevice& device : program.profile.data().devices) {
-            for (auto& [key, parameter] : device.parameters) {
-                parameter.selected = key == id;
-            }
-        }
+        ProfileBuilder::select(program.profile, {id});
         controller.setModified();
     }
     static bool holds(const QString& path, const char* name)
     {
-        return TestProgram::read(path).contains(name);
+        return readFile(path).contains(name);
     }
 
     TestProgram program;
@@ -46,34 +42,28 @@ const QString kQuestion =
 
 } // namespace
 
-TEST_F(ProjectControllerTest, EveryRunStartsOnItsOwnFile)
-{
-    EXPECT_EQ(controller.file(), runFile());
-    EXPECT_EQ(program.storedSetting("LastProjectPath"), runFile());
-    EXPECT_FALSE(controller.readLast());
-}
-
 TEST_F(ProjectControllerTest, AFileThatIsNoProjectNeverBecomesTheOneOfSave)
 {
     const QString profile = file("Profile.xml");
     ASSERT_TRUE(demoProfile().write(profile));
-    const QByteArray before = TestProgram::read(profile);
+    const QByteArray before = readFile(profile);
     program.dialogs.file = profile;
     EXPECT_TRUE(controller.openProject());
     EXPECT_EQ(controller.file(), runFile());
     EXPECT_FALSE(controller.lastError().isEmpty());
     choose(kSpeedId);
     EXPECT_TRUE(controller.saveProject(false));
-    EXPECT_EQ(TestProgram::read(profile), before);
+    EXPECT_EQ(readFile(profile), before);
     EXPECT_EQ(program.storedSetting("LastProjectPath"), runFile()); // proposed by "Save as"
 }
 
 TEST_F(ProjectControllerTest, KeepsARunFileThatItCannotRead)
 {
-    QFile broken(runFile());
-    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-    broken.write("<VelixProject><Para");
-    broken.close();
+    EXPECT_EQ(controller.file(), runFile());
+    EXPECT_EQ(program.storedSetting("LastProjectPath"), runFile());
+    EXPECT_FALSE(controller.readLast()) << "the first run has none";
+    EXPECT_TRUE(controller.lastError().isEmpty());
+    ASSERT_TRUE(writeFile(runFile(), "<VelixProject><Para"));
     EXPECT_FALSE(controller.readLast());
     EXPECT_FALSE(controller.lastError().isEmpty());
     choose(kSpeedId);
@@ -109,10 +99,10 @@ TEST_F(ProjectControllerTest, SavesWithoutAskingAndAsksForANewName)
 
 TEST_F(ProjectControllerTest, DoesNotReplaceAFileThatTheUserDidNotName)
 {
-    ASSERT_TRUE(TestProgram::write(file("other.xml"), "mine"));
+    ASSERT_TRUE(writeFile(file("other.xml"), "mine"));
     program.dialogs.file = file("other");
     EXPECT_FALSE(controller.saveProject(true));
-    EXPECT_EQ(TestProgram::read(file("other.xml")), QByteArray("mine"));
+    EXPECT_EQ(readFile(file("other.xml")), QByteArray("mine"));
     program.dialogs.agrees = true;
     EXPECT_TRUE(controller.saveProject(true));
     EXPECT_TRUE(holds(file("other.xml"), "VelixProject"));
@@ -182,35 +172,23 @@ TEST_F(ProjectControllerTest, OpeningMakesThatFileTheOneThatIsSaved)
 
 TEST_F(ProjectControllerTest, QuittingWritesTheRunsOwnFileAndNoOther)
 {
+    controller.saveOnQuit();
+    EXPECT_FALSE(QFile::exists(runFile())) << "nothing was done";
     choose(kOilId);
     program.dialogs.file = file("a.xml");
     ASSERT_TRUE(controller.saveProject(true));
-    const QByteArray saved = TestProgram::read(file("a.xml"));
+    const QByteArray saved = readFile(file("a.xml"));
+    controller.saveOnQuit();
+    EXPECT_TRUE(holds(runFile(), kOil)) << "saved elsewhere";
     choose(kSpeedId);
     program.dialogs.takeAsked();
     controller.saveOnQuit();
     EXPECT_TRUE(program.dialogs.takeAsked().isEmpty());
     EXPECT_TRUE(holds(runFile(), kSpeed));
-    EXPECT_EQ(TestProgram::read(file("a.xml")), saved);
-}
+    EXPECT_EQ(readFile(file("a.xml")), saved);
 
-TEST_F(ProjectControllerTest, QuittingKeepsWhatWasOpenedOrSavedElsewhere)
-{
-    choose(kOilId);
-    program.dialogs.file = file("a.xml");
-    ASSERT_TRUE(controller.saveProject(true));
-    controller.saveOnQuit();
-    EXPECT_TRUE(holds(runFile(), kOil));
-
-    ASSERT_TRUE(controller.newProject());
-    ASSERT_TRUE(QFile::remove(runFile()));
     ASSERT_TRUE(controller.openProject());
+    ASSERT_TRUE(QFile::remove(runFile()));
     controller.saveOnQuit();
-    EXPECT_TRUE(holds(runFile(), kOil));
-}
-
-TEST_F(ProjectControllerTest, QuittingAnUntouchedRunWritesNothing)
-{
-    controller.saveOnQuit();
-    EXPECT_FALSE(QFile::exists(runFile()));
+    EXPECT_TRUE(holds(runFile(), kOil)) << "opened from elsewhere";
 }

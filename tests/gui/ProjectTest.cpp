@@ -2,19 +2,19 @@
 
 #include "profile/Profile.h"
 #include "tests/support/ProfileBuilder.h"
+#include "tests/support/TestFile.h"
 
 #include <gtest/gtest.h>
 
-#include <QDir>
-#include <QFile>
 #include <QHash>
 #include <QTemporaryDir>
 
-#include <initializer_list>
 #include <string>
 
 using namespace VELIX;
 using VELIX::Test::ProfileBuilder;
+using VELIX::Test::readFile;
+using VELIX::Test::writeFile;
 
 namespace {
 
@@ -32,16 +32,6 @@ ProfileBuilder twoDevices()
     return builder;
 }
 
-/// The selection as text: "Lane A/Oil, Lane B/Oil".
-QString selection(const Profile& profile)
-{
-    QStringList names;
-    for (const ProfileParameter* p : profile.selectedParameters()) {
-        names.append(p->fullName);
-    }
-    return names.join(QStringLiteral(", "));
-}
-
 class ProjectTest : public ::testing::Test
 {
 protected:
@@ -55,26 +45,10 @@ protected:
     QString profileFile() const { return folder.filePath(QStringLiteral("Profile.xml")); }
     QString path(const char* name) const { return folder.filePath(QLatin1String(name)); }
     std::string projectFile() const { return path("Project.xml").toStdString(); }
-    void select(std::initializer_list<int> ids)
-    {
-        for (ProfileDevice& device : profile.data().devices) {
-            for (auto& [id, p] : device.parameters) {
-                p.selected = std::find(ids.begin(), ids.end(), id) != ids.end();
-            }
-        }
-    }
-    QByteArray written(const std::string& file) const
-    {
-        QFile in(QString::fromStdString(file));
-        EXPECT_TRUE(in.open(QIODevice::ReadOnly));
-        return in.readAll();
-    }
-    void write(const std::string& file, const QByteArray& text) const
-    {
-        QFile out(QString::fromStdString(file));
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(text);
-    }
+    QByteArray written() const { return readFile(path("Project.xml")); }
+    void write(const QByteArray& text) const { ASSERT_TRUE(writeFile(path("Project.xml"), text)); }
+    void select(std::initializer_list<int> ids) { ProfileBuilder::select(profile, ids); }
+    QString selection() const { return ProfileBuilder::selection(profile); }
 
     QTemporaryDir folder;
     Profile profile;
@@ -88,24 +62,17 @@ TEST_F(ProjectTest, WritesSelectedParametersInProfileOrderAndPropertiesInKeyOrde
     select({30, 20, 10});
     project.setCanProperties({{"rate", "500"}, {"bus", "1 & 2"}});
     ASSERT_EQ(project.saveProject(projectFile()), 1);
-    EXPECT_EQ(written(projectFile()).toStdString(),
-              "<VelixProject>\n"
-              "    <Parameters>\n"
-              "        <Parameter name=\"Lane A/Fuel\"/>\n"
-              "        <Parameter name=\"Lane A/Oil\"/>\n"
-              "        <Parameter name=\"Lane B/Oil\"/>\n"
-              "    </Parameters>\n"
-              "    <CanProperties>\n"
-              "        <Property id=\"bus\" value=\"1 &amp; 2\"/>\n"
-              "        <Property id=\"rate\" value=\"500\"/>\n"
-              "    </CanProperties>\n"
-              "</VelixProject>\n");
-}
-
-TEST_F(ProjectTest, WritesAnEmptyListWithoutSelection)
-{
-    ASSERT_EQ(project.saveProject(projectFile()), 1);
-    EXPECT_NE(written(projectFile()).indexOf("<Parameters/>"), -1);
+    EXPECT_EQ(written().toStdString(), "<VelixProject>\n"
+                                       "    <Parameters>\n"
+                                       "        <Parameter name=\"Lane A/Fuel\"/>\n"
+                                       "        <Parameter name=\"Lane A/Oil\"/>\n"
+                                       "        <Parameter name=\"Lane B/Oil\"/>\n"
+                                       "    </Parameters>\n"
+                                       "    <CanProperties>\n"
+                                       "        <Property id=\"bus\" value=\"1 &amp; 2\"/>\n"
+                                       "        <Property id=\"rate\" value=\"500\"/>\n"
+                                       "    </CanProperties>\n"
+                                       "</VelixProject>\n");
 }
 
 TEST_F(ProjectTest, ReadsBackWhatItWrote)
@@ -118,7 +85,7 @@ TEST_F(ProjectTest, ReadsBackWhatItWrote)
     select({20});
     Project reader(profile);
     ASSERT_EQ(reader.readProject(projectFile()), 1);
-    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Fuel, Lane B/Oil"));
+    EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel, Lane B/Oil"));
     EXPECT_EQ(reader.canProperties(), properties);
 }
 
@@ -126,13 +93,13 @@ TEST_F(ProjectTest, ReadsWhatItKnowsAndSkipsTheRest)
 {
     select({20});
     project.setCanProperties({{"old", "x"}});
-    write(projectFile(), "<Other><Noise/><Parameters><Parameter name='Lane A/Fuel'/>"
-                         "<Parameter name='Lane A/Gone'/><Parameter/><Thing name='Lane B/Oil'/>"
-                         "</Parameters><CanProperties><Property id='k' value='1'/>"
-                         "<Property id='k' value='2'/><Thing id='t' value='3'/></CanProperties>"
-                         "</Other>");
+    write("<Other><Noise/><Parameters><Parameter name='Lane A/Fuel'/>"
+          "<Parameter name='Lane A/Gone'/><Parameter/><Thing name='Lane B/Oil'/>"
+          "</Parameters><CanProperties><Property id='k' value='1'/>"
+          "<Property id='k' value='2'/><Thing id='t' value='3'/></CanProperties>"
+          "</Other>");
     ASSERT_EQ(project.readProject(projectFile()), 1);
-    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Fuel"));
+    EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel"));
     EXPECT_EQ(project.canProperties(), (std::map<std::string, std::string>{{"k", "2"}}));
 }
 
@@ -141,11 +108,11 @@ TEST_F(ProjectTest, KeepsTheSelectionWhenAFileCannotBeRead)
     const std::map<std::string, std::string> properties{{"k", "v"}};
     select({20});
     project.setCanProperties(properties);
-    write(path("cut.xml").toStdString(), "<VelixProject><Parameters>");
-    write(path("empty.xml").toStdString(), "");
+    ASSERT_TRUE(writeFile(path("cut.xml"), "<VelixProject><Parameters>"));
+    ASSERT_TRUE(writeFile(path("empty.xml"), ""));
     for (const char* name : {"missing.xml", "cut.xml", "empty.xml", ""}) {
         EXPECT_EQ(project.readProject(path(name).toStdString()), 0) << name;
-        EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Oil")) << name;
+        EXPECT_EQ(selection(), QStringLiteral("Lane A/Oil")) << name;
         EXPECT_EQ(project.canProperties(), properties) << name;
     }
 }
@@ -156,64 +123,56 @@ TEST_F(ProjectTest, ReportsAFileThatCannotBeWritten)
     EXPECT_EQ(project.saveProject(folder.path().toStdString()), 0);
 }
 
-TEST_F(ProjectTest, ANewProjectHasNoSelectionAndNoProperties)
-{
-    select({10, 20});
-    project.setCanProperties({{"k", "v"}});
-    project.clear();
-    EXPECT_EQ(selection(profile), QString());
-    EXPECT_TRUE(project.canProperties().empty());
-}
-
 TEST_F(ProjectTest, CarriesTheSelectionOverAReload)
 {
     select({10, 30});
     project.rememberSelection();
     ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Solo")));
     project.restoreSelection();
-    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Fuel"));
+    EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel"));
 
     // What only the other variant has comes back with it; what was unticked meanwhile does not.
     select({20});
     project.rememberSelection();
     ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Twin")));
     project.restoreSelection();
-    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Oil, Lane B/Oil"));
+    EXPECT_EQ(selection(), QStringLiteral("Lane A/Oil, Lane B/Oil"));
 }
 
 TEST_F(ProjectTest, WhatOnlyAnotherVariantHasIsSelectedWithThatVariant)
 {
-    write(projectFile(), "<VelixProject><Parameters><Parameter name='Lane A/Fuel'/>"
-                         "<Parameter name='Lane B/Oil'/></Parameters></VelixProject>");
+    write("<VelixProject><Parameters><Parameter name='Lane A/Fuel'/>"
+          "<Parameter name='Lane B/Oil'/></Parameters></VelixProject>");
     ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Solo")));
     ASSERT_EQ(project.readProject(projectFile()), 1);
-    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Fuel"));
+    EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel"));
 
     project.rememberSelection();
     ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Twin")));
     project.restoreSelection();
-    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Fuel, Lane B/Oil"));
+    EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel, Lane B/Oil"));
 
     // Saving keeps what is waiting, after what is selected.
-    write(projectFile(), "<VelixProject><Parameters><Parameter name='Other/A'/>"
-                         "<Parameter name='Lane B/Oil'/></Parameters></VelixProject>");
+    write("<VelixProject><Parameters><Parameter name='Other/A'/>"
+          "<Parameter name='Lane B/Oil'/></Parameters></VelixProject>");
     ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Solo")));
     ASSERT_EQ(project.readProject(projectFile()), 1);
     select({10});
     ASSERT_EQ(project.saveProject(projectFile()), 1);
-    EXPECT_TRUE(written(projectFile())
-                    .simplified()
-                    .contains("<Parameters> <Parameter name=\"Lane A/Fuel\"/> "
-                              "<Parameter name=\"Lane B/Oil\"/> <Parameter name=\"Other/A\"/> "
-                              "</Parameters>"));
+    EXPECT_TRUE(written().simplified().contains(
+        "<Parameters> <Parameter name=\"Lane A/Fuel\"/> "
+        "<Parameter name=\"Lane B/Oil\"/> <Parameter name=\"Other/A\"/> "
+        "</Parameters>"));
 
     // A new project forgets what is waiting, too.
     ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Solo")));
     ASSERT_EQ(project.readProject(projectFile()), 1);
+    project.setCanProperties({{"k", "v"}});
     project.clear();
+    EXPECT_TRUE(project.canProperties().empty());
     ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Twin")));
     project.restoreSelection();
-    EXPECT_EQ(selection(profile), QString());
+    EXPECT_EQ(selection(), QString());
 }
 
 TEST_F(ProjectTest, SurvivesAProfileThatCannotBeLoaded)
@@ -225,5 +184,5 @@ TEST_F(ProjectTest, SurvivesAProfileThatCannotBeLoaded)
     project.rememberSelection();
     ASSERT_TRUE(profile.loadProfile(profileFile(), QString()));
     project.restoreSelection();
-    EXPECT_EQ(selection(profile), QStringLiteral("Lane A/Fuel, Lane B/Oil"));
+    EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel, Lane B/Oil"));
 }

@@ -11,9 +11,9 @@
 #include "tests/gui/FakeDialogs.h"
 #include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
+#include "tests/support/TestFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -21,6 +21,9 @@ namespace VELIX::Test {
 
 constexpr int kSpeedId = 300;
 constexpr int kOilId = 500;
+constexpr int kLatitudeId = 1036;
+constexpr int kLongitudeId = 1037;
+constexpr int kAltitudeId = 1038;
 
 /// Ground speed and oil temperature once a second; `flights` times 30 s of flight in 90 s.
 inline RecordBuilder engineRun(double start, int flights)
@@ -45,6 +48,18 @@ inline bool writeCard(const QString& folder)
            engineRun(5, 0).write(folder + QStringLiteral("/0003.CAN"));
 }
 
+/// A card of one cycle with two flights of 30 s in 180 s, and positions once a second.
+inline bool writeFlights(const QString& folder)
+{
+    RecordBuilder record = engineRun(10, 2);
+    for (int i = 0; i < 180; ++i) {
+        record.at(10 + i).id(kLatitudeId).floatValue(4800.0F + 0.01F * static_cast<float>(i));
+        record.id(kLongitudeId).floatValue(1100.0F + 0.01F * static_cast<float>(i));
+        record.id(kAltitudeId).floatValue(500.0F);
+    }
+    return QDir().mkpath(folder) && record.write(folder + QStringLiteral("/0001.CAN"));
+}
+
 inline ProfileBuilder demoProfile()
 {
     ProfileBuilder builder;
@@ -57,6 +72,19 @@ inline ProfileBuilder demoProfile()
         .parameter(kOilId, QStringLiteral("Oil Temp"), "FLOAT")
         .set("unitMetric", "C")
         .set("unitImperial", "F");
+    return builder;
+}
+
+/// The same with positions.
+inline ProfileBuilder flightProfile()
+{
+    ProfileBuilder builder = demoProfile();
+    builder.device("Position");
+    for (const auto& [id, name] :
+         {std::pair(kLatitudeId, "Latitude"), std::pair(kLongitudeId, "Longitude"),
+          std::pair(kAltitudeId, "Altitude")}) {
+        builder.parameter(id, QLatin1String(name), "FLOAT").set("velixDataType", name);
+    }
     return builder;
 }
 
@@ -96,24 +124,7 @@ struct TestProgram
         stored.readXmlFile(data("VELIX.ini").toStdString());
         return QString::fromStdString(stored.getString(key, {}));
     }
-    QString selection() const
-    {
-        QStringList names;
-        for (const ProfileParameter* p : profile.selectedParameters()) {
-            names.append(p->fullName);
-        }
-        return names.join(QStringLiteral(", "));
-    }
-    static QByteArray read(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    static bool write(const QString& path, const QByteArray& text)
-    {
-        QFile file(path);
-        return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
-    }
+    QString selection() const { return ProfileBuilder::selection(profile); }
 
     QTemporaryDir home;
     DataHandler paths;

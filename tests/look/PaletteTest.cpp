@@ -46,12 +46,6 @@ TEST(Palette, KeepsEveryTextReadableInBothLooks)
             EXPECT_GE(Palette::contrast(palette->*pair.text, palette->*pair.ground), pair.least)
                 << pair.name << (palette == &Palette::dark() ? ", dark" : ", light");
         }
-    }
-}
-
-TEST(Palette, ShowsDisabledTextWeakerThanMutedText)
-{
-    for (const Palette* palette : {&Palette::light(), &Palette::dark()}) {
         EXPECT_LT(Palette::contrast(palette->disabledText, palette->window),
                   Palette::contrast(palette->mutedText, palette->window) / 1.5);
     }

@@ -2,6 +2,7 @@
 #include "gui/Palette.h"
 #include "gui/PrintController.h"
 #include "tests/gui/FakeDialogs.h"
+#include "tests/support/TestFile.h"
 #include "views/EventPrint.h"
 #include "views/GraphLook.h"
 
@@ -16,6 +17,7 @@
 
 using namespace VELIX;
 using VELIX::Test::FakeDialogs;
+using VELIX::Test::readFile;
 
 namespace {
 
@@ -131,11 +133,7 @@ protected:
         QObject::connect(&controller, &PrintController::signalNotice, &window,
                          [this](const QString& text) { notices.append(text); });
     }
-    QByteArray written() const
-    {
-        QFile file(dialogs.file);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray written() const { return readFile(dialogs.file); }
 
     QTemporaryDir folder;
     Property settings;

@@ -3,6 +3,7 @@
 #include "gui/Palette.h"
 #include "gui/Resources.h"
 #include "tests/support/CapturedDiagnostics.h"
+#include "tests/support/TestFile.h"
 
 #include <QApplication>
 #include <QFile>
@@ -14,6 +15,8 @@
 
 using VELIX::Palette;
 using VELIX::Test::CapturedDiagnostics;
+using VELIX::Test::readFile;
+using VELIX::Test::writeFile;
 
 namespace {
 
@@ -42,11 +45,9 @@ TEST(StyleHandler, KeepsAndReportsAnUnknownName)
 TEST(StyleHandler, ReadsAFileAndReportsOneThatItCannotRead)
 {
     const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("my.css")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("QLabel {color: @accent; qproperty-text: \"\xC2\xB0\"}");
-    file.close();
-    EXPECT_EQ(StyleHandler::readStyle(file.fileName()),
+    const QString path = folder.filePath(QStringLiteral("my.css"));
+    ASSERT_TRUE(writeFile(path, "QLabel {color: @accent; qproperty-text: \"\xC2\xB0\"}"));
+    EXPECT_EQ(StyleHandler::readStyle(path),
               QStringLiteral("QLabel {color: #1769d2; qproperty-text: \"\u00B0\"}"));
 
     CapturedDiagnostics printed;
@@ -67,9 +68,7 @@ TEST(StyleHandler, LeavesNoNameInTheBuiltInStyle)
 TEST(StyleHandler, NamesOnlyPicturesThatAreBuiltInForBothLooks)
 {
     VELIX::initResources();
-    QFile file(BuiltIn);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QString source = QString::fromUtf8(file.readAll());
+    const QString source = QString::fromUtf8(readFile(BuiltIn));
     const QRegularExpression url(QStringLiteral("url\\(([^)]*)\\)"));
     int pictures = 0;
     for (const Palette* palette : {&Palette::light(), &Palette::dark()}) {

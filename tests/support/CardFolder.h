@@ -27,10 +27,7 @@ public:
     }
     CardFolder& add(const char* name, const QByteArray& bytes)
     {
-        QFile out(file(name));
-        if (out.open(QIODevice::WriteOnly)) {
-            out.write(bytes);
-        }
+        (void)writeFile(file(name), bytes);
         return *this;
     }
     /// A file of that size that takes no room on the disk.

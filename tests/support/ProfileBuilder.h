@@ -1,12 +1,14 @@
 #pragma once
 
 #include "profile/Profile.h"
+#include "tests/support/TestFile.h"
 
-#include <QFile>
 #include <QString>
+#include <QStringList>
 #include <QTemporaryDir>
 #include <QXmlStreamWriter>
 
+#include <algorithm>
 #include <initializer_list>
 #include <utility>
 #include <vector>
@@ -138,6 +140,24 @@ public:
             }
         }
     }
+    /// Marks these parameters and no other.
+    static void select(Profile& profile, std::initializer_list<int> ids)
+    {
+        for (ProfileDevice& device : profile.data().devices) {
+            for (auto& [id, parameter] : device.parameters) {
+                parameter.selected = std::find(ids.begin(), ids.end(), id) != ids.end();
+            }
+        }
+    }
+    /// What is selected, as "Lane A/Oil, Lane B/Oil".
+    static QString selection(const Profile& profile)
+    {
+        QStringList names;
+        for (const ProfileParameter* parameter : profile.selectedParameters()) {
+            names.append(parameter->fullName);
+        }
+        return names.join(QStringLiteral(", "));
+    }
 
 private:
     struct Element
@@ -150,9 +170,7 @@ private:
 
     static bool writeText(const QString& path, const QString& xml)
     {
-        QFile file(path);
-        const QByteArray bytes = xml.toUtf8();
-        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+        return writeFile(path, xml.toUtf8());
     }
     ProfileBuilder& add(Elements& list, const char* tag)
     {

@@ -3,10 +3,10 @@
 #include "card/RecordData.h"
 #include "core/RecordEntry.h"
 #include "profile/DataType.h"
+#include "tests/support/TestFile.h"
 
 #include <QByteArray>
 #include <QDateTime>
-#include <QFile>
 #include <QString>
 
 #include <bit>
@@ -148,9 +148,7 @@ public:
     }
     bool write(const QString& path, Order order = Order::Big) const
     {
-        QFile file(path);
-        const QByteArray all = bytes(order);
-        return file.open(QIODevice::WriteOnly) && file.write(all) == all.size();
+        return writeFile(path, bytes(order));
     }
 
 private:

@@ -11,12 +11,11 @@ namespace {
 
 TEST(CursorTimeTest, TimesOfDayAreTruncatedAndWrap)
 {
-    struct Row
+    const struct
     {
         double seconds;
         const char* text;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {0.0, "00:00:00.000"},
         {10.0, "00:00:10.000"},
         {61.9999, "00:01:01.999"},
@@ -26,7 +25,7 @@ TEST(CursorTimeTest, TimesOfDayAreTruncatedAndWrap)
         {-1.0, "23:59:59.000"},
         {std::numeric_limits<double>::quiet_NaN(), "00:00:00.000"},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         EXPECT_EQ(CursorTime::timeText(CursorTime::milliseconds(row.seconds)).toStdString(),
                   row.text)
             << row.seconds;

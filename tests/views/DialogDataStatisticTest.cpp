@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QLocale>
 #include <QMimeData>
 #include <QTest>
 #include <QTextEdit>
@@ -78,7 +77,6 @@ TEST_F(DialogDataStatisticTest, AFlightIsATableOfNamesAndValues)
                         "Take Off Distance\t1.23457e+06 m\n"
                         "Take Off Distance 15m\t412 m");
     EXPECT_TRUE(edit()->isReadOnly());
-    EXPECT_TRUE(edit()->toPlainText().contains(QStringLiteral("Flight Time :")));
 }
 
 TEST_F(DialogDataStatisticTest, AFlightWithoutClimbHasFiguresThatAreNoNumbers)
@@ -129,16 +127,14 @@ TEST(FlightText, TimesAreTruncatedToSecondsOfADay)
 TEST_F(DialogDataStatisticTest, WithoutAFlightItSaysSo)
 {
     EXPECT_EQ(copied(), "No flight selected");
-    view.updateRecord(&data);
-    EXPECT_EQ(copied(), "No flight selected");
     data.flight = towFlight(0.0, 10.0);
-    data.flight.statistic.valid = false;
-    view.updateRecord(&data);
-    EXPECT_EQ(copied(), "No flight selected");
-    data.flight.statistic.valid = true;
-    view.updateRecord(&data);
-    view.updateRecord(nullptr);
-    EXPECT_EQ(copied(), "No flight selected");
+    for (RecordData* record : {&data, static_cast<RecordData*>(nullptr)}) {
+        data.flight.statistic.valid = true;
+        view.updateRecord(&data);
+        data.flight.statistic.valid = false;
+        view.updateRecord(record);
+        EXPECT_EQ(copied(), "No flight selected");
+    }
 }
 
 TEST_F(DialogDataStatisticTest, AWholeCycleListsItsFlights)

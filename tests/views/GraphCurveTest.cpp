@@ -49,13 +49,12 @@ std::string drawn(const std::deque<GraphTrace::FrameType>& frames,
 
 TEST(GraphCurveTest, FramesBecomeStrips)
 {
-    struct Row
+    const struct
     {
         const char* what;
         std::deque<GraphTrace::FrameType> frames;
         const char* strips;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"nothing", {}, ""},
         {"single samples are joined", {one(10, 20), one(20, 40)}, "10,80 20,60"},
         {"a lone sample is a point", {one(10, 20)}, "10,80"},
@@ -78,7 +77,7 @@ TEST(GraphCurveTest, FramesBecomeStrips)
          {many(20, 10, 20, 15), many(21, 60, 90, 70)},
          "20.5,90 20.5,80 | 20.5,85 21.5,40 21.5,10"},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         EXPECT_EQ(drawn(row.frames), row.strips) << row.what;
     }
 }

@@ -81,22 +81,21 @@ TEST(GraphLayoutTest, HandlesAndLegendEntriesAreFoundWhereTheyAre)
 
 TEST(GraphLayoutTest, TheLegendGivesWayStepByStep)
 {
-    struct Row
+    using Legend = GraphLayout::Legend;
+    const struct
     {
         const char* what;
         int width, height, rows;
         GraphLayout::Legend kind;
         int shown;
-    };
-    using Legend = GraphLayout::Legend;
-    const Row rows[] = {
+    } rows[] = {
         {"room for two lines each", 1000, 600, 8, Legend::NamesAboveValues, 8},
         {"one line each", 1600, 600, 30, Legend::NamesAndValues, 30},
         {"too narrow for values", 400, 600, 8, Legend::Names, 8},
         {"too low for all names", 1000, 300, 30, Legend::Names, 18},
         {"no room for a legend", 260, 600, 8, Legend::None, 0},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         const GraphLayout parts(input(row.width, row.height, row.rows, true));
         EXPECT_EQ(parts.legendKind(), row.kind) << row.what;
         EXPECT_EQ(parts.legendShown(), row.shown) << row.what;

@@ -15,12 +15,6 @@ using namespace VELIX;
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-struct Sample
-{
-    double time;
-    double value;
-};
-
 /// A model with three active traces; plot 100 pixels wide.
 struct Fixture
 {
@@ -33,11 +27,11 @@ struct Fixture
         model.setPlotWidth(100);
     }
 
-    void feed(unsigned int trace, const std::vector<Sample>& samples)
+    void feed(unsigned int trace, const std::vector<std::pair<double, double>>& samples)
     {
-        for (const Sample& sample : samples) {
-            model.setTime(sample.time);
-            model.putValue(trace, sample.value, false);
+        for (const auto& [time, value] : samples) {
+            model.setTime(time);
+            model.putValue(trace, value, false);
         }
     }
 
@@ -61,38 +55,15 @@ struct Fixture
     GraphModel model;
 };
 
-TEST(GraphModelTest, TracesStartWithTheirDefaults)
-{
-    GraphModel model;
-    model.setMaxParameters(8);
-    EXPECT_EQ(model.count(), 8U);
-    EXPECT_EQ(model.nrActive(), 0U);
-    const auto& last = model.parameter(7);
-    EXPECT_EQ(last.name, QStringLiteral("NoName"));
-    EXPECT_EQ(last.unit, QStringLiteral("-"));
-    EXPECT_EQ(last.colour, (GraphModel::Colour{0.0F, 0.7F, 0.0F}));
-    EXPECT_EQ(last.colourKey, QStringLiteral("GraphColor7"));
-    EXPECT_EQ(last.precision, 2);
-    EXPECT_EQ(model.xmin(), 0.0);
-    EXPECT_EQ(model.xmax(), 60.0);
-    EXPECT_EQ(model.scaling().ymin(), -0.5);
-    EXPECT_EQ(model.scaling().ymax(), 1.5);
-    EXPECT_EQ(model.secondsPerPixel(), 6.0) << "ten pixels until the first resize";
-}
-
 TEST(GraphModelTest, CurrentTimeStaysWithinADay)
 {
-    const std::vector<std::pair<double, double>> cases = {
-        {90000, 86400}, {-5, 0}, {kInfinity, 86400}, {-kInfinity, 0}, {12.5, 12.5}};
-    for (const auto& [given, kept] : cases) {
+    for (const auto& [given, kept] : std::vector<std::pair<double, double>>{
+             {90000, 86400}, {-5, 0}, {kInfinity, 86400}, {12.5, 12.5}, {kNan, 7.0}}) {
         GraphModel model;
+        model.setTime(7.0);
         model.setTime(given);
         EXPECT_EQ(model.currentTime(), kept) << given;
     }
-    GraphModel model;
-    model.setTime(7.0);
-    model.setTime(kNan);
-    EXPECT_EQ(model.currentTime(), 7.0);
 }
 
 TEST(GraphModelTest, ValuesAreStoredAtTheCurrentTime)
@@ -117,13 +88,12 @@ TEST(GraphModelTest, ValuesAreStoredAtTheCurrentTime)
 
 TEST(GraphModelTest, AutomaticModeRepeatsLastValues)
 {
-    struct Case
+    const struct
     {
         const char* name;
         std::function<void(Fixture&)> change;
         const char* samples;
-    };
-    const std::vector<Case> cases = {
+    } cases[] = {
         {"up to the present", [](Fixture&) {}, "1 7, 2 8, (5 8)"},
         {"once for each time", [](Fixture& f) { f.model.calcFrame(); }, "1 7, 2 8, (5 8)"},
         {"not in manual mode", [](Fixture& f) { f.model.setGraphMode(GraphModel::GraphManual); },
@@ -134,7 +104,7 @@ TEST(GraphModelTest, AutomaticModeRepeatsLastValues)
          "1 7, 2 8, 5 9"},
         {"not into the past", [](Fixture& f) { f.model.setTime(1.5); }, "1 7, 2 8"},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         Fixture f;
         f.model.setGraphMode(GraphModel::GraphAutomatic);
         f.feed(0, {{1, 7}, {2, 8}});
@@ -148,99 +118,61 @@ TEST(GraphModelTest, AutomaticModeRepeatsLastValues)
 
 TEST(GraphModelTest, VisibleRange)
 {
-    struct Case
+    using M = GraphModel;
+    constexpr auto kManual = GraphModel::GraphManual;
+    constexpr auto kAutomatic = GraphModel::GraphAutomatic;
+    constexpr auto kFloating = GraphModel::CursorFloating;
+    constexpr auto kCentre = GraphModel::CursorCentre;
+    constexpr auto kEnd = GraphModel::CursorEnd;
+    const struct
     {
         const char* name;
+        GraphModel::eGraphMode mode;
+        GraphModel::eCursorMode cursor;
         std::function<void(GraphModel&)> change;
         const char* range;
-    };
-    const auto automatic = [](GraphModel& m) { m.setGraphMode(GraphModel::GraphAutomatic); };
-    const std::vector<Case> cases = {
-        {"automatic mode ends at the present",
-         [&](GraphModel& m) {
-             automatic(m);
-             m.setTime(100);
-         },
+    } cases[] = {
+        {"automatic mode ends at the present", kAutomatic, kFloating, [](M& m) { m.setTime(100); },
          "40..100"},
-        {"manual mode stays", [](GraphModel& m) { m.setTime(100); }, "0..60"},
-        {"width in manual mode", [](GraphModel& m) { m.setXrange(10); }, "0..10"},
-        {"width in automatic mode",
-         [&](GraphModel& m) {
-             automatic(m);
-             m.setXrange(10);
-         },
-         "50..60"},
-        {"width of nothing", [](GraphModel& m) { m.setXrange(-5); }, "0..1e-06"},
-        {"width of all time", [](GraphModel& m) { m.setXrange(kInfinity); }, "0..1e+09"},
-        {"width that is no number", [](GraphModel& m) { m.setXrange(kNan); }, "0..60"},
-        {"start keeps the width", [](GraphModel& m) { m.setT0(5); }, "5..65"},
-        {"ends one by one",
-         [](GraphModel& m) {
-             m.setXmin(100);
-             m.setXmax(150);
-         },
-         "100..150"},
-        {"ends in the other order",
-         [](GraphModel& m) {
-             m.setT0(1000);
-             m.setXmax(50);
-             m.setXmin(20);
-         },
-         "20..50"},
-        {"ends that are no numbers",
-         [](GraphModel& m) {
-             m.setXmin(kNan);
-             m.setXmax(kInfinity);
-             m.setT0(-kInfinity);
-         },
-         "0..60"},
-        {"floating cursor", [](GraphModel& m) { m.setCursorPosition(100); }, "0..60"},
-        {"centred cursor",
-         [](GraphModel& m) {
-             m.setCursorMode(GraphModel::CursorCentre);
-             m.setCursorPosition(100);
-         },
-         "70..130"},
-        {"cursor at the end",
-         [](GraphModel& m) {
-             m.setCursorMode(GraphModel::CursorEnd);
-             m.setCursorPosition(100);
-         },
-         "40..100"},
-        {"cursor nowhere",
-         [](GraphModel& m) {
-             m.setCursorMode(GraphModel::CursorCentre);
-             m.setCursorPosition(kNan);
-         },
-         "0..60"},
-        {"between the markers",
-         [](GraphModel& m) {
-             m.setMarker(5, 8);
-             m.zoomToMarker();
-         },
-         "5..8"},
-        {"dragged to the left edge",
-         [](GraphModel& m) {
-             m.pan({10, 70}, -30);
-         },
-         "-20..40"},
-        {"wheel away from the user", [](GraphModel& m) { m.zoomStep(20, true); }, "2..56"},
-        {"wheel towards the user", [](GraphModel& m) { m.zoomStep(18, false); }, "-2..64.6667"},
+        {"manual mode stays", kManual, kFloating, [](M& m) { m.setTime(100); }, "0..60"},
+        {"width in manual mode", kManual, kFloating, [](M& m) { m.setXrange(10); }, "0..10"},
+        {"width in automatic mode", kAutomatic, kFloating, [](M& m) { m.setXrange(10); }, "50..60"},
+        {"width of nothing", kManual, kFloating, [](M& m) { m.setXrange(-5); }, "0..1e-06"},
+        {"width of all time", kManual, kFloating, [](M& m) { m.setXrange(kInfinity); }, "0..1e+09"},
+        {"width that is no number", kManual, kFloating, [](M& m) { m.setXrange(kNan); }, "0..60"},
+        {"start keeps the width", kManual, kFloating, [](M& m) { m.setT0(5); }, "5..65"},
+        {"an end after the other", kManual, kFloating, [](M& m) { m.setXmin(20); }, "20..60"},
+        {"an end before the other", kManual, kFloating, [](M& m) { m.setXmax(-5); }, "0..-5"},
+        {"an end that is no number", kManual, kFloating, [](M& m) { m.setXmax(kNan); }, "0..60"},
+        {"floating cursor", kManual, kFloating, [](M& m) { m.setCursorPosition(100); }, "0..60"},
+        {"centred cursor", kManual, kCentre, [](M& m) { m.setCursorPosition(100); }, "70..130"},
+        {"cursor at the end", kManual, kEnd, [](M& m) { m.setCursorPosition(100); }, "40..100"},
+        {"cursor nowhere", kManual, kCentre, [](M& m) { m.setCursorPosition(kNan); }, "0..60"},
+        {"between the markers", kAutomatic, kFloating, [](M& m) { m.zoomToMarker(); }, "5..8"},
+        {"dragged to the left edge", kManual, kFloating, [](M& m) { m.pan(m.range(), -30); },
+         "-30..30"},
+        {"wheel away from the user", kManual, kFloating, [](M& m) { m.zoomStep(20, true); },
+         "2..56"},
+        {"wheel towards the user", kManual, kFloating, [](M& m) { m.zoomStep(18, false); },
+         "-2..64.6667"},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         Fixture f;
+        f.model.setGraphMode(c.mode);
+        f.model.setCursorMode(c.cursor);
+        f.model.setMarker(5, 8);
         c.change(f.model);
         EXPECT_EQ(f.range(), c.range) << c.name;
     }
 }
 
-TEST(GraphModelTest, ZoomingToTheMarkersOfOneTimeLeavesAMillionth)
+TEST(GraphModelTest, ZoomingToTheMarkersEndsTheAutomaticMode)
 {
     Fixture f;
     f.model.setGraphMode(GraphModel::GraphAutomatic);
     f.model.setMarker(50000.0, 50000.0);
     f.model.zoomToMarker();
-    EXPECT_NEAR(f.model.range().span(), 1e-6, 1e-10);
+    EXPECT_NEAR(f.model.range().span(), 1e-6, 1e-10) << "markers of one time leave a millionth";
     EXPECT_EQ(f.model.graphMode(), GraphModel::GraphManual);
 }
 
@@ -274,7 +206,6 @@ TEST(GraphModelTest, OneChangeIsFollowedByFourRecomputations)
         ++steps;
     }
     EXPECT_EQ(steps, 4);
-    EXPECT_EQ(f.model.recalc().countdown(), -1);
     f.model.zoomStep(5.0, true);
     EXPECT_TRUE(f.model.stepRecalc());
     f.model.zoomStep(5.0, true);
@@ -283,45 +214,43 @@ TEST(GraphModelTest, OneChangeIsFollowedByFourRecomputations)
     EXPECT_EQ(f.model.recalc().countdown(), 3);
     GraphModel other;
     other.startRecalcTimer();
-    EXPECT_TRUE(other.recalc().running());
-    EXPECT_FALSE(other.stepRecalc());
-    EXPECT_EQ(other.recalc().countdown(), -1);
+    EXPECT_FALSE(other.stepRecalc()) << "after a drag once is enough";
 }
 
 /// Whatever changes range, width or traces, the frames drawn are those of a fresh computation.
 TEST(GraphModelTest, DrawnFramesAreNeverOutOfDate)
 {
-    const std::vector<std::function<void(GraphModel&)>> changes = {
-        [](GraphModel& m) { m.setXmin(10); },
-        [](GraphModel& m) { m.setXmax(15); },
-        [](GraphModel& m) { m.setT0(20); },
-        [](GraphModel& m) { m.setPlotWidth(7); },
-        [](GraphModel& m) { m.zoomStep(25, false); },
-        [](GraphModel& m) { m.pan(m.range(), -12); },
-        [](GraphModel& m) {
-            m.setRange({0, 300});
-        },
-        [](GraphModel& m) {
+    using M = GraphModel;
+    const std::vector<std::function<void(M&)>> changes = {
+        [](M& m) { m.setXmin(10); },
+        [](M& m) { m.setXmax(15); },
+        [](M& m) { m.setT0(20); },
+        [](M& m) { m.setPlotWidth(7); },
+        [](M& m) { m.zoomStep(25, false); },
+        [](M& m) { m.pan(m.range(), -12); },
+        [](M& m) { m.setRange(GraphTimeRange(0, 300)); },
+        [](M& m) {
             m.setActive(0, false);
             m.setXrange(30);
             m.setActive(0, true);
         },
-        [](GraphModel& m) { m.setXrange(5); },
-        [](GraphModel& m) {
-            m.setCursorMode(GraphModel::CursorCentre);
-            m.setCursorPosition(150);
-        },
-        [](GraphModel& m) {
-            m.setGraphMode(GraphModel::GraphAutomatic);
-            m.setTime(40);
-        },
-        [](GraphModel& m) { m.setTime(30); },
-        [](GraphModel& m) { m.setTime(70); },
-        [](GraphModel& m) {
-            m.setTime(200);
-            m.putValue(0, 1.0, false);
-        },
-        [](GraphModel& m) { m.setXmin(500); },
+        [](M& m) { m.setXrange(5); },
+        [](M& m) { m.setCursorMode(GraphModel::CursorCentre); },
+        [](M& m) { m.setCursorPosition(150); },
+        [](M& m) { m.setGraphMode(GraphModel::GraphAutomatic); },
+        [](M& m) { m.setTime(40); },
+        [](M& m) { m.setTime(30); },
+        [](M& m) { m.setTime(70); },
+        [](M& m) { m.setTime(200); },
+        [](M& m) { m.putValue(0, 1.0, false); },
+        [](M& m) { m.setXmin(500); },
+    };
+    const auto text = [](const auto& frames) {
+        QString result;
+        for (const auto& frame : frames) {
+            result += QString::asprintf("%g:%g ", frame.startTime, frame.slotB);
+        }
+        return result.toStdString();
     };
     Fixture f;
     for (int i = 0; i < 2000; ++i) {
@@ -330,28 +259,11 @@ TEST(GraphModelTest, DrawnFramesAreNeverOutOfDate)
     for (std::size_t step = 0; step < changes.size(); ++step) {
         changes[step](f.model);
         f.model.calcFrame();
-        ASSERT_GT(f.model.secondsPerPixel(), 0.0) << "change " << step;
         GraphTrace fresh = f.model.parameter(0).trace;
         fresh.recalcFrameBuffer(f.model.xmin(), f.model.xmax(), f.model.secondsPerPixel());
-        const auto& drawn = f.model.parameter(0).trace.frames();
-        ASSERT_EQ(drawn.size(), fresh.frames().size()) << "change " << step;
-        for (std::size_t i = 0; i < drawn.size(); ++i) {
-            ASSERT_EQ(drawn[i].startTime, fresh.frames()[i].startTime) << "change " << step;
-            ASSERT_EQ(drawn[i].slotB, fresh.frames()[i].slotB) << "change " << step;
-        }
+        ASSERT_EQ(text(f.model.parameter(0).trace.frames()), text(fresh.frames()))
+            << "change " << step;
     }
-}
-
-TEST(GraphModelTest, ChangingTheGraphModeRebuildsAtTheNextTime)
-{
-    Fixture f;
-    f.feed(0, {{1, 1}, {2, 2}, {3, 3}});
-    f.model.setXmax(300.0);
-    f.model.setTime(4.0);
-    EXPECT_EQ(f.model.parameter(0).trace.frames().size(), 3U);
-    f.model.setGraphMode(GraphModel::GraphManual);
-    f.model.setTime(5.0);
-    EXPECT_EQ(f.model.parameter(0).trace.frames().size(), 1U) << "three seconds for each pixel";
 }
 
 TEST(GraphModelTest, Scales)
@@ -374,7 +286,6 @@ TEST(GraphModelTest, Scales)
     f.model.setDisplayMode(GraphModel::DisplaySplit);
     EXPECT_EQ(scales(), "-1..11 19..31 -0.5..1.5 ") << "a scale each";
     f.model.changeScaling().setSpread(0.5);
-    EXPECT_EQ(scales(), "-5..15 15..35 -0.5..1.5 ");
     f.model.changeScaling().setSpread(-1.0);
     f.model.changeScaling().setSpread(kNan);
     EXPECT_EQ(scales(), "-5..15 15..35 -0.5..1.5 ") << "no spread at all";
@@ -399,15 +310,10 @@ TEST(GraphModelTest, RangesAndAverages)
     double high = 1.0;
     EXPECT_TRUE(f.model.dataExtent(low, high));
     EXPECT_TRUE(low == 0.5 && high == 100.0);
-    EXPECT_TRUE(f.model.getParameterRangeX(1, low, high));
-    EXPECT_TRUE(low == 0.5 && high == 90.0);
     EXPECT_TRUE(f.model.getParameterRangeY(0, low, high));
     EXPECT_TRUE(low == 4.0 && high == 50.0);
     EXPECT_FALSE(f.model.getParameterRangeY(1, low, high)) << "only gaps";
-    EXPECT_TRUE(low == 0.0 && high == 0.0);
-    EXPECT_FALSE(f.model.getParameterRangeX(2, low, high));
-    EXPECT_FALSE(f.model.getParameterRangeX(99, low, high));
-    EXPECT_FALSE(f.model.getValue(99, 1.0, low));
+    EXPECT_FALSE(f.model.getParameterRangeX(2, low, high)) << "no samples";
 
     EXPECT_EQ(f.model.getCurrentAverageValue(), 5.0)
         << "of the first trace, while none is selected";
@@ -417,37 +323,6 @@ TEST(GraphModelTest, RangesAndAverages)
     EXPECT_EQ(f.model.markerStatistics(0).average, 28.0);
     f.model.setMarker(3.0, 3.0);
     EXPECT_EQ(f.model.markerStatistics(0).average, 5.0) << "the visible range";
-    EXPECT_EQ(f.model.markerStatistics(99).count, 0U);
-    f.model.clear();
-    EXPECT_FALSE(f.model.dataExtent(low, high));
-}
-
-TEST(GraphModelTest, Markers)
-{
-    struct Case
-    {
-        double time;
-        double marker1;
-        double marker2;
-    };
-    for (const Case& c : {Case{11.9, 11.9, 14}, Case{12, 10, 12}, Case{30, 10, 30},
-                          Case{-9, -9, 14}, Case{kNan, 10, 14}}) {
-        GraphModel model;
-        model.setMarker(10.0, 14.0);
-        model.setNearerMarker(c.time);
-        EXPECT_EQ(model.marker1(), c.marker1) << c.time;
-        EXPECT_EQ(model.marker2(), c.marker2) << c.time;
-    }
-    GraphModel model;
-    model.setMarker(9.0, 4.0);
-    EXPECT_EQ(model.markerDistance(), -5.0);
-    model.sortMarkers();
-    EXPECT_EQ(model.markerDistance(), 5.0);
-    model.sortMarkers();
-    EXPECT_EQ(model.marker1(), 4.0);
-    model.addTopMarker(2, 1e12);
-    model.addTopMarker(2, kNan);
-    EXPECT_EQ(model.topMarkers().size(), 1U);
 }
 
 TEST(GraphModelTest, OrderAndSelectionFollowWhatIsShown)
@@ -456,13 +331,11 @@ TEST(GraphModelTest, OrderAndSelectionFollowWhatIsShown)
     f.model.moveParameter(0, 2);
     EXPECT_EQ(f.model.displayOrder(), (std::vector<unsigned int>{1, 2, 0}));
     f.model.moveParameter(2, 1);
-    EXPECT_EQ(f.model.displayOrder(), (std::vector<unsigned int>{1, 0, 2}));
     f.model.moveParameter(3, 0);
     f.model.moveParameter(0, 3);
     EXPECT_EQ(f.model.displayOrder(), (std::vector<unsigned int>{1, 0, 2}));
     EXPECT_EQ(f.model.selectedTrace(), 1U);
     f.model.setSelectedTrace(2);
-    EXPECT_EQ(f.model.selectedTrace(), 2U);
     f.model.setVisible(2, false);
     f.model.setActive(1, false);
     EXPECT_EQ(f.model.selectedTrace(), 0U);
@@ -472,35 +345,21 @@ TEST(GraphModelTest, OrderAndSelectionFollowWhatIsShown)
     EXPECT_EQ(f.model.getCurrentAverageValue(), 0.0);
 }
 
-TEST(GraphModelTest, DrawingChangesNothingThatIsSeen)
+TEST(GraphModelTest, WhatMovesOverTheTracesLeavesThemAsTheyAre)
 {
     Fixture f;
-    f.model.setGraphMode(GraphModel::GraphAutomatic);
     f.feed(0, {{1, 1}, {2, 2}});
-    f.model.setXmin(-30.0);
-    f.model.setTime(9.0);
-    const auto before = f.model.revision();
     f.model.calcFrame();
-    EXPECT_EQ(f.model.revision(), before);
+    const auto seen = f.model.revision();
     const auto plot = f.model.plotRevision();
     f.model.setCursorPosition(1.0);
     f.model.setMarker(1.0, 2.0);
     f.model.setSelectedTrace(1);
-    EXPECT_NE(f.model.revision(), before);
-    EXPECT_EQ(f.model.plotRevision(), plot) << "what moves over the traces leaves them as they are";
+    EXPECT_NE(f.model.revision(), seen);
+    EXPECT_EQ(f.model.plotRevision(), plot);
     f.model.setCursorMode(GraphModel::CursorCentre);
     f.model.setCursorPosition(2.0);
     EXPECT_NE(f.model.plotRevision(), plot);
-}
-
-TEST(GraphModelTest, RepaintsAfterSevenTenthsOfAPixel)
-{
-    Fixture f;
-    f.model.setXrange(10.0);
-    EXPECT_FALSE(f.model.repaintDue(0.069));
-    EXPECT_TRUE(f.model.repaintDue(0.071));
-    f.model.setPlotWidth(-3);
-    EXPECT_EQ(f.model.plotWidth(), 1);
 }
 
 TEST(GraphModelTest, ResetKeepsTracesAndOfflineMode)
@@ -509,20 +368,14 @@ TEST(GraphModelTest, ResetKeepsTracesAndOfflineMode)
     f.feed(0, {{1, 1}});
     f.model.setOfflineMode(true);
     f.model.setRange({5, 6});
-    f.model.setDisplayMode(GraphModel::DisplaySplit);
     f.model.setCursorMode(GraphModel::CursorEnd);
     f.model.changeScaling().setYmax(9.0);
     f.model.reset();
     EXPECT_EQ(f.range(), "0..60");
-    EXPECT_EQ(f.model.displayMode(), GraphModel::DisplaySingle);
     EXPECT_EQ(f.model.cursorMode(), GraphModel::CursorFloating);
     EXPECT_EQ(f.model.scaling().ymax(), 1.5);
     EXPECT_EQ(f.samples(0), "1 1");
     EXPECT_TRUE(f.model.offlineMode());
-    f.model.setTime(50.0);
-    EXPECT_TRUE(f.model.inRange());
-    f.model.setTime(70.0);
-    EXPECT_FALSE(f.model.inRange());
 }
 
 TEST(GraphModelTest, TracesThatDoNotExistAreIgnored)
@@ -533,12 +386,9 @@ TEST(GraphModelTest, TracesThatDoNotExistAreIgnored)
         model.putValue(i, 1.0, false);
         model.setActive(i, true);
         model.setParameterName(i, "x");
-        model.setPrecision(i, 99);
         EXPECT_FALSE(model.isShown(i) || model.hasNewValue(i));
         EXPECT_EQ(model.scaleOf(i).maximum, 1.5);
     }
-    model.calcFrame();
-    model.zoomToMarker();
     EXPECT_FALSE(model.hasShownSamples());
     model.setMaxParameters(~0U);
     EXPECT_EQ(model.count(), GraphModel::kMaxTraces);

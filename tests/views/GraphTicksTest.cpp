@@ -18,7 +18,7 @@ constexpr float kInfinity = std::numeric_limits<float>::infinity();
 
 TEST(GraphTicksTest, StepForARange)
 {
-    struct Case
+    const struct
     {
         const char* name;
         float minimum;
@@ -27,8 +27,7 @@ TEST(GraphTicksTest, StepForARange)
         float spacing;
         float step;
         int subdivisions;
-    };
-    const std::vector<Case> cases = {
+    } cases[] = {
         {"ten wide", 0, 100, 500, 50, 10, 5},
         {"a tenth wide", 0, 1, 500, 50, 0.1F, 5},
         {"seven becomes ten", 0, 70, 500, 50, 10, 5},
@@ -53,7 +52,7 @@ TEST(GraphTicksTest, StepForARange)
         {"no number", kNan, 3, 500, 50, -1, 0},
         {"infinite range", 0, kInfinity, 500, 50, -1, 0},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         float step = 0.0F;
         int subdivisions = 9;
         GraphTicks::getAutoPara(c.minimum, c.maximum, c.length, c.spacing, &step, &subdivisions);
@@ -64,17 +63,16 @@ TEST(GraphTicksTest, StepForARange)
 
 TEST(GraphTicksTest, FormatForAStep)
 {
-    struct Case
+    const struct
     {
         float step;
         const char* format;
-    };
-    const std::vector<Case> cases = {
+    } cases[] = {
         {1, "%.1f"},    {5, "%.1f"},    {10, "%.0f"},    {100, "%.0f"},
         {0.1F, "%.2f"}, {0.5F, "%.1f"}, {0.05F, "%.2f"}, {0.01F, "%.3f"},
         {0, "%.0f"},    {-1, "%.0f"},   {kNan, "%.0f"},  {kInfinity, "%.0f"},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         QString format;
         GraphTicks::getAutoFormat(c.step, format);
         EXPECT_EQ(format.toStdString(), c.format) << c.step;
@@ -83,13 +81,12 @@ TEST(GraphTicksTest, FormatForAStep)
 
 TEST(GraphTicksTest, TimeLabels)
 {
-    struct Case
+    const struct
     {
         double seconds;
         int decimals;
         const char* label;
-    };
-    const std::vector<Case> cases = {
+    } cases[] = {
         {0, 0, "0:00:00"},
         {59.4, 0, "0:00:59"},
         {59.9999999, 0, "0:01:00"},
@@ -103,7 +100,7 @@ TEST(GraphTicksTest, TimeLabels)
         {kNan, 0, ""},
         {1e30, 0, ""},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         EXPECT_EQ(GraphTicks::timeLabel(c.seconds, c.decimals).toStdString(), c.label) << c.seconds;
     }
 }
@@ -183,7 +180,7 @@ TEST(GraphTicksTest, DamagedAxesHaveNoTicks)
 
 TEST(GraphYScaleTest, Autoscale)
 {
-    struct Case
+    const struct
     {
         const char* name;
         double low;
@@ -191,8 +188,7 @@ TEST(GraphYScaleTest, Autoscale)
         double spread;
         double minimum;
         double maximum;
-    };
-    const std::vector<Case> cases = {
+    } cases[] = {
         {"a tenth at both ends", 0, 10, 0.1, -1, 11},
         {"negative values", -30, -10, 0.1, -32, -8},
         {"constant", 5, 5, 0.1, 4.9999, 5.0001},
@@ -201,7 +197,7 @@ TEST(GraphYScaleTest, Autoscale)
         {"another spread", 0, 10, 0.5, -5, 15},
         {"another spread of a constant", 5, 5, 0.5, 4.9999, 5.0001},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         const GraphYScale scale = GraphYScale::autoscale(c.low, c.high, c.spread);
         EXPECT_NEAR(scale.minimum, c.minimum, 1e-9) << c.name;
         EXPECT_NEAR(scale.maximum, c.maximum, 1e-9) << c.name;

@@ -14,7 +14,7 @@ using VELIX::Test::ProfileBuilder;
 
 TEST(GraphValuesTest, NumbersGetTheDecimalsAndUnitOfWhatTheyAre)
 {
-    struct Case
+    const struct
     {
         const char* name;
         const char* type;
@@ -24,8 +24,7 @@ TEST(GraphValuesTest, NumbersGetTheDecimalsAndUnitOfWhatTheyAre)
         EUnit unit;
         int decimals;
         const char* label;
-    };
-    const std::vector<Case> cases = {
+    } cases[] = {
         {"a FLOAT has the profile's", "FLOAT", "1", "0", "3", eUnitMetric, 3, "C"},
         {"a counter has none", "USHORT", "1", "0", "6", eUnitMetric, 0, "C"},
         {"tenths", "USHORT", "0.1", "0", "6", eUnitMetric, 1, "C"},
@@ -35,7 +34,7 @@ TEST(GraphValuesTest, NumbersGetTheDecimalsAndUnitOfWhatTheyAre)
         {"converted tenths", "USHORT", "0.1", "0", "6", eUnitImperial, 2, "F"},
         {"a factor of zero does no harm", "USHORT", "0", "0.123456", "6", eUnitMetric, 0, "C"},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         ProfileBuilder builder;
         builder.conversion("C", "F", 1.8, 32.0);
         builder.device("Lane A")

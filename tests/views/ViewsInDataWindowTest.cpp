@@ -1,5 +1,8 @@
+// Views as the window of the data connects them.
+
 #include "card/CardContainer.h"
 #include "core/Property.h"
+#include "gui/Resources.h"
 #include "profile/Profile.h"
 #include "tests/gui/FakeDialogs.h"
 #include "tests/support/ProfileBuilder.h"
@@ -8,6 +11,8 @@
 #include "views/DialogDataGraph.h"
 #include "views/DialogDataLimit.h"
 #include "views/DialogDataWarning.h"
+#include "views/WidgetErrorItem.h"
+#include "views/WidgetFaultMatrix.h"
 #include "views/WidgetGraph.h"
 
 #include <gtest/gtest.h>
@@ -19,22 +24,28 @@
 namespace VELIX {
 namespace {
 
-using VELIX::Test::FakeDialogs;
-using VELIX::Test::ProfileBuilder;
-using VELIX::Test::RecordBuilder;
+using Test::FakeDialogs;
+using Test::ProfileBuilder;
+using Test::RecordBuilder;
 
-struct GraphInDataWindowTest : ::testing::Test
+constexpr int kOil = 500;
+constexpr int kFaults = 0x4F0;
+
+/// A record from 100 to 1100 s: the oil, and a fault word with bit 4 from 200 s and bit 0 from 300
+/// s.
+struct ViewsInDataWindowTest : ::testing::Test
 {
     void SetUp() override
     {
-        ProfileBuilder builder;
-        builder.device("Lane A").parameter(500, QStringLiteral("Oil"), "FLOAT");
+        initResources();
+        builder.device("Lane A").parameter(kOil, QStringLiteral("Oil"), "FLOAT");
         ASSERT_TRUE(builder.load(profile));
         ProfileBuilder::selectAll(profile);
         RecordBuilder record;
-        for (int i = 0; i <= 1000; ++i) {
-            record.at(100.0 + i).id(500).floatValue(static_cast<float>(i));
+        for (int i = 100; i <= 1100; ++i) {
+            record.at(i).id(kOil).floatValue(static_cast<float>(i));
         }
+        record.id(kFaults).at(200).blongValue(0x10U).at(300).blongValue(1).at(400).blongValue(0);
         ASSERT_TRUE(record.write(folder.filePath(QStringLiteral("1.CAN"))));
         ASSERT_TRUE(card.readContainer(folder.path()));
         ASSERT_EQ(card.loadFiles({QStringLiteral("1.CAN")}), 1);
@@ -52,6 +63,7 @@ struct GraphInDataWindowTest : ::testing::Test
     const GraphModel& model() { return view<DialogDataGraph>().graph().model(); }
 
     QTemporaryDir folder;
+    ProfileBuilder builder;
     Profile profile;
     CardContainer card{profile};
     Property settings;
@@ -59,7 +71,7 @@ struct GraphInDataWindowTest : ::testing::Test
     std::unique_ptr<DialogData> window;
 };
 
-TEST_F(GraphInDataWindowTest, TheCursorOfTheGraphIsTheCommonOne)
+TEST_F(ViewsInDataWindowTest, TheCursorOfTheGraphIsTheCommonOne)
 {
     emit view<WidgetGraph>().signalCursor(512.25F, 1.0);
     EXPECT_EQ(window->cursorTime(), 512.25);
@@ -67,7 +79,7 @@ TEST_F(GraphInDataWindowTest, TheCursorOfTheGraphIsTheCommonOne)
     EXPECT_EQ(model().cursorTime(), 600.0);
 }
 
-TEST_F(GraphInDataWindowTest, ListsShowTheirEventsInTheGraph)
+TEST_F(ViewsInDataWindowTest, ListsShowTheirEventsInTheGraph)
 {
     const auto* stack = window->findChild<QStackedWidget*>(QStringLiteral("viewStack"));
     ASSERT_NE(stack->currentWidget(), &view<DialogDataGraph>());
@@ -79,12 +91,28 @@ TEST_F(GraphInDataWindowTest, ListsShowTheirEventsInTheGraph)
     EXPECT_NEAR(model().xmin(), 685.0, 1e-6);
 }
 
-TEST_F(GraphInDataWindowTest, NoticesOfTheGraphReachTheWindow)
+TEST_F(ViewsInDataWindowTest, NoticesOfTheGraphReachTheWindow)
 {
     QSignalSpy notice(window.get(), &DialogData::signalNotice);
     dialogs.file = folder.filePath(QStringLiteral("no/folder/a.bmp"));
     view<DialogDataGraph>().saveSnapshot();
     EXPECT_EQ(notice.count(), 1);
+}
+
+TEST_F(ViewsInDataWindowTest, ANewProfileMeetsTheOpenRecordAtItsCursor)
+{
+    emit view<DialogDataLimit>().signalTime(350.0);
+    builder.matrix(kFaults, "Lane A");
+    ASSERT_TRUE(builder.load(profile));
+    window->loadProfile();
+    const auto isLit = [this](int bit) {
+        return view<WidgetFaultMatrix>().item(bit)->errorState();
+    };
+    EXPECT_TRUE(isLit(0) && !isLit(4));
+    emit view<DialogDataWarning>().signalTime(250.0);
+    EXPECT_TRUE(isLit(4) && !isLit(0));
+    window->releaseRecord();
+    EXPECT_FALSE(isLit(4) || isLit(0));
 }
 
 } // namespace
