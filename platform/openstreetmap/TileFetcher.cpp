@@ -229,7 +229,9 @@ void TileFetcher::finish(const Request& request, QNetworkReply& reply)
     freshness.entityTag = reply.rawHeader("ETag");
     freshness.lastModified = reply.rawHeader("Last-Modified");
     freshness.server = mServer.toUtf8();
-    if (reply.error() == QNetworkReply::NoError && status == kNotModified) {
+    const bool isAsked =
+        !request.known.entityTag.isEmpty() || !request.known.lastModified.isEmpty();
+    if (reply.error() == QNetworkReply::NoError && status == kNotModified && isAsked) {
         if (freshness.entityTag.isEmpty()) {
             freshness.entityTag = request.known.entityTag;
         }

@@ -223,7 +223,10 @@ void TileSource::takeDecoded(const TileAddress& tile, const QImage& picture,
 
 void TileSource::takeUnchanged(const TileAddress& tile, const TileFreshness& freshness)
 {
-    mEntries[tile] = {State::Fresh, freshness};
+    const auto entry = mEntries.find(tile);
+    if (entry != mEntries.end() && entry->second.state == State::Old) {
+        entry->second = {State::Fresh, freshness};
+    } // else its picture was dropped in the meantime, and comes from the disk if it is wanted again
     mCaretaker.start([store = mStore, tile, freshness] { store->refresh(tile, freshness); });
     emit arrived();
 }

@@ -32,6 +32,7 @@ public:
         Endless,   ///< redirects to itself
         Error,     ///< 500
         NotFound,  ///< 404
+        Unchanged, ///< 304, whatever was asked
         Html,      ///< 200 with a page
         Garbage,   ///< 200 with noise under the name of a picture
         Truncated, ///< half a picture, said to be whole
@@ -163,6 +164,8 @@ private:
             return send(socket, "500 Internal Server Error", "no");
         case Mode::NotFound:
             return send(socket, "404 Not Found", "no");
+        case Mode::Unchanged:
+            return send(socket, "304 Not Modified", "");
         case Mode::Html:
             return send(socket, "200 OK", "<html><body>Please log in</body></html>");
         case Mode::Garbage:

@@ -150,6 +150,31 @@ TEST_F(TileSourceTest, AnOldTileIsShownWhileTheServerIsAsked)
     EXPECT_EQ(store.read(tile)->freshness.entityTag, QByteArray("\"v2\""));
 }
 
+TEST_F(TileSourceTest, UnchangedIsOnlyWhatIsThere)
+{
+    const TileAddress tile{4, 8, 5};
+    const TileStore store(mDir.path());
+    ASSERT_TRUE(store.write(tile, {TileServer::tile(4, 8, 5), {1, "\"v1\"", ""}}));
+    mServer.setEntityTag("\"v1\"");
+    mServer.setMode(TileServer::Mode::Slow);
+    ASSERT_TRUE(waitFor([&] {
+        mSource.want({tile}, {});
+        return mServer.requests() == 1;
+    }));
+    take(mSource);
+    mSource.forget(tile); // as when the window is closed
+    ASSERT_TRUE(waitFor([&] { return store.read(tile)->freshness.expires > 1; }));
+    mPictures.clear();
+    settle(mSource, {tile});
+    EXPECT_EQ(mPictures.count(tile), 1U) << "its picture comes from the disk again";
+
+    mServer.setMode(TileServer::Mode::Unchanged);
+    settle(mSource, {{4, 9, 5}});
+    settle(mSource, {{4, 9, 5}});
+    EXPECT_EQ(mServer.requests(), 2) << "what has no picture is a tile that failed";
+    EXPECT_EQ(mFailures, std::vector<std::string>{"HTTP status 304"});
+}
+
 TEST_F(TileSourceTest, TilesOfAnotherServerAreShownUntilThisOneSendsItsOwn)
 {
     const TileAddress tile{4, 8, 5};
