@@ -17,8 +17,9 @@ namespace OpenStreet {
 
 namespace {
 
-/// Of 256 kB each, or four times that from servers of large tiles. The largest view shows a
-/// hundred tiles.
+/// Of 256 kB each, or four times that from servers of large tiles. The view of an ordinary screen
+/// shows a hundred tiles; twice of what a view shows is kept in any case, since its stand-ins are
+/// needed, too.
 constexpr std::size_t kMostTextures = 256;
 /// Taken by one picture: handing them over and drawing them takes half a millisecond each, and a
 /// hundred of them can come from the disk at once.
@@ -45,7 +46,7 @@ public:
     std::vector<TileAddress> standIns(const std::vector<TileAddress>& tiles);
     std::set<TileAddress> takeArrived();
     void renderTiles();
-    void dropOld();
+    void dropOld(std::size_t visible);
 
     MapProjection projection;
     MapPainter painter;
@@ -116,15 +117,16 @@ void OpenStreetMap::Private::renderTiles()
         shades.want(wanted);
     }
     picture.show({projection, true, shading, brightness}, placed, takeArrived());
-    dropOld();
+    dropOld(wanted.size());
 }
 
-void OpenStreetMap::Private::dropOld()
+void OpenStreetMap::Private::dropOld(std::size_t visible)
 {
-    for (const TileAddress& tile : painter.tiles().dropDownTo(kMostTextures)) {
+    const std::size_t kept = std::max(kMostTextures, 2 * visible);
+    for (const TileAddress& tile : painter.tiles().dropDownTo(kept)) {
         source.forget(tile);
     }
-    for (const TileAddress& tile : painter.shades().dropDownTo(kMostTextures)) {
+    for (const TileAddress& tile : painter.shades().dropDownTo(kept)) {
         shades.forget(tile);
     }
 }
@@ -150,7 +152,9 @@ void OpenStreetMap::setTileDirectory(const char* folder)
 
 void OpenStreetMap::setTileCacheLimit(int megabytes)
 {
-    d->source.setLimit(std::max(megabytes, 0) * kMegabyte);
+    if (megabytes > 0) {
+        d->source.setLimit(megabytes * kMegabyte);
+    }
 }
 
 void OpenStreetMap::setTerrainPath(const char* folder)

@@ -38,7 +38,8 @@ public:
     void setUserAgent(const char* agent);
     /// Folder of the tiles on disk, Z/X/Y.png; made when the first tile is written.
     void setTileDirectory(const char* folder);
-    /// Of the tiles on disk; what was not used for longest makes way. Default: 500.
+    /// Of the tiles on disk; what was not used for longest makes way. Default: 500; what is not
+    /// positive is ignored.
     void setTileCacheLimit(int megabytes);
     /// Folder of .hgt files.
     void setTerrainPath(const char* folder);

@@ -180,6 +180,34 @@ TEST_F(OpenStreetMapTest, WhatArrivesIsAddedToThePictureAsIfAllWereDrawn)
     EXPECT_EQ(render(), plain);
 }
 
+TEST_F(OpenStreetMapTest, HoweverManyTilesAWindowShowsItComesToRest)
+{
+    constexpr int kRows = 42; // of seven tiles at least: more than are kept otherwise
+    constexpr int kShown = 1800;
+    mMap->setTileDirectory("");
+    const double pixel = 0.99 * 611.5 * std::cos(0.845);
+    mMap->setWindowSize(kShown, kHeight);
+    mMap->setVisibleRange(kShown * pixel, 256.0 * kRows * pixel);
+    const QImage image = settled();
+    EXPECT_GT(mServer.requests(), 256);
+    EXPECT_EQ(mMap->nrLoadingTiles(), 0) << "also after one more picture";
+    for (int y = 0; y < kHeight; y += 7) {
+        for (int x = 0; x < kWidth; x += 50) {
+            ASSERT_EQ(image.pixelColor(x, y).red(), TileServer::tileColor(8, 0, 0).red());
+        }
+    }
+}
+
+TEST_F(OpenStreetMapTest, TheSmallestLimitDeletesNothing)
+{
+    const TileStore store(mDir.path());
+    ASSERT_TRUE(store.write({8, 1, 1}, {TileServer::tile(8, 1, 1), {}}));
+    mMap->setTileCacheLimit(0);
+    mMap->setTileCacheLimit(-1);
+    mMap.reset();
+    EXPECT_TRUE(store.read({8, 1, 1}).has_value());
+}
+
 TEST_F(OpenStreetMapTest, WindowAndPlaceAgreeAlsoForAnotherView)
 {
     double latitude = 0.0;
