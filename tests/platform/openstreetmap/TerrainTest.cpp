@@ -55,6 +55,28 @@ TEST(TerrainStoreTest, AFileThatShrinksWhileItIsOpenHasHoles)
     EXPECT_NEAR(terrain.height({48.95, 11.5}), 500.0, 0.1);
 }
 
+TEST(TerrainStoreTest, GroundIsRoundBetweenThePosts)
+{
+    const QTemporaryDir dir;
+    const auto bowl = [](double column, double row) {
+        return std::min(std::pow(column - 600.0, 2.0) + std::pow(row - 600.0, 2.0), 30000.0);
+    };
+    writeTerrain(dir.filePath(QStringLiteral("N48E011.hgt")), 1201, [&](double x, double y) {
+        const bool isHole = x == 0.5 && y == 0.5;
+        return isHole ? -32768 : static_cast<int>(bowl(x * 1200.0, y * 1200.0) + 0.5);
+    });
+    TerrainStore terrain(dir.path());
+    const auto height = [&](double column, double row) {
+        return terrain.height({49.0 - row / 1200.0, 11.0 + column / 1200.0});
+    };
+    for (const double column : {605.0, 610.5, 620.25, 580.75}) {
+        EXPECT_NEAR(height(column, 612.5), bowl(column, 612.5), 0.01) << "no facets, " << column;
+    }
+    EXPECT_NEAR(height(601.5, 601.5), bowl(601.5, 601.5), 0.5) << "beside a hole";
+    EXPECT_TRUE(std::isnan(height(600.5, 600.5)));
+    EXPECT_NEAR(height(1199.5, 0.5), 30000.0, 0.01) << "at the corner of the file";
+}
+
 HeightGrid slope(double east, double north)
 {
     HeightGrid grid;
