@@ -3,20 +3,23 @@
 #include "card/CardContainer.h"
 #include "gui/ImageHandler.h"
 #include "gui/Palette.h"
+#include "profile/DataType.h"
 #include "profile/Profile.h"
+#include "views/GraphValues.h"
 #include "views/MapColoring.h"
+#include "views/MapMenu.h"
 #include "views/MapTrack.h"
 #include "views/MapValues.h"
 #include "views/WidgetMap.h"
 
 #include <QAction>
-#include <QActionGroup>
 #include <QButtonGroup>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QLabel>
-#include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -80,7 +83,8 @@ void DialogDataMap::createOverlay()
     mPanel = new QWidget(this);
     mPanel->setObjectName(QStringLiteral("mapPanel"));
     mPanel->setStyleSheet(QLatin1String(isDark() ? kPanelStyleDark : kPanelStyle));
-    mPanel->setToolTip(tr("Right click: choose values and the colour of the path"));
+    // Wheel and drag are meant for the map below.
+    mPanel->setAttribute(Qt::WA_TransparentForMouseEvents);
     mValues = new MapValues(mPanel);
     auto* layout = new QVBoxLayout(mPanel);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -130,6 +134,7 @@ void DialogDataMap::createTools()
         mMap->fitFlightPath();
     });
     for (QAction* action : {mCenter, mFit}) {
+        action->setIconVisibleInMenu(false); // it would take the place of the tick
         QWidget* button = mToolBar->widgetForAction(action);
         button->setAccessibleName(action->text());
         button->setFocusPolicy(Qt::TabFocus); // a click leaves the keys to the map
@@ -219,7 +224,7 @@ void DialogDataMap::fillDataLabel()
     for (const ProfileParameter* parameter : mSelection.values(mProfile)) {
         DataEntry entry;
         entry.parameter = parameter;
-        entry.label = parameter->name + QLatin1Char(':');
+        entry.label = MapMenu::label(mProfile, *parameter) + QLatin1Char(':');
         fillEntry(entry);
         rows.push_back({entry.label, entry.value, entry.color});
         mEntries.push_back(entry);
@@ -252,10 +257,26 @@ void DialogDataMap::fillEntry(DataEntry& entry) const
     int state = 0;
     QColor color;
     mProfile.resetCoordinates(); // the true position, wherever the cursor was before
-    const QString text = mProfile.getDataString(samples[after - 1], *entry.parameter, state, color);
-    const QString unit = mProfile.textUnit(*entry.parameter);
+    const auto [text, unit] = textOf(samples[after - 1], *entry.parameter, state, color);
     entry.value = unit.isEmpty() ? text : text + QChar(0x2009) + unit;
     entry.color = state != 0 ? color : QColor(); // a value in its green band needs no attention
+}
+
+/// In the unit system in use, also whole numbers: beside the legend and the instrument panel one
+/// value is not to come in two units.
+DialogDataMap::TextAndUnit DialogDataMap::textOf(const RecordEntry& sample,
+                                                 const ProfileParameter& parameter, int& state,
+                                                 QColor& color) const
+{
+    const EExtraction extraction = extractionOf(parameter.dataType);
+    const bool isWhole = extraction != EExtraction::None && extraction != EExtraction::Float;
+    if (isWhole && parameter.enumId == 0 && parameter.hasConversion &&
+        mProfile.currentUnit() == eUnitImperial) {
+        const double value = mProfile.getDouble(sample, parameter, state, color, true);
+        return {QString::number(value, 'f', GraphValues::decimals(mProfile, parameter)),
+                mProfile.systemUnit(parameter)};
+    }
+    return {mProfile.getDataString(sample, parameter, state, color), mProfile.textUnit(parameter)};
 }
 
 // --- commands
@@ -275,9 +296,9 @@ void DialogDataMap::slotUpdateMode()
 
 void DialogDataMap::contextMenuEvent(QContextMenuEvent* event)
 {
-    QMenu menu(this);
-    addValueMenu(menu);
-    addColorMenu(menu);
+    MapMenu menu(mProfile, mSelection, this);
+    connect(&menu, &MapMenu::signalValuesChanged, this, &DialogDataMap::fillDataLabel);
+    connect(&menu, &MapMenu::signalColorChanged, this, &DialogDataMap::colorPath);
     menu.addSeparator();
     menu.addAction(mCenter);
     menu.addAction(mFit);
@@ -293,49 +314,6 @@ void DialogDataMap::contextMenuEvent(QContextMenuEvent* event)
     menu.exec(event->globalPos());
 }
 
-void DialogDataMap::addValueMenu(QMenu& menu)
-{
-    QMenu* values = menu.addMenu(tr("Show Values"));
-    const auto shown = mSelection.values(mProfile);
-    for (const ProfileParameter* parameter : mProfile.selectedParameters()) {
-        QAction* action = values->addAction(parameter->name);
-        action->setCheckable(true);
-        action->setChecked(std::find(shown.begin(), shown.end(), parameter) != shown.end());
-        const bool full = shown.size() >= static_cast<std::size_t>(MapSelection::kMostValues);
-        action->setEnabled(action->isChecked() || !full);
-        connect(action, &QAction::toggled, this, [this, name = parameter->fullName](bool on) {
-            if (mSelection.setValueShown(mProfile, name, on)) {
-                fillDataLabel();
-            }
-        });
-    }
-    values->setEnabled(!values->isEmpty());
-}
-
-void DialogDataMap::addColorMenu(QMenu& menu)
-{
-    QMenu* colors = menu.addMenu(tr("Colour Path by"));
-    auto* group = new QActionGroup(colors);
-    const ProfileParameter* current = mSelection.color(mProfile);
-    const auto add = [&](const QString& text, const QString& fullName, bool checked) {
-        QAction* action = colors->addAction(text);
-        action->setActionGroup(group);
-        action->setCheckable(true);
-        action->setChecked(checked);
-        connect(action, &QAction::triggered, this, [this, fullName] {
-            mSelection.setColor(fullName);
-            colorPath();
-        });
-    };
-    add(tr("Altitude"), {}, current == nullptr);
-    colors->addSeparator();
-    for (const ProfileParameter* parameter : mProfile.selectedParameters()) {
-        if (parameter->velixDataType != QLatin1String("Altitude")) {
-            add(parameter->name, parameter->fullName, parameter == current);
-        }
-    }
-}
-
 // --- places
 
 void DialogDataMap::resizeEvent(QResizeEvent* event)
@@ -348,6 +326,14 @@ bool DialogDataMap::event(QEvent* event)
 {
     if (event->type() == QEvent::LayoutRequest) {
         updateGeometry(); // the panel grew
+    } else if (event->type() == QEvent::ToolTip) {
+        const auto& help = static_cast<const QHelpEvent&>(*event);
+        if (mPanel->isVisible() && mPanel->geometry().contains(help.pos())) {
+            QToolTip::showText(help.globalPos(),
+                               tr("Right click: choose values and the colour of the path"), this,
+                               mPanel->geometry());
+            return true;
+        }
     }
     return QWidget::event(event);
 }

@@ -10,12 +10,12 @@
 #include <QWidget>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 class QAction;
 class QButtonGroup;
 class QLabel;
-class QMenu;
 class QToolBar;
 
 namespace VELIX {
@@ -26,6 +26,7 @@ class Profile;
 class Property;
 class WidgetMap;
 struct ProfileParameter;
+struct RecordEntry;
 
 /// The map beside the views: the path of the record, the aircraft at the cursor, and the values of
 /// some parameters there.
@@ -77,16 +78,18 @@ private:
         QColor color; ///< of the threshold passed; invalid within the thresholds
     };
 
+    using TextAndUnit = std::pair<QString, QString>;
+
     void createOverlay();
     void createTools();
     void fillDataLabel();
     void fillDataValue();
     void fillEntry(DataEntry& entry) const;
+    [[nodiscard]] TextAndUnit textOf(const RecordEntry& sample, const ProfileParameter& parameter,
+                                     int& state, QColor& color) const;
     void colorPath();
     void takePath();
     void updateHint();
-    void addValueMenu(QMenu& menu);
-    void addColorMenu(QMenu& menu);
 
     Profile& mProfile;
     const CardContainer& mCard;

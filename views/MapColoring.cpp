@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
 
 namespace VELIX {
 
@@ -22,10 +23,10 @@ struct Stop
     std::array<double, 3> color;
 };
 
-/// From deep blue over violet to pink: none of it means a state, and all of it stands out from the
-/// greens and greys of a map.
+/// From deep blue over violet to orchid: none of it means a state, and all of it stands out from
+/// the greens and greys of a map.
 constexpr std::array<Stop, 4> kStops{
-    {{0.0, {30, 42, 140}}, {0.4, {112, 40, 190}}, {0.75, {214, 40, 160}}, {1.0, {255, 96, 140}}}};
+    {{0.0, {30, 42, 140}}, {0.4, {112, 40, 190}}, {0.75, {206, 40, 178}}, {1.0, {240, 120, 240}}}};
 
 QRgb mixed(double fraction)
 {
@@ -75,17 +76,42 @@ MapColoring coloring(const QString& name, const QString& unit, int decimals,
     MapColoring result;
     result.title = unit.isEmpty() ? name : QStringLiteral("%1 [%2]").arg(name, unit);
     result.lowest = QString::number(lowest, 'f', decimals);
-    result.highest = QString::number(highest, 'f', decimals);
+    result.highest = highest > lowest ? QString::number(highest, 'f', decimals) : QString();
     result.colors = colorsOf(values, lowest, highest);
     return result;
+}
+
+bool isWhole(double value)
+{
+    return !std::isfinite(value) || value == std::round(value);
 }
 
 /// The decimals that tell the ends of a scale apart.
 int decimalsOf(const std::vector<double>& values)
 {
+    if (std::all_of(values.begin(), values.end(), isWhole)) {
+        return 0;
+    }
     const auto [lowest, highest] = rangeOf(values);
     const double span = highest - lowest;
     return span >= 20.0 || span <= 0.0 ? 0 : span >= 2.0 ? 1 : 2;
+}
+
+/// An enumeration's values have names.
+void nameEnds(MapColoring& coloring, const std::vector<double>& values, const Profile& profile,
+              const ProfileParameter& parameter)
+{
+    const ProfileEnum* names = profile.enumeration(parameter);
+    if (names == nullptr) {
+        return;
+    }
+    const auto named = [names](const QString& number, double value) {
+        const auto found = names->values.find(static_cast<int>(value));
+        return number.isEmpty() || found == names->values.end() ? number : found->second.label;
+    };
+    const auto [lowest, highest] = rangeOf(values);
+    coloring.lowest = named(coloring.lowest, lowest);
+    coloring.highest = named(coloring.highest, highest);
 }
 
 } // namespace
@@ -122,6 +148,7 @@ MapColoring MapColoring::byParameter(const std::vector<FlightPathPoint>& path,
     const auto entries = record.entries(static_cast<std::uint32_t>(parameter.id)).sortedByTime();
     std::vector<double> values;
     std::vector<QRgb> judged(path.size(), 0);
+    std::map<int, QRgb> passed; // by state: the milder one first
     values.reserve(path.size());
     profile.resetCoordinates();
     double value = std::nan("");
@@ -141,7 +168,10 @@ MapColoring MapColoring::byParameter(const std::vector<FlightPathPoint>& path,
             take(**next);
         }
         values.push_back(value);
-        judged[i] = state != 0 && color.isValid() ? color.rgb() : 0;
+        if (state != 0 && color.isValid()) {
+            judged[i] = color.rgb();
+            passed.emplace(state, color.rgb());
+        }
     }
     MapColoring result =
         coloring(parameter.name, profile.systemUnit(parameter), decimalsOf(values), values);
@@ -150,6 +180,10 @@ MapColoring MapColoring::byParameter(const std::vector<FlightPathPoint>& path,
             result.colors[i] = judged[i];
         }
     }
+    for (const auto& [severity, tint] : passed) {
+        result.passed.push_back({severity == eThresholdLimit ? tr("Limit") : tr("Warning"), tint});
+    }
+    nameEnds(result, values, profile, parameter);
     return result;
 }
 

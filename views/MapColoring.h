@@ -31,9 +31,17 @@ public:
     /// The colour at 0 (lowest value) to 1 (highest) of the scale.
     static QRgb scale(double fraction);
 
-    QString title;            ///< what is shown, with its unit
-    QString lowest;           ///< value at the lower end of the scale
-    QString highest;          ///< value at its upper end
+    /// A threshold that the values pass somewhere on the path.
+    struct Passed
+    {
+        QString label;
+        QRgb color = 0;
+    };
+
+    QString title;   ///< what is shown, with its unit
+    QString lowest;  ///< value at the lower end of the scale
+    QString highest; ///< value at its upper end; empty if all values are the same
+    std::vector<Passed> passed;
     std::vector<QRgb> colors; ///< one for each point of the path
 };
 

@@ -148,9 +148,13 @@ void MapOverlay::paintLegend(GlHandler& gl, const MapColoring& legend, double bo
     const double padding = 2.0 * kPadding * mRatio;
     const double bar = kLegendWidth * mRatio;
     const double line = mFont.height();
-    const double labels = std::max(mFont.width(legend.lowest), mFont.width(legend.highest));
+    double labels = std::max(mFont.width(legend.lowest), mFont.width(legend.highest));
+    for (const MapColoring::Passed& passed : legend.passed) {
+        labels = std::max(labels, mFont.width(passed.label));
+    }
     const double width = std::max(mFont.width(legend.title), bar + padding + labels) + 2 * padding;
-    const double height = line + kLegendHeight * mRatio + 2.5 * padding;
+    const double swatches = static_cast<double>(legend.passed.size()) * line;
+    const double height = line + kLegendHeight * mRatio + swatches + 2.5 * padding;
     const QRectF area(std::floor(mPixels.width() - width - kEdge * mRatio),
                       std::floor(bottom - height - kEdge * mRatio), width, height);
     if (area.left() < 0.0 || area.top() < mPixels.height() / 3.0) {
@@ -168,6 +172,14 @@ void MapOverlay::paintLegend(GlHandler& gl, const MapColoring& legend, double bo
     const double x = std::floor(area.left() + 2.0 * padding + bar);
     mFont.render(gl, x, top, legend.highest);
     mFont.render(gl, x, std::floor(top + kLegendHeight * mRatio - line), legend.lowest);
+    double row = std::floor(top + kLegendHeight * mRatio + padding / 2.0);
+    for (const MapColoring::Passed& passed : legend.passed) {
+        const double inset = std::floor((line - bar) / 2.0);
+        fill(gl, QRectF(area.left() + padding, row + inset, bar, bar),
+             colorOf(QColor(passed.color)));
+        mFont.render(gl, x, row, passed.label);
+        row += line;
+    }
 }
 
 void MapOverlay::paintReadout(GlHandler& gl, const Content& content)
