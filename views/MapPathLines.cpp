@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace VELIX {
 
@@ -12,9 +13,12 @@ namespace {
 
 /// Of a part, in metres of the map: there a vertex is some 4 mm off, a tenth of the smallest pixel.
 constexpr double kFarthest = 5.0e4;
-/// Of the outline, as a fraction of the path's extent: half a pixel of a large window.
-constexpr double kOutline = 1.0 / 5000.0;
+constexpr std::size_t kPartPoints = 2048;
+/// Of the outline of the whole path, as a fraction of its extent: half a pixel of a large window.
+constexpr double kWhole = 1.0 / 5000.0;
 constexpr double kPixelPart = 0.5;
+constexpr double kLeastTolerance = 0.01; // m: what positions are stored with is coarser
+constexpr double kDot = 1.0;             // m: the extent of a path that never left its place
 constexpr QRgb kPlain = qRgb(112, 40, 190);
 
 Tessel::OpenGL::Color colorOf(QRgb color)
@@ -29,19 +33,18 @@ Tessel::OpenGL::Color colorOf(QRgb color)
 class MapPathLines::Writer
 {
 public:
-    Writer(Parts& parts, double width, std::size_t points)
-        : mParts(parts), mWidth(static_cast<float>(width)), mPoints(points)
+    Writer(std::deque<Part>& parts, double width) : mParts(parts), mWidth(static_cast<float>(width))
     {}
 
     void add(const MapPath::Point& point, QRgb color)
     {
         if (mParts.empty()) {
             addPart(point);
-            mParts.back().lines.reserve(mPoints);
         }
         append(point, color);
-        const MapPath::Point& origin = mParts.back().origin;
-        if (std::hypot(point.x - origin.x, point.y - origin.y) > kFarthest) {
+        const Part& part = mParts.back();
+        if (part.lines.size() >= kPartPoints ||
+            std::hypot(point.x - part.origin.x, point.y - part.origin.y) > kFarthest) {
             addPart(point); // begins where the last one ends
             append(point, color);
         }
@@ -50,56 +53,87 @@ public:
 private:
     void addPart(const MapPath::Point& origin)
     {
-        mParts.emplace_back().origin = origin;
-        mParts.back().lines.setVertexColors(true);
-        mParts.back().lines.setLineWidth(mWidth);
+        Part& part = mParts.emplace_back();
+        part.origin = origin;
+        part.lines.setVertexColors(true);
+        part.lines.setAntiAliasing(true);
+        part.lines.setLineWidth(mWidth);
     }
     void append(const MapPath::Point& point, QRgb color)
     {
         Part& part = mParts.back();
+        const double x = point.x - part.origin.x;
+        const double y = point.y - part.origin.y;
+        part.box.setLeft(std::min(part.box.left(), x));
+        part.box.setRight(std::max(part.box.right(), x));
+        part.box.setTop(std::min(part.box.top(), y));
+        part.box.setBottom(std::max(part.box.bottom(), y));
         part.lines.setColor(colorOf(color));
-        part.lines.addVertex(static_cast<float>(point.x - part.origin.x),
-                             static_cast<float>(point.y - part.origin.y));
+        part.lines.addVertex(static_cast<float>(x), static_cast<float>(y));
     }
 
-    Parts& mParts;
+    std::deque<Part>& mParts;
     float mWidth;
-    std::size_t mPoints;
 };
 
 void MapPathLines::clear()
 {
-    mWhole.clear();
-    mOutline.clear();
+    mColors.clear();
+    mWhole = {};
+    mNear = {};
 }
 
-void MapPathLines::build(const MapPath& path, const std::vector<QRgb>& colors, double width)
+void MapPathLines::build(const MapPath& path, std::vector<QRgb> colors, double width)
 {
     clear();
-    const std::vector<MapPath::Point>& points = path.points();
-    const auto colorAt = [&colors](std::size_t i) {
-        return i < colors.size() ? colors[i] : kPlain;
-    };
-    Writer whole(mWhole, width, points.size());
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        whole.add(points[i], colorAt(i));
-    }
-    mTolerance = kOutline * std::max(path.halfWidth(), path.halfHeight()) * 2.0;
-    const std::vector<std::size_t> kept = mapPathOutline(points, colors, mTolerance);
-    Writer outline(mOutline, width, kept.size());
-    for (const std::size_t i : kept) {
-        outline.add(points[i], colorAt(i));
+    mColors = std::move(colors);
+    mWidth = width;
+    const double extent = 2.0 * std::max(path.halfWidth(), path.halfHeight());
+    make(mWhole, path, kWhole * std::max(extent, kDot));
+}
+
+void MapPathLines::make(Outline& outline, const MapPath& path, double tolerance)
+{
+    outline.parts.clear();
+    outline.tolerance = tolerance;
+    Writer writer(outline.parts, mWidth);
+    for (const std::size_t i : mapPathOutline(path.points(), mColors, tolerance)) {
+        writer.add(path.points()[i], i < mColors.size() ? mColors[i] : kPlain);
     }
 }
 
-void MapPathLines::render(Tessel::OpenGL::GlHandler& gl, const MapPath& path, double x, double y,
-                          double metresPerPixel)
+MapPathLines::Outline& MapPathLines::outlineFor(const MapPath& path, double metresPerPixel)
+{
+    const double most = kPixelPart * metresPerPixel;
+    if (mWhole.tolerance <= most) {
+        return mWhole;
+    }
+    if (mNear.tolerance > most || mNear.tolerance * 2.0 < most) {
+        const double halvings = std::ceil(std::log2(mWhole.tolerance / most));
+        const double tolerance = mWhole.tolerance * std::exp2(-halvings);
+        const double possible = std::max(tolerance, kLeastTolerance);
+        if (possible != mNear.tolerance) {
+            make(mNear, path, possible);
+        }
+    }
+    return mNear;
+}
+
+void MapPathLines::render(Tessel::OpenGL::GlHandler& gl, const MapPath& path, const QSize& window,
+                          double x, double y, double metresPerPixel)
 {
     Tessel::OpenGL::MatrixSet& matrices = gl.matrices();
-    for (Part& part : mTolerance <= kPixelPart * metresPerPixel ? mOutline : mWhole) {
+    for (Part& part : outlineFor(path, metresPerPixel).parts) {
+        const double left = x + (part.origin.x - path.middle().x) / metresPerPixel;
+        const double top = y - (part.origin.y - path.middle().y) / metresPerPixel;
+        if (left + part.box.right() / metresPerPixel < -mWidth ||
+            left + part.box.left() / metresPerPixel > window.width() + mWidth ||
+            top - part.box.top() / metresPerPixel < -mWidth ||
+            top - part.box.bottom() / metresPerPixel > window.height() + mWidth) {
+            continue;
+        }
         matrices.push();
-        matrices.translate(x + (part.origin.x - path.middle().x) / metresPerPixel,
-                           y - (part.origin.y - path.middle().y) / metresPerPixel);
+        matrices.translate(left, top);
         matrices.scale(1.0 / metresPerPixel, -1.0 / metresPerPixel);
         part.lines.render(gl);
         matrices.pop();
@@ -108,8 +142,8 @@ void MapPathLines::render(Tessel::OpenGL::GlHandler& gl, const MapPath& path, do
 
 void MapPathLines::release()
 {
-    for (Parts* parts : {&mWhole, &mOutline}) {
-        for (Part& part : *parts) {
+    for (Outline* outline : {&mWhole, &mNear}) {
+        for (Part& part : outline->parts) {
             part.lines.release();
         }
     }

@@ -107,7 +107,7 @@ void WidgetMap::drawPath()
     // A window may show the globe more than once, and a path may lie across its edge.
     const double first = std::ceil((-half - x) / world);
     for (double copy = first; x + copy * world - half < pixels().width(); copy += 1.0) {
-        mLines.render(mGl, mPath, x + copy * world, y, scale);
+        mLines.render(mGl, mPath, pixels(), x + copy * world, y, scale);
     }
 }
 

@@ -18,6 +18,8 @@ public:
 
     /// What was handed over is out of date: the next bind() takes the content anew.
     void invalidate() { mCurrent = false; }
+    /// Whether the next bind() has no use for content.
+    [[nodiscard]] bool isCurrent() const { return mBuffer != 0 && mCurrent; }
     /// Binds the buffer for drawing, with this content if it is not there yet.
     void bind(const void* content, std::size_t bytes);
     static void unbind();

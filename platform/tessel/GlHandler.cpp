@@ -6,6 +6,7 @@ void GlHandler::release()
 {
     mLines.release();
     mColors.release();
+    mRibbons.release();
     mTextures.release();
 }
 

@@ -3,6 +3,7 @@
 #include "platform/tessel/ColorProgram.h"
 #include "platform/tessel/LineProgram.h"
 #include "platform/tessel/MatrixSet.h"
+#include "platform/tessel/RibbonProgram.h"
 #include "platform/tessel/TextureProgram.h"
 
 namespace Tessel::OpenGL {
@@ -19,6 +20,7 @@ public:
 
     [[nodiscard]] LineProgram& lines() { return mLines; }
     [[nodiscard]] ColorProgram& colors() { return mColors; }
+    [[nodiscard]] RibbonProgram& ribbons() { return mRibbons; }
     [[nodiscard]] TextureProgram& textures() { return mTextures; }
 
     /// Gives the programs back to the graphics system; they are made again when needed.
@@ -28,6 +30,7 @@ private:
     MatrixSet mMatrices;
     LineProgram mLines;
     ColorProgram mColors;
+    RibbonProgram mRibbons;
     TextureProgram mTextures;
 };
 

@@ -1,8 +1,12 @@
 #include "platform/tessel/LineStrips.h"
 
+#include "platform/tessel/Blending.h"
 #include "platform/tessel/Gl.h"
 #include "platform/tessel/GlHandler.h"
+#include "platform/tessel/LineRibbon.h"
 #include "platform/tessel/StripSizes.h"
+
+#include <optional>
 
 namespace Tessel::OpenGL {
 
@@ -30,18 +34,43 @@ void LineStrips::addVertex(float x, float y, float z)
     mBuffer.invalidate();
 }
 
+/// The areas go to the graphics system and are not kept here.
+void LineStrips::fillBuffer()
+{
+    std::vector<RibbonProgram::Vertex> areas;
+    areas.reserve(mVertices.size() * 2 + mStarts.size() * 2);
+    std::vector<int> sizes;
+    fillStripSizes(mStarts, static_cast<int>(mVertices.size()), sizes);
+    mFirsts.clear();
+    mSizes.clear();
+    for (std::size_t i = 0; i < mStarts.size(); ++i) {
+        const std::size_t first = areas.size();
+        appendRibbon(mVertices.data() + mStarts[i], static_cast<std::size_t>(sizes[i]), areas);
+        mFirsts.push_back(static_cast<int>(first));
+        mSizes.push_back(static_cast<int>(areas.size() - first));
+    }
+    mBuffer.bind(areas.data(), areas.size() * sizeof(RibbonProgram::Vertex));
+}
+
 void LineStrips::render(GlHandler& gl)
 {
     if (mVertices.empty()) {
         return;
     }
-    mBuffer.bind(mVertices.data(), mVertices.size() * sizeof(ColorProgram::Vertex));
-    if (gl.colors().begin(gl.matrices(), mVertexColors ? nullptr : &mColor)) {
-        glLineWidth(mWidth);
-        fillStripSizes(mStarts, static_cast<int>(mVertices.size()), mSizes);
-        glMultiDrawArrays(GL_LINE_STRIP, mStarts.data(), mSizes.data(),
-                          static_cast<GLsizei>(mStarts.size()));
-        ColorProgram::end();
+    if (mBuffer.isCurrent()) {
+        mBuffer.bind(nullptr, 0);
+    } else {
+        fillBuffer();
+    }
+    std::optional<Blending> blending;
+    if (mAntiAliasing) {
+        blending.emplace(Blending::Colors::Plain);
+    }
+    const Color* color = mVertexColors ? nullptr : &mColor;
+    if (gl.ribbons().begin(gl.matrices(), mWidth, mAntiAliasing, color)) {
+        glMultiDrawArrays(GL_TRIANGLE_STRIP, mFirsts.data(), mSizes.data(),
+                          static_cast<GLsizei>(mFirsts.size()));
+        RibbonProgram::end();
     }
     GlBuffer::unbind();
 }

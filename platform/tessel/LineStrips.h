@@ -11,7 +11,8 @@ namespace Tessel::OpenGL {
 class GlHandler;
 
 /// Connected lines in space, in one colour or with a colour for every vertex: a path. All strips
-/// are drawn with one call. The context rule of GlBuffer holds.
+/// are drawn with one call, as areas: equally wide in every direction, and a strip of one place is
+/// a square. The context rule of GlBuffer holds.
 ///
 /// Vertices are single precision: give them relative to a near origin and move that with the
 /// matrices.
@@ -31,18 +32,24 @@ public:
     void setVertexColors(bool on) { mVertexColors = on; }
     /// In pixels of the frame buffer.
     void setLineWidth(float pixels) { mWidth = pixels; }
+    /// Soft edges. Off at first.
+    void setAntiAliasing(bool on) { mAntiAliasing = on; }
 
     void render(GlHandler& gl);
     void release() { mBuffer.release(); }
 
 private:
+    void fillBuffer();
+
     std::vector<ColorProgram::Vertex> mVertices;
     std::vector<int> mStarts; ///< index of the first vertex of each strip
-    std::vector<int> mSizes;  ///< its number of vertices; kept for its memory
-    GlBuffer mBuffer;
+    GlBuffer mBuffer;         ///< of the strips' areas
+    std::vector<int> mFirsts; ///< index of the first vertex of each area
+    std::vector<int> mSizes;  ///< its number of vertices
     Color mColor;
     float mWidth = 1.0F;
     bool mVertexColors = false;
+    bool mAntiAliasing = false;
 };
 
 } // namespace Tessel::OpenGL

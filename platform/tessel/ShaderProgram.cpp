@@ -28,6 +28,7 @@ GLuint link(GLuint vertex, GLuint fragment, const char* secondAttribute)
     glAttachShader(program, vertex);
     glAttachShader(program, fragment);
     glBindAttribLocation(program, ShaderProgram::Position, "position");
+    glBindAttribLocation(program, ShaderProgram::Aside, "aside");
     if (secondAttribute != nullptr) {
         glBindAttribLocation(program, 1, secondAttribute);
     }

@@ -8,7 +8,12 @@ class ShaderProgram
 {
 public:
     /// Attribute numbers that all programs of this library share.
-    enum Attribute : unsigned int { Position = 0, VertexColor = 1, TextureCoordinate = 1 };
+    enum Attribute : unsigned int {
+        Position = 0,
+        VertexColor = 1,
+        TextureCoordinate = 1,
+        Aside = 2 ///< "aside", in programs that have it
+    };
 
     ShaderProgram() = default;
     ~ShaderProgram();

@@ -69,6 +69,18 @@ protected:
         return count;
     }
     int lit() const { return lit(QRect(0, 0, kSize, kSize)); }
+    /// The same for light, with partly covered pixels as parts.
+    double light() const
+    {
+        const QImage image = mPicture->toImage().convertToFormat(QImage::Format_RGB32);
+        double sum = 0.0;
+        for (int y = 0; y < kSize; ++y) {
+            for (int x = 0; x < kSize; ++x) {
+                sum += image.pixelColor(x, y).redF();
+            }
+        }
+        return sum;
+    }
     QColor at(int x, int y) const { return mPicture->toImage().pixelColor(x, kSize - 1 - y); }
 
     QOffscreenSurface mSurface;
@@ -211,6 +223,48 @@ TEST_F(OpenGlTest, APathTakesTheColourOfEachVertexOrOneForAll)
     path.render(mGl);
     EXPECT_EQ(at(4, 4), QColor(0, 255, 0));
     EXPECT_EQ(at(27, 20), QColor(0, 255, 0));
+}
+
+TEST_F(OpenGlTest, APathIsEquallyWideInEveryDirectionHoweverShortItsSteps)
+{
+    constexpr float kWidth = 4.0F;
+    const struct
+    {
+        const char* name;
+        float x;
+        float y;
+        int steps;
+        double length; ///< with half the width at both ends
+    } rows[] = {
+        {"level", 16.0F, 0.0F, 1, 20.0},     {"upright in small steps", 0.0F, 16.0F, 60, 20.0},
+        {"diagonal", 16.0F, 16.0F, 1, 26.6}, {"diagonal in small steps", 16.0F, 16.0F, 60, 26.6},
+        {"steep", 8.0F, 16.0F, 40, 21.9},    {"of one place", 0.0F, 0.0F, 3, 4.0}};
+    for (const auto& row : rows) {
+        for (const bool soft : {false, true}) {
+            LineStrips path;
+            path.setColor({1.0F, 1.0F, 1.0F, 1.0F});
+            path.setLineWidth(kWidth);
+            path.setAntiAliasing(soft);
+            for (int i = 0; i <= row.steps; ++i) {
+                const float part = static_cast<float>(i) / static_cast<float>(row.steps);
+                path.addVertex(8.0F + row.x * part, 8.0F + row.y * part);
+            }
+            clear();
+            path.render(mGl);
+            EXPECT_NEAR(light(), row.length * kWidth, 2.0 + row.length * kWidth * 0.15)
+                << row.name << (soft ? ", soft" : "");
+        }
+    }
+    LineStrips turning;
+    turning.setLineWidth(kWidth);
+    for (const float x : {8.0F, 24.0F, 8.0F}) {
+        turning.addVertex(x, 8.0F);
+    }
+    turning.addVertex(8.0F, 24.0F);
+    clear();
+    turning.render(mGl);
+    EXPECT_NEAR(light(), 20.0 * 4.0 + 16.0 * 4.0, 4.0) << "back, then round a corner";
+    EXPECT_EQ(lit(QRect(0, 0, kSize, 6)), 0) << "no spikes";
 }
 
 TEST_F(OpenGlTest, ATranslucentAreaShowsWhatIsBehindIt)

@@ -60,6 +60,16 @@ std::vector<FlightPathPoint> pathOf(const std::vector<std::pair<double, double>>
     return path;
 }
 
+/// A path that turns with each point.
+std::vector<std::pair<double, double>> wave(int count)
+{
+    std::vector<std::pair<double, double>> places;
+    for (int i = 0; i < count; ++i) {
+        places.emplace_back(47.0 + 0.01 * std::sin(i / 5.0), 8.0 + i * 1e-4);
+    }
+    return places;
+}
+
 struct WidgetMapTest : ::testing::Test
 {
     void SetUp() override
@@ -153,10 +163,10 @@ TEST_F(WidgetMapTest, DrawsThePathWhereThePositionsAre)
     {
         const char* name;
         std::vector<std::pair<double, double>> path;
-    } rows[] = {
-        {"a short flight", {{47.0, 8.0}, {47.1, 8.2}, {47.0, 8.4}}},
-        {"across the antimeridian", {{-17.0, 179.5}, {-17.3, -179.9}, {-17.0, -179.5}}},
-        {"far from its start", {{47.0, 8.0}, {40.0, 20.0}, {39.999, 20.001}, {39.9, 20.0}}}};
+    } rows[] = {{"a short flight", {{47.0, 8.0}, {47.1, 8.2}, {47.0, 8.4}}},
+                {"across the antimeridian", {{-17.0, 179.5}, {-17.3, -179.9}, {-17.0, -179.5}}},
+                {"far from its start", {{47.0, 8.0}, {40.0, 20.0}, {39.999, 20.001}, {39.9, 20.0}}},
+                {"of thousands of points", wave(9000)}};
     for (const auto& row : rows) {
         const std::vector<FlightPathPoint> points = pathOf(row.path);
         RecordData record;
@@ -167,7 +177,7 @@ TEST_F(WidgetMapTest, DrawsThePathWhereThePositionsAre)
         widget.resize(600, 400);
         widget.show();
         for (const double range : {0.0, 20000.0, 50.0}) {
-            for (std::size_t i = 1; i < points.size(); ++i) {
+            for (std::size_t i = 1; i < points.size(); i += 1 + points.size() / 5) {
                 if (range > 0.0) {
                     moved.visibleRange = range;
                     MapNavigation::setCentre(moved, points[i].latitude, points[i].longitude);
