@@ -37,6 +37,7 @@ TileSource::TileSource(QObject* parent)
 
 TileSource::~TileSource()
 {
+    mEnding = true; // a walk through a large store takes seconds
     mReaders.clear();
     mCaretaker.clear();
     mReaders.waitForDone();
@@ -242,7 +243,8 @@ void TileSource::countWritten(std::int64_t bytes)
 void TileSource::trim()
 {
     mWritten = 0;
-    mCaretaker.start([store = mStore, limit = mLimit] { store->trim(limit); });
+    mCaretaker.start(
+        [store = mStore, limit = mLimit, stop = &mEnding] { store->trim(limit, stop); });
 }
 
 } // namespace OpenStreet

@@ -10,6 +10,7 @@
 #include <QString>
 #include <QThreadPool>
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -101,6 +102,7 @@ private:
     int mUnasked = 0; ///< tiles that the disk has not, or only old, and want() does not know yet
     std::int64_t mLimit = 500LL * 1024 * 1024;
     std::int64_t mWritten = 0; ///< bytes since the store was trimmed
+    std::atomic<bool> mEnding = false;
 };
 
 } // namespace OpenStreet

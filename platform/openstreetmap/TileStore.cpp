@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QStringList>
 
 #include <algorithm>
 #include <utility>
@@ -49,6 +50,65 @@ TileFreshness parseMeta(const QByteArray& text)
 QByteArray oneLine(QByteArray text)
 {
     return text.replace('\n', ' ').replace('\r', ' ').left(1000);
+}
+
+struct Stored
+{
+    qint64 used;
+    qint64 size;
+    QString picture;
+    QString meta;
+};
+
+bool isSet(const std::atomic<bool>* flag)
+{
+    return flag != nullptr && flag->load();
+}
+
+bool isNumber(const QString& name)
+{
+    return !name.isEmpty() && std::all_of(name.begin(), name.end(), [](QChar c) {
+        return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+    });
+}
+
+/// Paths of the folders in one that are named by a number.
+QStringList numberedIn(const QString& folder)
+{
+    QStringList result;
+    const QDir::Filters folders = QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks;
+    for (const QString& name : QDir(folder).entryList(folders, QDir::Unsorted)) {
+        if (isNumber(name)) {
+            result.append(folder + QLatin1Char('/') + name);
+        }
+    }
+    return result;
+}
+
+/// All, or those found until it was time to stop.
+std::vector<Stored> tilesIn(const QString& folder, const std::atomic<bool>* stop)
+{
+    std::vector<Stored> tiles;
+    for (const QString& zoom : numberedIn(folder)) {
+        for (const QString& column : numberedIn(zoom)) {
+            QDirIterator files(column, {QStringLiteral("*.png")}, QDir::Files | QDir::NoSymLinks);
+            while (files.hasNext() && !isSet(stop)) {
+                files.next();
+                const QFileInfo picture = files.fileInfo();
+                if (!isNumber(picture.completeBaseName())) {
+                    continue;
+                }
+                const QFileInfo meta(column + QLatin1Char('/') + picture.completeBaseName() +
+                                     QLatin1String(kMeta));
+                const bool isNoted = meta.exists();
+                const QDateTime used = (isNoted ? meta : picture).lastModified();
+                tiles.push_back({used.toSecsSinceEpoch(),
+                                 picture.size() + (isNoted ? meta.size() : 0), picture.filePath(),
+                                 meta.filePath()});
+            }
+        }
+    }
+    return tiles;
 }
 
 } // namespace
@@ -127,40 +187,20 @@ void TileStore::markUsed(const TileAddress& tile) const
     }
 }
 
-std::int64_t TileStore::trim(std::int64_t bytes) const
+std::int64_t TileStore::trim(std::int64_t bytes, const std::atomic<bool>* stop) const
 {
-    struct Stored
-    {
-        qint64 used;
-        qint64 size;
-        QString picture;
-        QString meta;
-    };
     if (mFolder.isEmpty()) {
         return 0;
     }
-    std::vector<Stored> tiles;
+    std::vector<Stored> tiles = tilesIn(mFolder, stop);
     std::int64_t total = 0;
-    QDirIterator files(mFolder, {QStringLiteral("*.png")}, QDir::Files | QDir::NoSymLinks,
-                       QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        files.next();
-        const QFileInfo picture = files.fileInfo();
-        const QFileInfo meta(picture.path() + QLatin1Char('/') + picture.completeBaseName() +
-                             QLatin1String(kMeta));
-        const QDateTime used = meta.exists() ? meta.lastModified() : picture.lastModified();
-        tiles.push_back({used.toSecsSinceEpoch(),
-                         picture.size() + (meta.exists() ? meta.size() : 0), picture.filePath(),
-                         meta.filePath()});
-        total += tiles.back().size;
-    }
-    if (total <= bytes) {
-        return total;
+    for (const Stored& tile : tiles) {
+        total += tile.size;
     }
     std::sort(tiles.begin(), tiles.end(),
               [](const Stored& a, const Stored& b) { return a.used < b.used; });
     for (const Stored& tile : tiles) {
-        if (total <= bytes) {
+        if (total <= bytes || isSet(stop)) {
             break;
         }
         if (QFile::remove(tile.picture)) {

@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <atomic>
 #include <cstdint>
 #include <optional>
 
@@ -36,9 +37,10 @@ public:
     bool refresh(const TileAddress& tile, const TileFreshness& freshness) const;
     void remove(const TileAddress& tile) const;
 
-    /// Removes what was not used for longest until the store takes at most this. Returns the bytes
-    /// that it takes then.
-    std::int64_t trim(std::int64_t bytes) const;
+    /// Removes what was not used for longest until the store takes at most this, or `stop` is set.
+    /// Returns the bytes that it takes then, as far as they were counted. No other file than those
+    /// of tiles is touched.
+    std::int64_t trim(std::int64_t bytes, const std::atomic<bool>* stop = nullptr) const;
 
 private:
     [[nodiscard]] QString path(const TileAddress& tile, const char* suffix) const;

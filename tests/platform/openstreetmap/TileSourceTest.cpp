@@ -3,7 +3,9 @@
 #include "tests/support/TileServer.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
@@ -323,6 +325,35 @@ TEST_F(TileSourceTest, WithoutAServerTheDiskServes)
     silent.setServer(QString());
     settle(silent, {there});
     EXPECT_EQ(silent.loading(), 0);
+}
+
+TEST_F(TileSourceTest, TheStoreIsKeptSmallFromTheStartAndWhenItsLimitChanges)
+{
+    const auto stored = [this] {
+        return QDir(mDir.filePath(QStringLiteral("4/8")))
+            .entryList({QStringLiteral("*.png")})
+            .size();
+    };
+    const TileStore store(mDir.path());
+    for (int y = 0; y < 6; ++y) {
+        ASSERT_TRUE(store.write({4, 8, y}, {QByteArray(1000, 'x'), {}}));
+    }
+    TileSource source;
+    source.setLimit(4500);
+    source.setFolder(mDir.path());
+    EXPECT_TRUE(waitFor([&] { return stored() == 4; })) << stored();
+    source.setLimit(2500);
+    EXPECT_TRUE(waitFor([&] { return stored() == 2; })) << stored();
+}
+
+TEST_F(TileSourceTest, WhatCannotBeWrittenIsShownAllTheSame)
+{
+    QFile blocker(mDir.filePath(QStringLiteral("4"))); // a file where the folder should be
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+    settle(mSource, {{4, 8, 5}});
+    settle(mSource, {{4, 8, 5}});
+    EXPECT_EQ(mPictures.count({4, 8, 5}), 1U);
+    EXPECT_EQ(mServer.requests(), 1);
 }
 
 TEST_F(TileSourceTest, EndsWhileMuchIsUnderWay)

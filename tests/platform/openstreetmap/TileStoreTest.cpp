@@ -13,6 +13,8 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+
 using namespace OpenStreet;
 using VELIX::Test::TileServer;
 
@@ -129,6 +131,18 @@ TEST_F(TileStoreTest, WhatWasNotUsedForLongestMakesWay)
     EXPECT_TRUE(mStore.read({4, 2, 3}).has_value());
     EXPECT_FALSE(QFileInfo::exists(path("tiles/4/2/1.meta")));
     EXPECT_EQ(TileStore(path("missing")).trim(0), 0);
+
+    QFile photo(path("tiles/4/2/holiday.png"));
+    ASSERT_TRUE(photo.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(QDir().mkpath(path("tiles/4/2/3/8/9"))); // a store within
+    ASSERT_TRUE(QFile::copy(path("tiles/4/2/3.png"), path("tiles/4/2/3/8/9/1.png")));
+    const std::atomic<bool> stop = true;
+    mStore.trim(0, &stop);
+    EXPECT_TRUE(mStore.read({4, 2, 3}).has_value());
+    EXPECT_EQ(mStore.trim(0), 0);
+    EXPECT_FALSE(mStore.read({4, 2, 3}).has_value());
+    EXPECT_TRUE(photo.exists()) << "only tiles are ever deleted";
+    EXPECT_TRUE(QFileInfo::exists(path("tiles/4/2/3/8/9/1.png")));
 }
 
 TEST_F(TileStoreTest, AStoreThatCannotBeWrittenOnlyReads)
@@ -141,6 +155,15 @@ TEST_F(TileStoreTest, AStoreThatCannotBeWrittenOnlyReads)
     const TileStore none{QString()};
     EXPECT_FALSE(none.write({1, 0, 0}, tile('a')));
     EXPECT_FALSE(QFileInfo::exists(QStringLiteral("/1/0/0.png")));
+
+    ASSERT_TRUE(QDir().mkpath(path("tiles/3/4/5.meta"))); // a folder where the note should be
+    QFile picture(path("tiles/3/4/5.png"));
+    ASSERT_TRUE(picture.open(QIODevice::WriteOnly));
+    picture.write("picture");
+    picture.close();
+    EXPECT_FALSE(mStore.refresh({3, 4, 5}, {}));
+    ASSERT_TRUE(mStore.read({3, 4, 5}).has_value());
+    EXPECT_EQ(mStore.read({3, 4, 5})->picture, QByteArray("picture"));
 }
 
 TEST(TileImageTest, TakesPicturesOfTilesAndNothingElse)
