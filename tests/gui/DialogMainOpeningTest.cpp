@@ -88,6 +88,9 @@ TEST_F(DialogMainOpeningTest, ListsTheLastEightCardsAndOpensThemAgain)
 {
     start();
     EXPECT_EQ(recentPaths("menuRecentCards"), QStringList(QString())); // a line that says so
+    action(eActionOpenCard).trigger();                                 // cancelled
+    EXPECT_EQ(program.dialogs.takeAsked(), QStringList(QStringLiteral("Open SD Card")));
+    EXPECT_EQ(program.setting("LastPath"), QString());
     QStringList opened;
     for (int i = 0; i < 10; ++i) {
         const QString folder = path("card") + QString::number(i);
@@ -103,12 +106,14 @@ TEST_F(DialogMainOpeningTest, ListsTheLastEightCardsAndOpensThemAgain)
     EXPECT_EQ(program.card.name(), opened.front());
     EXPECT_EQ(recentPaths("menuRecentCards"), QStringList(opened.mid(0, 8)));
     EXPECT_EQ(program.storedSetting("RecentCard1"), opened.front());
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("VELIX ") + opened.front());
 
     // A card that is out of its reader stays in the list, for it may come back.
     ASSERT_TRUE(QDir(opened.at(1)).removeRecursively());
     recent("menuRecentCards").actions().at(1)->trigger();
     EXPECT_TRUE(notice().contains(opened.at(1)));
-    EXPECT_EQ(program.card.name(), opened.front());
+    EXPECT_EQ(cycles().topLevelItemCount(), 2);
+    EXPECT_EQ(program.storedSetting("LastPath"), opened.front());
     EXPECT_EQ(recentPaths("menuRecentCards").size(), 8);
 }
 

@@ -40,27 +40,6 @@ TEST_F(DialogMainTest, ComesUpWithNothingAtAll)
     EXPECT_TRUE(program.dialogs.takeAsked().isEmpty());
 }
 
-TEST_F(DialogMainTest, OpensACardAndRemembersIt)
-{
-    start();
-    ASSERT_TRUE(writeCard(program.cardFolder()));
-    action(eActionOpenCard).trigger(); // cancelled
-    EXPECT_EQ(program.dialogs.takeAsked(), QStringList(QStringLiteral("Open SD Card")));
-    EXPECT_EQ(program.setting("LastPath"), QString());
-
-    program.dialogs.file = program.cardFolder();
-    action(eActionOpenCard).trigger();
-    EXPECT_EQ(cycles().topLevelItemCount(), 2);
-    EXPECT_EQ(program.storedSetting("LastPath"), program.cardFolder());
-    EXPECT_EQ(window->windowTitle(), QStringLiteral("VELIX ") + program.cardFolder());
-
-    program.dialogs.file = program.home.filePath(QStringLiteral("none"));
-    action(eActionOpenCard).trigger();
-    EXPECT_EQ(program.storedSetting("LastPath"), program.cardFolder());
-    EXPECT_EQ(cycles().topLevelItemCount(), 2);
-    EXPECT_FALSE(notice().isEmpty());
-}
-
 TEST_F(DialogMainTest, LoadsACycleAndThenAFlightOfIt)
 {
     startWithCard();

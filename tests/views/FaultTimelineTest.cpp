@@ -106,6 +106,7 @@ TEST_F(FaultTimelineTest, WhatIsShorterThanAPixelStaysVisible)
     EXPECT_EQ(timeline.spans(eErrorFault, 100), (Spans{{50, 1}}));
     EXPECT_EQ(timeline.spans(eErrorWarning, 100), (Spans{{1, 1}})) << "not under the frame";
     EXPECT_EQ(timeline.spans(eErrorInfo, 100), (Spans{{98, 1}}));
+    EXPECT_EQ(timeline.wordAt(49, 100), 0U);
     EXPECT_EQ(timeline.wordAt(50, 100), kFaultBits);
     EXPECT_EQ(timeline.wordAt(51, 100), 0U);
     EXPECT_EQ(timeline.wordAt(1, 100), kWarningBit);
