@@ -80,6 +80,7 @@ void DialogDataView::blankView()
     for (const ViewParameter& shown : mParameters) {
         mView->setVar(shown.viewId.c_str(), std::nan(""));
         mView->setVar(shown.stateId.c_str(), 0L);
+        mView->setVar(shown.missingId.c_str(), 0L);
     }
 }
 
@@ -92,6 +93,7 @@ void DialogDataView::updateView()
             int state = 0;
             QColor color;
             const double value = mCard.getValue(shown.parameter, mTime, state, color);
+            mView->setVar(shown.missingId.c_str(), isMissing(shown.parameter) ? 1L : 0L);
             if (!std::isnan(value)) {
                 mView->setVar(shown.viewId.c_str(), value);
                 mView->setVar(shown.stateId.c_str(), static_cast<long>(state));
@@ -101,6 +103,12 @@ void DialogDataView::updateView()
     if (mView->changed()) {
         update();
     }
+}
+
+/// Without any entry of a parameter its value is 0, which must not pass for a measured one.
+bool DialogDataView::isMissing(const ProfileParameter& p) const
+{
+    return mCard.loadedData().entries(static_cast<std::uint32_t>(p.id)).empty();
 }
 
 /// The number that the current variant's entry in the profile has as its id.

@@ -76,6 +76,7 @@ private:
     void updateHint();
     void trackKey(int key, bool isDown);
     [[nodiscard]] int variantNumber() const;
+    [[nodiscard]] bool isMissing(const ProfileParameter& p) const;
 
     Profile& mProfile;
     CardContainer& mCard;

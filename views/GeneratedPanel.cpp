@@ -145,8 +145,8 @@ std::vector<ViewParameter> viewParameters(const Profile& profile)
     for (const ProfileDevice& device : profile.data().devices) {
         for (const auto& [id, p] : device.parameters) {
             if (!p.viewId.isEmpty()) {
-                const QString state = QStringLiteral("%1_STATE").arg(p.viewId);
-                parameters.push_back({p, p.viewId.toStdString(), state.toStdString()});
+                const std::string view = p.viewId.toStdString();
+                parameters.push_back({p, view, view + "_STATE", view + "_MISSING"});
             }
         }
     }

@@ -15,6 +15,7 @@ struct ViewParameter
     ProfileParameter parameter; ///< a copy: the profile may be loaded again at any time
     std::string viewId;         ///< the view's variable, UTF-8
     std::string stateId;        ///< the variable of its threshold state
+    std::string missingId;      ///< the variable that tells whether the record lacks it
 };
 
 /// Every parameter of the profile that has a view id, in profile order.

@@ -97,6 +97,7 @@ struct ViewBinding
 {
     int slot = -1; ///< -1: none
     int stateSlot = -1;
+    int missingSlot = -1;
     ViewScales scales;
     std::vector<ViewCaption> captions;
     std::vector<ViewCase> cases;

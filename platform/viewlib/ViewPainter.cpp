@@ -4,6 +4,7 @@
 #include "platform/viewlib/ViewSurface.h"
 #include "platform/viewlib/ViewVariables.h"
 
+#include <cmath>
 #include <limits>
 
 namespace Vista2D {
@@ -24,7 +25,11 @@ ViewReading ViewPainter::reading(const ViewBinding& binding) const
     ViewReading reading;
     reading.scale = &orNone(binding.scaleOf(mTruths));
     reading.shown = std::numeric_limits<double>::quiet_NaN();
-    if (binding.slot >= 0) {
+    const auto isMissing = [&] {
+        const double missing = mVariables.value(binding.missingSlot);
+        return !std::isnan(missing) && missing != 0.0;
+    };
+    if (binding.slot >= 0 && !isMissing()) {
         reading.shown = shownValue(*reading.scale, mVariables.value(binding.slot));
         const double state = mVariables.value(binding.stateSlot);
         reading.state = state >= 2.0 ? 2 : state >= 1.0 ? 1 : 0;

@@ -281,18 +281,22 @@ void ViewReader::textStyle(ViewAttributes& attributes, ViewText& style)
         {{"left", Align::Left}, {"center", Align::Center}, {"right", Align::Right}});
 }
 
-void ViewReader::bind(ViewAttributes& attributes, ViewBinding& target, bool isNeeded)
+bool ViewReader::bindVariable(ViewAttributes& attributes, ViewBinding& target)
 {
     QString name;
-    const bool isGiven = attributes.text("var", name) && !name.isEmpty();
-    if (isNeeded) {
-        attributes.require(isGiven, "var");
+    if (!attributes.text("var", name) || name.isEmpty()) {
+        return false;
     }
-    if (isGiven) {
-        target.slot = mVariables.slot(name.toStdString());
-        target.stateSlot = mVariables.slot(name.toStdString() + "_STATE");
-        mModel.slotsUsed.insert({target.slot, target.stateSlot});
-    }
+    target.slot = mVariables.slot(name.toStdString());
+    target.stateSlot = mVariables.slot(name.toStdString() + "_STATE");
+    target.missingSlot = mVariables.slot(name.toStdString() + "_MISSING");
+    mModel.slotsUsed.insert({target.slot, target.stateSlot, target.missingSlot});
+    return true;
+}
+
+void ViewReader::bindInstrument(ViewAttributes& attributes, ViewBinding& target)
+{
+    attributes.require(bindVariable(attributes, target), "var");
     QString scales;
     if (attributes.text("scales", scales)) {
         const auto known = mScales.find(scales);

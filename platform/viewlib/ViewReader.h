@@ -101,7 +101,8 @@ private:
     void addToScale(ViewAttributes& attributes, Part part, const ViewBand& band);
     bool shownText(ViewAttributes& attributes, const char* name, QString& target);
     void readCaption(ViewAttributes& attributes, ViewCaption::Shows shows);
-    void bind(ViewAttributes& attributes, ViewBinding& target, bool isNeeded);
+    bool bindVariable(ViewAttributes& attributes, ViewBinding& target);
+    void bindInstrument(ViewAttributes& attributes, ViewBinding& target);
     void condition(ViewAttributes& attributes, ConditionList& target);
     bool place(ViewAttributes& attributes, const char* name, QPointF& target);
     bool box(ViewAttributes& attributes, QRectF& target);

@@ -109,7 +109,7 @@ void ViewReader::readGauge(ViewStatement& statement, ViewAttributes& attributes)
 {
     ViewGauge gauge;
     gauge.color = mModel.colors.normal;
-    bind(attributes, gauge.binding, true);
+    bindInstrument(attributes, gauge.binding);
     const bool hasPlace = place(attributes, "at", gauge.center);
     const bool hasRadius =
         attributes.require(attributes.number("radius", gauge.radius, 1.0, kFarthest), "radius");
@@ -139,7 +139,7 @@ void ViewReader::readBar(ViewStatement& statement, ViewAttributes& attributes)
     using Style = ViewBar::Style;
     ViewBar bar;
     bar.color = mModel.colors.normal;
-    bind(attributes, bar.binding, true);
+    bindInstrument(attributes, bar.binding);
     attributes.choice<Direction>("direction", bar.direction,
                                  {{"right", Direction::Right}, {"up", Direction::Up}});
     attributes.choice<Side>(
@@ -157,7 +157,7 @@ void ViewReader::readBar(ViewStatement& statement, ViewAttributes& attributes)
 void ViewReader::readValue(ViewStatement& statement, ViewAttributes& attributes)
 {
     ViewValue value;
-    bind(attributes, value.binding, true);
+    bindInstrument(attributes, value.binding);
     ViewCaption number;
     number.style.color = mModel.colors.normal;
     textStyle(attributes, number.style);
@@ -170,7 +170,7 @@ void ViewReader::readValue(ViewStatement& statement, ViewAttributes& attributes)
 void ViewReader::readLamp(ViewStatement& statement, ViewAttributes& attributes)
 {
     ViewLamp lamp;
-    bind(attributes, lamp.binding, false);
+    bindVariable(attributes, lamp.binding);
     shownText(attributes, "text", lamp.text);
     attributes.number("textsize", lamp.textSize, 1.0, kLargestText);
     attributes.number("corner", lamp.corner, 0.0, kFarthest);

@@ -17,8 +17,9 @@ struct ViewError
 /// A panel of instruments that a text file describes and named variables move.
 ///
 /// The file's format is told in docs/view-file.md. A bound instrument shows the variable NAME in
-/// the colour that the variable NAME_STATE asks for: 0 normal, 1 warning, 2 limit. Variables may be
-/// set at any time and outlive the description.
+/// the colour that the variable NAME_STATE asks for: 0 normal, 1 warning, 2 limit; it is blank
+/// while NAME_MISSING is set and not 0. Variables may be set at any time and outlive the
+/// description.
 ///
 /// All but draw() works without an OpenGL context.
 class VistaView

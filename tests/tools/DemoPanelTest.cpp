@@ -115,7 +115,8 @@ TEST(DemoPanel, HasNoMistakeAndNamesWhatTheProfileBinds)
             known.insert(variables.slot(own));
         }
         for (const auto& [name, p] : boundParameters(profile)) {
-            known.insert({variables.slot(name), variables.slot(name + "_STATE")});
+            known.insert({variables.slot(name), variables.slot(name + "_STATE"),
+                          variables.slot(name + "_MISSING")});
         }
         for (const int slot : reader.model().slotsUsed) {
             EXPECT_EQ(known.count(slot), 1U) << "slot " << slot;

@@ -82,7 +82,7 @@ struct DialogDataViewTest : ::testing::Test
         builder.variant("Odd").set("id", "first");
         builder.conversion("C", "F", 2.0, 0.0);
         builder.threshold("Hot", {{50, "yellow", "WARNING"}, {80, "red", "LIMIT"}});
-        builder.device("EMU").parameter(kOil, QStringLiteral("Oil"), "FLOAT");
+        builder.device("EMU").parameter(parameterId, QStringLiteral("Oil"), "FLOAT");
         builder.set("viewId", viewId).set("thresholdId", "Hot");
         builder.set("unitMetric", "C").set("unitImperial", "F");
         const QString path = folder.file("Profile.xml");
@@ -116,6 +116,7 @@ struct DialogDataViewTest : ::testing::Test
         return std::to_string((x + 1) / 2 / 10 * 10) + " " + QColor(color).name().toStdString();
     }
 
+    int parameterId = kOil; ///< of the only parameter
     CardFolder folder;
     CardFolder card;
     DataHandler paths;
@@ -153,6 +154,22 @@ TEST_F(DialogDataViewTest, FollowsTheCursorAndKeepsTheLastNumber)
     view->resize(200, 240);
     EXPECT_EQ(picture().height(), 240);
     EXPECT_DOUBLE_EQ(view->fit().offsetY, 70.0);
+}
+
+TEST_F(DialogDataViewTest, ParametersWithoutEntryShowNoValue)
+{
+    parameterId = kOil + 1;
+    folder.add("resources/views/instruments.v", // 0 is a full bar
+               QByteArray(kView).replace("from=0 to=100", "from=100 to=0"));
+    for (const char* viewId : {"OIL", "OWN"}) { // in the panel of the file, in the generated one
+        loadProfile(viewId);
+        show();
+        const QImage lacking = picture();
+        view->setTime(2.5);
+        EXPECT_EQ(picture(), lacking) << viewId;
+        view->updateRecord(nullptr);
+        EXPECT_EQ(picture(), lacking) << viewId; // as without a value
+    }
 }
 
 TEST_F(DialogDataViewTest, TellsThePanelUnitAndVariant)

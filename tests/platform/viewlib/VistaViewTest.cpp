@@ -142,6 +142,21 @@ TEST_F(VistaViewTest, ConditionsShowHideAndLight)
     EXPECT_TRUE(shows(kLimit, 70, 60));
 }
 
+TEST_F(VistaViewTest, WhatTheRecordLacksIsDrawnAsWithoutValue)
+{
+    load("gauge var=N at=50,25 radius=24 needle=2,20 {\nscale from=0 to=9\nnumber at=10,48\n}\n"
+         "bar var=N at=0,60 size=100,10 ticks=none {\nscale from=9 to=0\n}\n"
+         "value var=N at=10,98 {\ncase if=\"N = 0\" text=OFF\n}\nlamp var=N at=50,80 size=9,9");
+    const QImage blank = draw();
+    mView.setVar("N", 0.0);
+    mView.setVar("N_STATE", 2L);
+    EXPECT_NE(draw(), blank);
+    mView.setVar("N_MISSING", 1L);
+    EXPECT_EQ(draw(), blank);
+    mView.setVar("N_MISSING", 0L);
+    EXPECT_NE(draw(), blank);
+}
+
 TEST_F(VistaViewTest, FillsTheRoomThatTheMatricesGiveIt)
 {
     load("rectangle at=0,0 size=50,50 fill=#00ff00");
