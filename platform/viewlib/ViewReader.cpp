@@ -87,7 +87,11 @@ const std::map<QString, ViewReader::Handler>& ViewReader::handlers(Block::Kind k
         all[QStringLiteral("case")] = &ViewReader::readCase;
         return all;
     }();
+    static const std::map<QString, Handler> lamp = {
+        {QStringLiteral("case"), &ViewReader::readCase}};
     switch (kind) {
+    case Block::Kind::Lamp:
+        return lamp;
     case Block::Kind::File:
         return file;
     case Block::Kind::Scales:

@@ -50,7 +50,7 @@ private:
     /// What the lines of an open block belong to.
     struct Block
     {
-        enum class Kind { File, Group, Instrument, Scales, Unknown };
+        enum class Kind { File, Group, Instrument, Lamp, Scales, Unknown };
 
         Kind kind = Kind::File;
         int line = 0;

@@ -19,7 +19,7 @@ void ViewReader::add(const ViewStatement& statement, ViewAttributes& attributes,
     condition(attributes, element.conditions);
     element.shape = std::move(shape);
     Block inside;
-    inside.kind = Block::Kind::Instrument;
+    inside.kind = std::is_same_v<Shape, ViewLamp> ? Block::Kind::Lamp : Block::Kind::Instrument;
     inside.origin = block().origin;
     inside.element = mModel.elements.size();
     mModel.elements.push_back(std::move(element));

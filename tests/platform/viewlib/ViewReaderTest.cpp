@@ -5,6 +5,8 @@
 #include "platform/viewlib/ViewVariables.h"
 #include "platform/viewlib/VistaView.h"
 
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -69,6 +71,9 @@ TEST(ViewReader, MistakesAreToldWithLineAndElementAndTheRestIsDrawn)
          "3 scale: \"step\" makes more than 200 ticks\n1"},
         {"no variable", "value at=1,1", "2 value: \"var\" is missing\n1"},
         {"unknown scales", "value var=N at=1,1 scales=X", "2 value: \"scales\" knows no \"X\"\n1"},
+        {"a scale, or scales, of a lamp",
+         "scales name=X {\n}\nlamp at=1,1 size=9,9 scales=X {\n scale from=0 to=1\n}",
+         "4 lamp: attribute \"scales\" is unknown or given twice\n5 scale: unknown in a lamp\n1"},
         {"a band before its scale", "bar var=N at=1,1 size=9,9 {\n band from=0 to=1 color=limit\n}",
          "3 band: no scale before it\n2 bar: needs a scale with \"from\" and \"to\"\n1"},
         {"a condition cut short", "label at=1,1 text=a if=\"UNIT =\"",
@@ -133,6 +138,35 @@ TEST(ViewReader, HostileFilesEndInFewErrors)
     reader.read(QByteArray("?\n").repeated(100000));
     EXPECT_EQ(reader.errors().back().message, "further mistakes are not listed");
     EXPECT_LE(reader.errors().size(), 101U);
+}
+
+TEST(ViewReader, TheExampleOfTheDocumentIsRight)
+{
+    QFile document(QStringLiteral(VIEW_FILE_DOCUMENT));
+    ASSERT_TRUE(document.open(QIODevice::ReadOnly));
+    QByteArray example;
+    while (!document.readLine().startsWith("## A worked example")) {
+        ASSERT_FALSE(document.atEnd());
+    }
+    for (QByteArray line = document.readLine(); !line.startsWith('#'); line = document.readLine()) {
+        ASSERT_FALSE(document.atEnd());
+        example += line.startsWith("    ") ? line : QByteArray();
+    }
+    ViewVariables variables;
+    ViewReader reader(variables);
+    reader.read(example);
+    for (const ViewError& error : reader.errors()) {
+        ADD_FAILURE() << error.line << " " << error.element << ": " << error.message;
+    }
+    // What its explanation tells: two scales, the second without bands, and a shifted lamp.
+    const std::vector<ViewElement>& elements = reader.model().elements;
+    ASSERT_EQ(elements.size(), 4U);
+    const ViewScales& scales = bindingOf(elements[0])->scales;
+    ASSERT_EQ(scales.size(), 2U);
+    EXPECT_EQ(scales[0]->step, 20.0);
+    EXPECT_EQ(scales[0]->bands.size(), 3U);
+    EXPECT_TRUE(scales[1]->bands.empty());
+    EXPECT_EQ(std::get<ViewLamp>(elements[3].shape).box.topLeft(), QPointF(200.0, 68.0));
 }
 
 TEST(ViewReader, ConditionsChooseScaleAndUnit)
