@@ -80,7 +80,11 @@ void MapOverlay::panel(GlHandler& gl, const QRectF& area)
 void MapOverlay::paint(GlHandler& gl, const QSize& pixels, const Content& content)
 {
     mPixels = pixels;
-    const double free = paintScale(gl, content, paintAttribution(gl));
+    QRectF ground = paintLines(gl, QString::fromLatin1(MapTexts::kAttribution), pixels.height());
+    if (!content.notice.isEmpty()) {
+        ground = ground.united(paintLines(gl, content.notice, ground.top()));
+    }
+    const double free = paintScale(gl, content, ground);
     if (content.legend != nullptr) {
         paintLegend(gl, *content.legend, free);
     }
@@ -89,24 +93,34 @@ void MapOverlay::paint(GlHandler& gl, const QSize& pixels, const Content& conten
     }
 }
 
-/// In two lines where the window is too narrow for one: all of it must be seen. Returns its ground.
-QRectF MapOverlay::paintAttribution(GlHandler& gl)
+QStringList MapOverlay::wrapped(const QString& text, double width) const
 {
-    const QString text = QString::fromLatin1(MapTexts::kAttribution);
-    const double right = mPixels.width() - kEdge * mRatio;
-    QStringList lines{text};
-    if (mFont.width(text) > right) {
-        const int blank = text.lastIndexOf(QLatin1Char(' '));
-        lines = QStringList{text.left(blank), text.mid(blank + 1)};
+    QStringList lines;
+    for (const QString& word : text.split(QLatin1Char(' '))) {
+        const QString longer = lines.isEmpty() ? word : lines.last() + QLatin1Char(' ') + word;
+        if (lines.isEmpty() || mFont.width(longer) > width) {
+            lines.append(word);
+        } else {
+            lines.last() = longer;
+        }
     }
+    return lines;
+}
+
+/// On the right, in as many lines as a narrow window needs: all of it must be seen. Returns its
+/// ground, which reaches down to the bottom.
+QRectF MapOverlay::paintLines(GlHandler& gl, const QString& text, double bottom)
+{
+    const double right = mPixels.width() - kEdge * mRatio;
+    const QStringList lines = wrapped(text, right);
     double width = 0.0;
     for (const QString& line : lines) {
         width = std::max(width, mFont.width(line));
     }
-    double y = std::floor(mPixels.height() - lines.size() * mFont.height() - kEdge * mRatio);
+    double y = std::floor(bottom - lines.size() * mFont.height() - kEdge * mRatio);
     const QRectF ground(
         QPointF(std::floor(right - width) - kPadding * mRatio, y - kPadding * mRatio),
-        QPointF(mPixels.width(), mPixels.height()));
+        QPointF(mPixels.width(), bottom));
     panel(gl, ground);
     for (const QString& line : lines) {
         mFont.render(gl, std::floor(right - mFont.width(line)), y, line);
@@ -115,16 +129,16 @@ QRectF MapOverlay::paintAttribution(GlHandler& gl)
     return ground;
 }
 
-/// Beside the attribution, or above it where that leaves no room. Returns the lower end of what is
-/// free on the right.
-double MapOverlay::paintScale(GlHandler& gl, const Content& content, const QRectF& attribution)
+/// Beside the texts at the bottom, or above them where that leaves no room. Returns the lower end
+/// of what is free on the right.
+double MapOverlay::paintScale(GlHandler& gl, const Content& content, const QRectF& texts)
 {
     const double edge = kEdge * mRatio;
     const double padding = kPadding * mRatio;
     const double width = std::max(content.scalePixels, mFont.width(content.scale.text));
     const double height = mFont.height() + padding;
-    const bool beside = edge + width + 3.0 * padding < attribution.left();
-    const double row = attribution.top();
+    const bool beside = edge + width + 3.0 * padding < texts.left();
+    const double row = texts.top();
     const double bottom = beside ? mPixels.height() - edge : row - edge;
     if (content.scalePixels > 0.0) {
         const QRectF area(edge, std::floor(bottom - height - padding), width + 2.0 * padding,

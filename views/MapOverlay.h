@@ -30,6 +30,7 @@ public:
         MapScaleBar scale;
         double scalePixels = 0.0;            ///< length of the scale bar
         const MapColoring* legend = nullptr; ///< none: no legend
+        QString notice;                      ///< why there are no tiles; empty: there is none
         QStringList readout;                 ///< lines; none: no read-out
         QPointF mouse;
         std::optional<QPointF> mark; ///< the place of the path that the read-out is about
@@ -45,9 +46,9 @@ private:
     void fill(Tessel::OpenGL::GlHandler& gl, const QRectF& area,
               const Tessel::OpenGL::Color& color);
     void panel(Tessel::OpenGL::GlHandler& gl, const QRectF& area);
-    QRectF paintAttribution(Tessel::OpenGL::GlHandler& gl);
-    double paintScale(Tessel::OpenGL::GlHandler& gl, const Content& content,
-                      const QRectF& attribution);
+    [[nodiscard]] QStringList wrapped(const QString& text, double width) const;
+    QRectF paintLines(Tessel::OpenGL::GlHandler& gl, const QString& text, double bottom);
+    double paintScale(Tessel::OpenGL::GlHandler& gl, const Content& content, const QRectF& texts);
     void paintLegend(Tessel::OpenGL::GlHandler& gl, const MapColoring& legend, double bottom);
     void paintReadout(Tessel::OpenGL::GlHandler& gl, const Content& content);
 

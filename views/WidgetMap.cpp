@@ -1,3 +1,4 @@
+#include "views/WidgetMap.h"
 #include "card/CardContainer.h"
 #include "core/DataHandler.h"
 #include "core/Property.h"
@@ -7,7 +8,6 @@
 #include "views/MapContext.h"
 #include "views/MapNavigation.h"
 #include "views/MapSymbol.h"
-#include "views/WidgetMap.h"
 
 #include <QFile>
 #include <QOpenGLContext>
@@ -92,6 +92,10 @@ void WidgetMap::setUpMap()
     mMap->setTileServer(mTakenSettings.tileServer.c_str());
     static_cast<void>(mMap->setCoastLines(":/map/coast.bin")); // without them there is the grid
     mMap->setArrivedCallback([this] { mLoading = true; });
+    mMap->setFailureCallback([this](const char* url, const char* reason) {
+        mNotice.fail(url, reason);
+        mDirty = true;
+    });
 }
 
 /// Not before the widget has a screen; another screen may have another ratio.
@@ -143,6 +147,7 @@ void WidgetMap::showEvent(QShowEvent* event)
         mResized = true; // a widget that grew with every showing would leave its window
         mResizeTimer.start(kResizeDelay);
     }
+    mRetryTiles = mMapSetUp;
     mDirty = true;
 }
 
@@ -311,7 +316,12 @@ void WidgetMap::takeSettings()
     mMap->setShadingBrightness(settings.brightness);
     mMap->setShadingFactor(settings.factor);
     if (settings.tileServer != mTakenSettings.tileServer) {
+        mNotice.reset();
         mMap->setTileServer(settings.tileServer.c_str());
+    }
+    if (mRetryTiles) {
+        mRetryTiles = false;
+        mMap->retry();
     }
     if (settings.shading != mTakenSettings.shading) {
         mContext->shading = settings.shading; // until then it is as the key left it

@@ -10,6 +10,7 @@
 #include "views/MapOverlay.h"
 #include "views/MapPath.h"
 #include "views/MapPathLines.h"
+#include "views/MapTileNotice.h"
 
 #include <QOpenGLWidget>
 #include <QTimer>
@@ -137,7 +138,7 @@ private:
     void drawPath();
     void drawAircraft();
     void drawOverlay();
-    [[nodiscard]] MapOverlay::Content overlayContent() const;
+    [[nodiscard]] MapOverlay::Content overlayContent();
     void addReadout(MapOverlay::Content& content) const;
     [[nodiscard]] double mapMetresPerPixel() const;
     [[nodiscard]] QSize pixels() const;
@@ -158,6 +159,8 @@ private:
     std::unique_ptr<OpenStreet::OpenStreetMap> mMap;
     MapSettings mTakenSettings; ///< those that the map was told
     bool mMapSetUp = false;
+    MapTileNotice mNotice;
+    bool mRetryTiles = false; ///< the map is shown anew: what failed may be there now
 
     Tessel::OpenGL::GlHandler mGl;
     MapPathLines mLines;

@@ -127,12 +127,15 @@ void WidgetMap::drawAircraft()
     mGl.matrices().pop();
 }
 
-MapOverlay::Content WidgetMap::overlayContent() const
+MapOverlay::Content WidgetMap::overlayContent()
 {
     MapOverlay::Content content;
     content.scale = MapTexts::scaleBar(kScaleLength * mRatio * mContext->metresPerPixel, mImperial);
     content.scalePixels = content.scale.metres / mContext->metresPerPixel;
     content.legend = mPath.empty() || mColoring.colors.empty() ? nullptr : &mColoring;
+    if (mNotice.hasReason()) {
+        content.notice = mNotice.update(mMap->hasTiles(), mMap->nrLoadingTiles() != 0);
+    }
     if (mMouse && !mContext->dragging) {
         addReadout(content);
     }

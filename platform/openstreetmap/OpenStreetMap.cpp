@@ -283,6 +283,13 @@ int OpenStreetMap::nrLoadingTiles() const
     return d->type == Tiles ? d->source.loading() + (d->shading ? d->shades.loading() : 0) : 0;
 }
 
+bool OpenStreetMap::hasTiles() const
+{
+    const std::vector<PlacedTile> placed = visibleTiles(d->projection);
+    return std::any_of(placed.begin(), placed.end(),
+                       [this](const PlacedTile& tile) { return d->painter.covers({tile}); });
+}
+
 void OpenStreetMap::setArrivedCallback(const std::function<void()>& callback)
 {
     QObject::disconnect(d->arrivedTile);

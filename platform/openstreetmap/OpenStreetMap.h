@@ -80,6 +80,8 @@ public:
     /// Tiles being read or fetched, shades being computed; while not 0, another render() shows
     /// more.
     [[nodiscard]] int nrLoadingTiles() const;
+    /// Whether some place of the window has a tile, or a part of a larger one in its stead.
+    [[nodiscard]] bool hasTiles() const;
     /// Called whenever something has arrived that the next render() would show.
     void setArrivedCallback(const std::function<void()>& callback);
     /// Called with the reason why there is no tile, and the address that was asked; also from

@@ -1,6 +1,7 @@
 #include "core/MapSettings.h"
 #include "core/Property.h"
 #include "profile/Profile.h"
+#include "tests/support/CapturedDiagnostics.h"
 #include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
 #include "views/MapColoring.h"
@@ -10,6 +11,7 @@
 #include "views/MapPath.h"
 #include "views/MapPathOutline.h"
 #include "views/MapTexts.h"
+#include "views/MapTileNotice.h"
 #include "views/MapTrack.h"
 
 #include <gtest/gtest.h>
@@ -20,6 +22,7 @@
 namespace VELIX {
 namespace {
 
+using Test::CapturedDiagnostics;
 using Test::ProfileBuilder;
 using Test::RecordBuilder;
 
@@ -266,6 +269,31 @@ TEST(MapColoringTest, LegendNamesTheValuesOfAnEnumeration)
     EXPECT_EQ(legend({2, 0, 2}), QStringLiteral("Off|In control"));
     EXPECT_EQ(legend({0, 7}), QStringLiteral("Off|7")) << "without a name";
     EXPECT_EQ(legend({2, 2}), QStringLiteral("In control|")) << "one value has one label";
+}
+
+TEST(MapTileNoticeTest, SaysWhyThereAreNoTilesOnceAllRequestsHaveFailed)
+{
+    CapturedDiagnostics lines;
+    MapTileNotice notice;
+    EXPECT_TRUE(notice.update(false, false).isEmpty()) << "nothing failed";
+    notice.fail("http://a/1/0/0.png", "HTTP status 403");
+    notice.fail("http://a/1/0/1.png", "HTTP status 403");
+    EXPECT_EQ(lines.text(), "no map tile from http://a/1/0/0.png: HTTP status 403\n");
+    const struct
+    {
+        const char* when;
+        bool inSight;
+        bool loading;
+        bool shown;
+    } rows[] = {{"others may come", false, true, false}, {"all failed", false, false, true},
+                {"tried again", false, true, true},      {"a tile came", true, true, false},
+                {"elsewhere", false, true, false},       {"failed there", false, false, true}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(!notice.update(row.inSight, row.loading).isEmpty(), row.shown) << row.when;
+    }
+    EXPECT_EQ(notice.update(false, false), QStringLiteral("No map tiles: HTTP status 403"));
+    notice.reset();
+    EXPECT_TRUE(notice.update(false, false).isEmpty()) << "another server";
 }
 
 TEST(MapTextsTest, WritesLengthsAndPlaces)

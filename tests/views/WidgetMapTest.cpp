@@ -365,6 +365,29 @@ TEST_F(WidgetMapTest, TilesArriveUnderAttributionAndPath)
     EXPECT_LT(first, 100);
 }
 
+TEST_F(WidgetMapTest, SaysAboveTheAttributionWhyThereAreNoTiles)
+{
+    load({{47.0, 8.0}, {47.1, 8.2}, {47.0, 8.4}});
+    show();
+    const auto letters = [this] {
+        const QImage image = map().grabFramebuffer();
+        int dark = 0;
+        for (int x = image.width() - 100; x < image.width(); ++x) {
+            for (int y = image.height() - 46; y < image.height() - 28; ++y) {
+                dark += qGray(image.pixel(x, y)) < 80 ? 1 : 0;
+            }
+        }
+        return dark;
+    };
+    EXPECT_LT(letters(), 30) << "no server, no failure";
+    CapturedDiagnostics lines;
+    settings.setString("TileServer", "ftp://tiles.example/");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return letters() > 100; }, 5000));
+    EXPECT_NE(lines.text().find("no map tile from ftp://tiles.example/"), std::string::npos);
+    settings.setString("TileServer", "");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return letters() < 30; }, 5000));
+}
+
 TEST_F(WidgetMapTest, ShowsValuesAtTheCursorAndSaysWhatIsMissing)
 {
     show();

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+
+#include <set>
+#include <string>
+
+namespace VELIX {
+
+/// Why the map has no tiles: a line for whoever looks for the cause, and a sentence for the map
+/// itself while none is in sight.
+class MapTileNotice
+{
+    Q_DECLARE_TR_FUNCTIONS(VELIX::MapTileNotice)
+
+public:
+    /// Takes a reason in English; each one is printed once.
+    void fail(const char* url, const char* reason);
+    /// Whether some tile failed.
+    [[nodiscard]] bool hasReason() const { return !mReason.isEmpty(); }
+    /// Another server: what was said of the last one is over.
+    void reset();
+    /// What the map says; empty: nothing. The first time not before all requests have failed.
+    QString update(bool tilesInSight, bool loading);
+
+private:
+    QString mReason; ///< the last one, in the language of the program
+    std::set<std::string> mPrinted;
+    bool mShown = false;
+};
+
+} // namespace VELIX
