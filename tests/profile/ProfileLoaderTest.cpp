@@ -62,7 +62,7 @@ TEST(ProfileLoader, ReadsEveryAttributeAndFillsInWhatIsLeftOut)
               "<ECU A/> <> <> <> id 0 byte 0 bits 0-0 *1 +0 digits 6 type 0 error 0 no label");
     EXPECT_EQ(device.parameters.at(501).errorType, 2);
     EXPECT_EQ(profile.getParameterFromVelixType(QStringLiteral("OilPressure")).id, 500);
-    EXPECT_EQ(profile.getParameterFromVelixType(QString()).startByte, 0);
+    EXPECT_EQ(profile.getParameterFromVelixType(QString()).fullName, QString());
     EXPECT_FALSE(oil.selected);
     const std::set<int> numbers = {device.uid, oil.uid, device.parameters.at(0).uid, oil.enumId,
                                    oil.thresholdId};
