@@ -448,18 +448,6 @@
         <source>Shade Terrain</source>
         <translation>Gelände schattieren</translation>
     </message>
-    <message>
-        <source>Show Values</source>
-        <translation>Werte zeigen</translation>
-    </message>
-    <message>
-        <source>Colour Path by</source>
-        <translation>Flugweg färben nach</translation>
-    </message>
-    <message>
-        <source>Altitude</source>
-        <translation>Höhe</translation>
-    </message>
 </context>
 <context>
     <name>VELIX::DialogDataStatistic</name>
@@ -620,6 +608,13 @@
     <message>
         <source>No record loaded. Open the folder of a data card and choose a cycle, a flight or a file.</source>
         <translation>Keine Aufzeichnung geladen. Ordner einer Datenkarte öffnen und einen Zyklus, einen Flug oder eine Datei auswählen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more ...</source>
+        <translation>
+            <numerusform>%n weiterer ...</numerusform>
+            <numerusform>%n weitere ...</numerusform>
+        </translation>
     </message>
     <message>
         <source>The profile binds no parameter to the panel.</source>
@@ -1727,6 +1722,29 @@ Soll sie ersetzt werden?</translation>
         <source>Altitude</source>
         <translation>Höhe</translation>
     </message>
+    <message>
+        <source>Limit</source>
+        <translation>Grenzwert</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::MapMenu</name>
+    <message>
+        <source>Show Values</source>
+        <translation>Werte zeigen</translation>
+    </message>
+    <message>
+        <source>Colour Path by</source>
+        <translation>Flugweg färben nach</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>Höhe</translation>
+    </message>
 </context>
 <context>
     <name>VELIX::MapSplitter</name>
@@ -1741,6 +1759,25 @@ Soll sie ersetzt werden?</translation>
     <message>
         <source>Tile Map Display Vertically</source>
         <translation>Landkarte untereinander anordnen</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::MapTileNotice</name>
+    <message>
+        <source>not an address of HTTP or HTTPS</source>
+        <translation>keine Adresse mit HTTP oder HTTPS</translation>
+    </message>
+    <message>
+        <source>no answer in time</source>
+        <translation>keine Antwort in angemessener Zeit</translation>
+    </message>
+    <message>
+        <source>not a picture of a tile</source>
+        <translation>kein Bild einer Kachel</translation>
+    </message>
+    <message>
+        <source>No map tiles: %1</source>
+        <translation>Keine Kartenkacheln: %1</translation>
     </message>
 </context>
 <context>
