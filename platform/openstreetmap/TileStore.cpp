@@ -91,6 +91,9 @@ std::vector<Stored> tilesIn(const QString& folder, const std::atomic<bool>* stop
     std::vector<Stored> tiles;
     for (const QString& zoom : numberedIn(folder)) {
         for (const QString& column : numberedIn(zoom)) {
+            if (isSet(stop)) {
+                return tiles;
+            }
             QDirIterator files(column, {QStringLiteral("*.png")}, QDir::Files | QDir::NoSymLinks);
             while (files.hasNext() && !isSet(stop)) {
                 files.next();
