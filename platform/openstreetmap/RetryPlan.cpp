@@ -7,6 +7,7 @@ namespace OpenStreet {
 
 namespace {
 
+constexpr double kLongestGranted = 3600.0;
 /// So many tiles are remembered; then all are tried anew.
 constexpr std::size_t kMostTiles = 20000;
 
@@ -25,22 +26,30 @@ void RetryPlan::extend(Pause& pause, double now) const
     ++pause.failures;
 }
 
-void RetryPlan::failed(const TileAddress& tile, Failure failure, double now)
+void RetryPlan::failed(const TileAddress& tile, Failure failure, double now, double pause)
 {
     if (mTiles.size() >= kMostTiles) {
         mTiles.clear();
     }
     extend(mTiles[tile], now);
     // Requests that ran side by side fail side by side: they count once.
-    if (failure == Failure::Server && now >= mServer.until) {
+    if (failure != Failure::Tile && now >= mServer.until) {
         extend(mServer, now);
+        mRefused = false;
+    }
+    if (failure == Failure::Refusal) {
+        mServer.until = std::max(mServer.until, now + std::min(pause, kLongestGranted));
+        mRefused = true;
     }
 }
 
-void RetryPlan::succeeded(const TileAddress& tile)
+void RetryPlan::succeeded(const TileAddress& tile, double now)
 {
     mTiles.erase(tile);
-    mServer = {};
+    // A request that was under way when another one was refused does not end the pause.
+    if (!mRefused || now >= mServer.until) {
+        mServer = {};
+    }
 }
 
 bool RetryPlan::mayAsk(const TileAddress& tile, double now) const

@@ -12,16 +12,18 @@ class RetryPlan
 {
 public:
     enum class Failure {
-        Tile,  ///< the server answered, but with no tile
-        Server ///< no answer
+        Tile,   ///< the server answered, but with no tile
+        Server, ///< no answer
+        Refusal ///< the server wants no requests for now
     };
 
     /// Seconds after the first failure; each one more doubles it, up to the longest.
     void setPauses(double first, double longest);
-    void failed(const TileAddress& tile, Failure failure, double now);
-    void succeeded(const TileAddress& tile);
+    /// @param pause that the server asked for after a refusal; an hour at most is granted
+    void failed(const TileAddress& tile, Failure failure, double now, double pause = 0.0);
+    void succeeded(const TileAddress& tile, double now);
     [[nodiscard]] bool mayAsk(const TileAddress& tile, double now) const;
-    /// Another server, or the user asks for another try.
+    /// For another server, or another try at once.
     void clear();
 
 private:
@@ -37,6 +39,7 @@ private:
     double mLongestPause = 300.0;
     std::map<TileAddress, Pause> mTiles;
     Pause mServer;
+    bool mRefused = false; ///< why the server is left alone
 };
 
 } // namespace OpenStreet

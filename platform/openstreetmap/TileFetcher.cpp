@@ -25,10 +25,27 @@ constexpr std::int64_t kShortestLifetime = 60;
 constexpr int kOk = 200;
 constexpr int kNotModified = 304;
 constexpr int kFirstError = 400;
+constexpr int kForbidden = 403;
+constexpr int kTooManyRequests = 429;
+constexpr int kUnavailable = 503;
 
 int statusOf(const QNetworkReply& reply)
 {
     return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+}
+
+RetryPlan::Failure failureOf(int status)
+{
+    switch (status) {
+    case 0:
+        return RetryPlan::Failure::Server;
+    case kForbidden:
+    case kTooManyRequests:
+    case kUnavailable:
+        return RetryPlan::Failure::Refusal;
+    default:
+        return RetryPlan::Failure::Tile;
+    }
 }
 
 QString reasonOf(const QNetworkReply& reply)
@@ -201,15 +218,16 @@ void TileFetcher::stop(const TileAddress& tile, const QNetworkReply& reply, cons
 
 void TileFetcher::succeed(const TileAddress& tile)
 {
-    mRetries.succeeded(tile);
+    mRetries.succeeded(tile, now());
     for (auto it = mTold.begin(); it != mTold.end();) {
-        it = it->second == RetryPlan::Failure::Server ? mTold.erase(it) : std::next(it);
+        it = it->second != RetryPlan::Failure::Tile ? mTold.erase(it) : std::next(it);
     }
 }
 
-void TileFetcher::fail(const TileAddress& tile, RetryPlan::Failure failure, const QString& reason)
+void TileFetcher::fail(const TileAddress& tile, RetryPlan::Failure failure, const QString& reason,
+                       double pause)
 {
-    mRetries.failed(tile, failure, now());
+    mRetries.failed(tile, failure, now(), pause);
     if (mTold.emplace(reason, failure).second) {
         const QUrl url = tileUrl(mServer, tile);
         emit failed(url.isValid() ? url.toString() : mServer, reason);
@@ -225,7 +243,9 @@ void TileFetcher::finish(const Request& request, QNetworkReply& reply)
     const std::int64_t seconds = QDateTime::currentSecsSinceEpoch();
     freshness.expires =
         std::max(seconds + kShortestLifetime,
-                 expiryOf(reply.rawHeader("Cache-Control"), reply.rawHeader("Expires"), seconds));
+                 expiryOf(reply.rawHeader("Cache-Control"), reply.rawHeader("Expires"),
+                          reply.rawHeader("Age"), seconds));
+    freshness.mayBeStored = mayBeStored(reply.rawHeader("Cache-Control"));
     freshness.entityTag = reply.rawHeader("ETag");
     freshness.lastModified = reply.rawHeader("Last-Modified");
     freshness.server = mServer.toUtf8();
@@ -246,8 +266,9 @@ void TileFetcher::finish(const Request& request, QNetworkReply& reply)
         emit fetched(request.tile, reply.read(kLargestTileBytes), freshness);
         return;
     }
-    fail(request.tile, status == 0 ? RetryPlan::Failure::Server : RetryPlan::Failure::Tile,
-         stopped.isEmpty() ? reasonOf(reply) : stopped);
+    // The header may also give a date, which stands for the usual pause here.
+    fail(request.tile, failureOf(status), stopped.isEmpty() ? reasonOf(reply) : stopped,
+         reply.rawHeader("Retry-After").trimmed().toDouble());
 }
 
 } // namespace OpenStreet

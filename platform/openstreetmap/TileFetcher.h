@@ -83,7 +83,8 @@ private:
     void stop(const TileAddress& tile, const QNetworkReply& reply, const QString& reason);
     void finish(const Request& request, QNetworkReply& reply);
     void succeed(const TileAddress& tile);
-    void fail(const TileAddress& tile, RetryPlan::Failure failure, const QString& reason);
+    void fail(const TileAddress& tile, RetryPlan::Failure failure, const QString& reason,
+              double pause = 0.0);
     void dropUnwanted(const std::set<TileAddress>& wanted);
     [[nodiscard]] double now() const { return static_cast<double>(mClock.elapsed()) / 1000.0; }
 

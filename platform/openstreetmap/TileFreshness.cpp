@@ -13,12 +13,26 @@ namespace {
 /// However long a server allows: maps change.
 constexpr std::int64_t kLongestLifetime = 365LL * 24 * 3600;
 
+QList<QByteArray> directivesOf(const QByteArray& cacheControl)
+{
+    QList<QByteArray> directives = cacheControl.toLower().split(',');
+    for (QByteArray& directive : directives) {
+        directive = directive.trimmed();
+    }
+    return directives;
+}
+
 } // namespace
 
-std::int64_t expiryOf(const QByteArray& cacheControl, const QByteArray& expires, std::int64_t now)
+bool mayBeStored(const QByteArray& cacheControl)
 {
-    for (const QByteArray& part : cacheControl.toLower().split(',')) {
-        const QByteArray directive = part.trimmed();
+    return !directivesOf(cacheControl).contains("no-store");
+}
+
+std::int64_t expiryOf(const QByteArray& cacheControl, const QByteArray& expires,
+                      const QByteArray& age, std::int64_t now)
+{
+    for (const QByteArray& directive : directivesOf(cacheControl)) {
         if (directive == "no-cache" || directive == "no-store") {
             return now;
         }
@@ -26,7 +40,10 @@ std::int64_t expiryOf(const QByteArray& cacheControl, const QByteArray& expires,
             bool valid = false;
             const qlonglong seconds = directive.mid(8).toLongLong(&valid);
             if (valid) {
-                return now + std::clamp<std::int64_t>(seconds, 0, kLongestLifetime);
+                // A cache on the way has had it for so long; 0 if that is no number.
+                const qlonglong old = std::max(age.trimmed().toLongLong(), 0LL);
+                const qlonglong lifetime = std::clamp<qlonglong>(seconds, 0, kLongestLifetime);
+                return now + std::max(lifetime - old, 0LL);
             }
         }
     }

@@ -196,7 +196,9 @@ void TileSource::takeFetched(const TileAddress& tile, const QByteArray& picture,
     mReaders.start([this, store = mStore, tile, picture, freshness] {
         const QImage image = decodeTile(picture);
         const auto written =
-            !image.isNull() && store->write(tile, {picture, freshness}) ? picture.size() : 0;
+            !image.isNull() && freshness.mayBeStored && store->write(tile, {picture, freshness})
+                ? picture.size()
+                : 0;
         QMetaObject::invokeMethod(
             this,
             [this, tile, image, freshness, written] {

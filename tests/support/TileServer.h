@@ -32,6 +32,7 @@ public:
         Endless,   ///< redirects to itself
         Error,     ///< 500
         NotFound,  ///< 404
+        Busy,      ///< 429, come again in an hour
         Unchanged, ///< 304, whatever was asked
         Html,      ///< 200 with a page
         Garbage,   ///< 200 with noise under the name of a picture
@@ -164,6 +165,8 @@ private:
             return send(socket, "500 Internal Server Error", "no");
         case Mode::NotFound:
             return send(socket, "404 Not Found", "no");
+        case Mode::Busy:
+            return send(socket, "429 Too Many Requests", "", {"Retry-After: 3600"});
         case Mode::Unchanged:
             return send(socket, "304 Not Modified", "");
         case Mode::Html:

@@ -201,6 +201,25 @@ TEST_F(TileSourceTest, AServerThatForbidsKeepingIsNotAskedWithEveryPicture)
     settle(mSource, {{4, 8, 5}});
     settle(mSource, {{4, 8, 5}});
     EXPECT_EQ(mServer.requests(), 1);
+    EXPECT_EQ(mPictures.count({4, 8, 5}), 1U);
+    EXPECT_FALSE(QFileInfo::exists(mDir.filePath(QStringLiteral("4/8/5.png"))));
+}
+
+TEST_F(TileSourceTest, AServerThatRefusesIsLeftAloneForAsLongAsItAsks)
+{
+    mSource.setPatience({15000, 30000, 0.01, 0.01});
+    mServer.setMode(TileServer::Mode::Busy);
+    const std::vector<TileAddress> tiles{{4, 1, 5}, {4, 2, 5}, {4, 3, 5}, {4, 4, 5}, {4, 5, 5}};
+    const auto askAgain = [&] {
+        mSource.want(tiles, {});
+        return mServer.requests() > 4;
+    };
+    EXPECT_FALSE(waitFor(askAgain, 300)) << "those that were under way";
+    EXPECT_EQ(mFailures, std::vector<std::string>{"HTTP status 429"});
+    mServer.setMode(TileServer::Mode::Tiles);
+    mSource.retry();
+    settle(mSource, tiles);
+    EXPECT_EQ(mPictures.size(), 5U);
 }
 
 TEST_F(TileSourceTest, WhatIsNoTileCostsAMissingTileAndALaterTry)

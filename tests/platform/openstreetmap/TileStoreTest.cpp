@@ -28,22 +28,28 @@ TEST(TileFreshnessTest, WhatServersSayOfAnAnswersAge)
     {
         const char* cacheControl;
         const char* expires;
+        const char* age;
         std::int64_t expected;
     } rows[] = {
-        {"", "", kNow + kDefaultLifetime},
-        {"max-age=60", "", kNow + 60},
-        {"public, Max-Age=60", "Mon, 12 Jan 1970 14:03:20 GMT", kNow + 60},
-        {"max-age=oops", "", kNow + kDefaultLifetime},
-        {"max-age=-5", "", kNow},
-        {"max-age=99999999999", "", kNow + 365LL * 24 * 3600},
-        {"no-cache, max-age=60", "", kNow},
-        {"", "Mon, 12 Jan 1970 14:03:20 GMT", kNow + 1000},
-        {"", "0", kNow},
+        {"", "", "", kNow + kDefaultLifetime},
+        {"max-age=60", "", "", kNow + 60},
+        {"max-age=60", "", "20", kNow + 40},
+        {"max-age=60", "", "70", kNow},
+        {"max-age=60", "", "-70", kNow + 60},
+        {"public, Max-Age=60", "Mon, 12 Jan 1970 14:03:20 GMT", "", kNow + 60},
+        {"max-age=oops", "", "", kNow + kDefaultLifetime},
+        {"max-age=-5", "", "", kNow},
+        {"max-age=99999999999", "", "", kNow + 365LL * 24 * 3600},
+        {"no-cache, max-age=60", "", "", kNow},
+        {"", "Mon, 12 Jan 1970 14:03:20 GMT", "5", kNow + 1000},
+        {"", "0", "", kNow},
     };
     for (const auto& row : rows) {
-        EXPECT_EQ(expiryOf(row.cacheControl, row.expires, kNow), row.expected)
-            << row.cacheControl << '|' << row.expires;
+        EXPECT_EQ(expiryOf(row.cacheControl, row.expires, row.age, kNow), row.expected)
+            << row.cacheControl << '|' << row.expires << '|' << row.age;
     }
+    EXPECT_FALSE(mayBeStored("max-age=60, No-Store"));
+    EXPECT_TRUE(mayBeStored("no-cache"));
 }
 
 TEST(RetryPlanTest, PausesGrowAndAServerWithoutAnswerPausesAllTiles)
@@ -66,8 +72,26 @@ TEST(RetryPlanTest, PausesGrowAndAServerWithoutAnswerPausesAllTiles)
     plan.failed(other, RetryPlan::Failure::Server, 400.0);
     EXPECT_FALSE(plan.mayAsk({5, 3, 3}, 401.0));
     EXPECT_TRUE(plan.mayAsk({5, 3, 3}, 402.0));
-    plan.succeeded(other);
+    plan.succeeded(other, 400.5);
     EXPECT_TRUE(plan.mayAsk(other, 400.5));
+}
+
+TEST(RetryPlanTest, AServerThatWantsNoRequestsIsLeftAloneForAsLongAsItAsksWithinBounds)
+{
+    RetryPlan plan;
+    const TileAddress tile{1, 0, 0};
+    const TileAddress other{1, 1, 1};
+    plan.failed(tile, RetryPlan::Failure::Refusal, 0.0, 60.0);
+    plan.failed(other, RetryPlan::Failure::Refusal, 0.1, 0.0);
+    plan.succeeded({1, 1, 0}, 1.0); // was under way already
+    EXPECT_FALSE(plan.mayAsk({1, 0, 1}, 59.0));
+    EXPECT_TRUE(plan.mayAsk({1, 0, 1}, 60.1));
+    plan.failed(tile, RetryPlan::Failure::Refusal, 100.0, 1e9);
+    EXPECT_TRUE(plan.mayAsk(tile, 100.0 + 3601.0)) << "not for days";
+    plan.failed(tile, RetryPlan::Failure::Refusal, 9000.0, -5.0);
+    EXPECT_FALSE(plan.mayAsk(other, 9001.0)) << "the usual pause";
+    plan.clear();
+    EXPECT_TRUE(plan.mayAsk(tile, 9001.0));
 }
 
 class TileStoreTest : public ::testing::Test
