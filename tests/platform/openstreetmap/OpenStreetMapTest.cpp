@@ -89,6 +89,19 @@ protected:
         return render();
     }
 
+    /// Of any kind, by their names, which are given out from 1 on.
+    int glObjects()
+    {
+        constexpr GLuint kMost = 3000;
+        QOpenGLFunctions& gl = *mContext.functions();
+        int count = 0;
+        for (GLuint name = 1; name < kMost; ++name) {
+            count += gl.glIsTexture(name) + gl.glIsBuffer(name) + gl.glIsProgram(name) +
+                     gl.glIsShader(name) + gl.glIsFramebuffer(name) + gl.glIsRenderbuffer(name);
+        }
+        return count;
+    }
+
     QTemporaryDir mDir;
     TileServer mServer;
     QOffscreenSurface mSurface;
@@ -226,8 +239,21 @@ TEST_F(OpenStreetMapTest, WindowAndPlaceAgreeAlsoForAnotherView)
 
 TEST_F(OpenStreetMapTest, WhatWasGivenBackIsMadeAgain)
 {
+    writeTerrain(mDir.filePath(QStringLiteral("N48E012.hgt")), 1201,
+                 [](double x, double) { return static_cast<int>(9000.0 * x); });
+    lookAt(12, 548.5 * 4, 354.5 * 4);
+    mMap->setWindowSize(kWidth / 4, kHeight / 4); // one tile is enough
+    mMap->setTerrainPath(mDir.path().toUtf8().constData());
+    mMap->setShading(true);
+    mMap->setLabelFont(nullptr, 0, 12);
+    const int others = glObjects();
     const QImage before = settled();
+    EXPECT_GT(glObjects(), others + 5);
+    mMap->setShadingContrast(2.0);
+    EXPECT_NE(settled(), before);
     mMap->releaseGl();
+    EXPECT_EQ(glObjects(), others);
+    mMap->setShadingContrast(1.0);
     EXPECT_EQ(settled(), before);
     EXPECT_EQ(mServer.requests(),
               QSet<QByteArray>(mServer.paths().begin(), mServer.paths().end()).size())
@@ -235,6 +261,8 @@ TEST_F(OpenStreetMapTest, WhatWasGivenBackIsMadeAgain)
     mMap->setMapType(OpenStreet::Outline);
     EXPECT_NE(render(), before);
     EXPECT_EQ(mMap->nrLoadingTiles(), 0);
+    mMap.reset();
+    EXPECT_EQ(glObjects(), others);
 }
 
 } // namespace
