@@ -154,6 +154,7 @@ void DialogDataView::loadView()
                     [this](const ViewParameter& shown) { return mView->knows(shown.viewId); });
     if (!isRead || !isKnown) {
         mView->loadText(generatedPanel(mProfile, mParameters));
+        reportErrors("generated panel");
     }
     const QColor ground = QColor::fromRgba(mView->background());
     mBackground = {static_cast<float>(ground.redF()), static_cast<float>(ground.greenF()),

@@ -20,6 +20,14 @@ constexpr int kFieldWidth = 216;
 constexpr int kFieldHeight = 44;
 constexpr int kGap = 16;
 constexpr int kMostDecimals = 6;
+// More fields than a screen can show at a size that can be read would help nobody.
+constexpr int kMostFields = 150;
+// Characters, and labels of all fields together: far from where the view's text would end.
+constexpr int kLongestId = 100;
+constexpr int kLongestName = 60;
+constexpr int kLongestUnit = 12;
+constexpr int kLongestLabel = 40;
+constexpr int kMostLabels = 2000;
 // Width divided by height, without and with the map beside the panel.
 constexpr double kWideRoom = 1.4;
 constexpr double kTallRoom = 0.55;
@@ -34,7 +42,19 @@ QString quoted(const QString& text)
         }
         out += c.isPrint() ? c : QLatin1Char(' ');
     }
-    return out.left(200) + QLatin1Char('"');
+    return out + QLatin1Char('"');
+}
+
+QString quoted(const QString& text, int most)
+{
+    return quoted(text.size() <= most ? text : text.left(most - 1) + QChar(0x2026));
+}
+
+/// Whether a view description can name the variable.
+bool canName(const QString& id)
+{
+    return id.size() <= kLongestId &&
+           std::all_of(id.begin(), id.end(), [](QChar c) { return c.isPrint(); });
 }
 
 /// Decimals that tell the steps of an integer type apart, or those that the profile prescribes.
@@ -55,19 +75,25 @@ void writeScales(QTextStream& out, const ProfileParameter& p)
     for (const bool isImperial : {false, true}) {
         const QString& unit = isImperial && p.hasConversion ? p.unitImperial : p.unitMetric;
         out << "    scale if=\"UNIT " << (isImperial ? "=" : "!=")
-            << " 1\" decimals=" << decimalsOf(p, isImperial) << " unit=" << quoted(unit) << "\n";
+            << " 1\" decimals=" << decimalsOf(p, isImperial)
+            << " unit=" << quoted(unit, kLongestUnit) << "\n";
     }
 }
 
-void writeCases(QTextStream& out, const ProfileEnum* labels, const QString& variable)
+/// \param left labels that may still be written; a value without one is shown as a number
+void writeCases(QTextStream& out, const ProfileEnum* labels, const QString& variable, int& left)
 {
     static const QRegularExpression plainName(QStringLiteral("^\\w+$"));
     if (labels == nullptr || !plainName.match(variable).hasMatch()) {
         return; // a condition could not name it
     }
     for (const auto& [value, label] : labels->values) {
-        out << "    case if=\"" << variable << " = " << value << "\" text=" << quoted(label.label)
-            << "\n";
+        if (left == 0) {
+            return;
+        }
+        --left;
+        out << "    case if=\"" << variable << " = " << value
+            << "\" text=" << quoted(label.label, kLongestLabel) << "\n";
     }
 }
 
@@ -106,18 +132,28 @@ struct Grid
     static QString pair(int a, int b) { return QStringLiteral("%1,%2").arg(a).arg(b); }
 };
 
-void writeField(QTextStream& out, const Profile& profile, const ViewParameter& field)
+void writeField(QTextStream& out, const Profile& profile, const ViewParameter& field,
+                int& labelsLeft)
 {
     const ProfileParameter& p = field.parameter;
     const QString variable = QString::fromStdString(field.viewId);
     out << "label at=0,17 size=11 color=muted width=" << kFieldWidth
-        << " text=" << quoted(p.fullName) << "\n"
-        << "value var=" << quoted(variable) << " at=150,38 size=18 align=right bold=yes {\n"
-        << "    unit at=156,38 size=11\n";
+        << " text=" << quoted(p.fullName, kLongestName) << "\n"
+        << "value var=" << quoted(variable)
+        << " at=150,38 size=18 align=right bold=yes width=150 {\n"
+        << "    unit at=156,38 size=11 width=60\n";
     writeScales(out, p);
-    writeCases(out, profile.enumeration(p), variable);
+    writeCases(out, profile.enumeration(p), variable, labelsLeft);
     out << "}\n"
         << "line from=0," << kFieldHeight << " to=" << kFieldWidth << "," << kFieldHeight << "\n";
+}
+
+void writeRest(QTextStream& out, int count)
+{
+    out << "label at=0,38 size=14 color=muted width=" << kFieldWidth << " text="
+        << quoted(
+               QCoreApplication::translate("VELIX::DialogDataView", "%n more ...", nullptr, count))
+        << "\n";
 }
 
 std::string panelWithoutFields()
@@ -158,15 +194,27 @@ std::string generatedPanel(const Profile& profile, const std::vector<ViewParamet
     if (parameters.empty()) {
         return panelWithoutFields();
     }
-    const int count = static_cast<int>(parameters.size());
-    const Grid wide = Grid::of(count, kWideRoom);
-    const Grid tall = Grid::of(count, kTallRoom);
+    std::vector<const ViewParameter*> fields;
+    for (const ViewParameter& p : parameters) {
+        if (fields.size() < kMostFields && canName(p.parameter.viewId)) {
+            fields.push_back(&p);
+        }
+    }
+    const int rest = static_cast<int>(parameters.size() - fields.size());
+    const int cells = static_cast<int>(fields.size()) + (rest > 0 ? 1 : 0);
+    const Grid wide = Grid::of(cells, kWideRoom);
+    const Grid tall = Grid::of(cells, kTallRoom);
+    int labelsLeft = kMostLabels;
     QString text;
     QTextStream out(&text);
     out << "view size=" << wide.size() << " tall=" << tall.size() << "\n";
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < cells; ++i) {
         out << "group at=" << wide.place(i) << " tall=" << tall.place(i) << " {\n";
-        writeField(out, profile, parameters[static_cast<std::size_t>(i)]);
+        if (const auto field = static_cast<std::size_t>(i); field < fields.size()) {
+            writeField(out, profile, *fields[field], labelsLeft);
+        } else {
+            writeRest(out, rest);
+        }
         out << "}\n";
     }
     out.flush();

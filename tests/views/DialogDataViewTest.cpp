@@ -212,6 +212,43 @@ TEST_F(DialogDataViewTest, UnknownParametersGetAPanelOfTheirOwn)
     EXPECT_NE(picture(), warning); // it is drawn, and follows
 }
 
+TEST_F(DialogDataViewTest, ManyParametersWithLongTextsGetAPanelAllTheSame)
+{
+    const std::string label(500, '"');
+    ProfileBuilder builder;
+    builder.enumeration("E", {{0, label.c_str()}});
+    builder.device("D").parameter(1, QStringLiteral("P"), "UCHAR").set("enumId", "E");
+    QString xml = builder.xml();
+    const QString value = xml.mid(xml.indexOf(QLatin1String("<Value")));
+    const QString line = value.left(value.indexOf(QLatin1String("/>")) + 2);
+    for (int number = 1; number < 300; ++number) {
+        const QString next = QStringLiteral("val=\"%1\"").arg(number);
+        xml.insert(xml.indexOf(line), QString(line).replace(QLatin1String("val=\"0\""), next));
+    }
+    ASSERT_TRUE(ProfileBuilder::loadText(profile, xml));
+    const ProfileParameter known = profile.data().devices.front().parameters.begin()->second;
+    ASSERT_EQ(profile.enumeration(known)->values.size(), 300U);
+    std::vector<ViewParameter> parameters(6000);
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
+        const QString id = i == 0 ? QString(5000, QLatin1Char('x')) : QStringLiteral("P%1").arg(i);
+        parameters[i].viewId = id.toStdString();
+        ProfileParameter& p = parameters[i].parameter;
+        p.viewId = id;
+        p.fullName = QString(5000, QLatin1Char('"'));
+        p.unitMetric = p.fullName;
+        p.enumId = known.enumId;
+    }
+    Vista2D::VistaView panel;
+    const std::string text = generatedPanel(profile, parameters);
+    panel.loadText(text);
+    EXPECT_TRUE(panel.errors().empty()) << panel.errors().front().message;
+    EXPECT_TRUE(panel.knows("P1") && panel.knows("P150"));
+    EXPECT_FALSE(panel.knows(parameters[0].viewId) || panel.knows("P151"));
+    EXPECT_NE(text.find("\"5850 more ...\""), std::string::npos);
+    parameters.resize(2);
+    EXPECT_NE(generatedPanel(profile, parameters).find("\"1 more ...\""), std::string::npos);
+}
+
 TEST_F(DialogDataViewTest, ABrokenOrMissingFileCostsThePictureOnly)
 {
     for (const QByteArray& text : {QByteArray("view size=1,\n}}{\0\xff bar", 20), QByteArray()}) {
