@@ -28,9 +28,10 @@ constexpr int kLongestName = 60;
 constexpr int kLongestUnit = 12;
 constexpr int kLongestLabel = 40;
 constexpr int kMostLabels = 2000;
-// Width divided by height, without and with the map beside the panel.
+// Width divided by height: without the map, with the map beside the panel, and below it.
 constexpr double kWideRoom = 1.4;
 constexpr double kTallRoom = 0.55;
+constexpr double kLowRoom = 2.5;
 
 /// A text as a view description writes it.
 QString quoted(const QString& text)
@@ -204,12 +205,14 @@ std::string generatedPanel(const Profile& profile, const std::vector<ViewParamet
     const int cells = static_cast<int>(fields.size()) + (rest > 0 ? 1 : 0);
     const Grid wide = Grid::of(cells, kWideRoom);
     const Grid tall = Grid::of(cells, kTallRoom);
+    const Grid low = Grid::of(cells, kLowRoom);
     int labelsLeft = kMostLabels;
     QString text;
     QTextStream out(&text);
-    out << "view size=" << wide.size() << " tall=" << tall.size() << "\n";
+    out << "view size=" << wide.size() << " tall=" << tall.size() << " low=" << low.size() << "\n";
     for (int i = 0; i < cells; ++i) {
-        out << "group at=" << wide.place(i) << " tall=" << tall.place(i) << " {\n";
+        out << "group at=" << wide.place(i) << " tall=" << tall.place(i) << " low=" << low.place(i)
+            << " {\n";
         if (const auto field = static_cast<std::size_t>(i); field < fields.size()) {
             writeField(out, profile, *fields[field], labelsLeft);
         } else {

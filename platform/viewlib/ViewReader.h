@@ -30,15 +30,18 @@ public:
     static constexpr std::size_t kMostDetails = 10000;
     static constexpr int kLongestText = 200; ///< characters
 
-    enum class Layout { Wide, Tall };
+    enum class Layout { Wide, Tall, Low };
 
     explicit ViewReader(ViewVariables& variables, Layout layout = Layout::Wide);
 
     /// To be called once.
     void read(const QByteArray& text);
 
-    /// Whether the description has a layout for rooms that are higher than wide.
-    [[nodiscard]] bool hasTallLayout() const { return mHasTall; }
+    /// Whether the description has a layout; all have the wide one.
+    [[nodiscard]] bool hasLayout(Layout layout) const
+    {
+        return layout == Layout::Wide || (layout == Layout::Tall ? mHasTall : mHasLow);
+    }
     [[nodiscard]] ViewModel& model() { return mModel; }
     [[nodiscard]] const std::vector<ViewError>& errors() const { return mErrors.list(); }
 
@@ -72,6 +75,7 @@ private:
 
     // --- what the file itself and groups hold
     void readView(ViewStatement& statement, ViewAttributes& attributes);
+    bool readSize(ViewAttributes& attributes, const char* name, Layout layout);
     void readColors(ViewStatement& statement, ViewAttributes& attributes);
     void readScales(ViewStatement& statement, ViewAttributes& attributes);
     void readGroup(ViewStatement& statement, ViewAttributes& attributes);
@@ -114,6 +118,7 @@ private:
     ViewVariables& mVariables;
     Layout mLayout;
     bool mHasTall = false;
+    bool mHasLow = false;
     ViewModel mModel;
     ViewErrors mErrors;
     ViewAttributes::ColorNames mColors;

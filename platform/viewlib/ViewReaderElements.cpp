@@ -35,16 +35,21 @@ void ViewReader::add(const ViewStatement& statement, ViewAttributes& attributes,
     }
 }
 
-void ViewReader::readView(ViewStatement&, ViewAttributes& attributes)
+bool ViewReader::readSize(ViewAttributes& attributes, const char* name, Layout layout)
 {
     QPointF size;
-    if (attributes.require(attributes.pair("size", size, 1.0, 10000.0), "size")) {
+    const bool isGiven = attributes.pair(name, size, 1.0, 10000.0);
+    if (isGiven && (layout == Layout::Wide || layout == mLayout)) {
         mModel.size = QSizeF(size.x(), size.y());
     }
-    mHasTall = attributes.pair("tall", size, 1.0, 10000.0);
-    if (mHasTall && mLayout == Layout::Tall) {
-        mModel.size = QSizeF(size.x(), size.y());
-    }
+    return isGiven;
+}
+
+void ViewReader::readView(ViewStatement&, ViewAttributes& attributes)
+{
+    attributes.require(readSize(attributes, "size", Layout::Wide), "size");
+    mHasTall = readSize(attributes, "tall", Layout::Tall);
+    mHasLow = readSize(attributes, "low", Layout::Low);
     attributes.color("background", mModel.colors.background);
     mColors[QStringLiteral("background")] = mModel.colors.background;
 }
@@ -96,10 +101,13 @@ void ViewReader::readGroup(ViewStatement& statement, ViewAttributes& attributes)
     condition(attributes, inside.conditions);
     QPointF shift;
     attributes.pair("at", shift, -kFarthest, kFarthest);
-    QPointF tallShift = shift;
-    attributes.pair("tall", tallShift, -kFarthest, kFarthest);
-    shift = mLayout == Layout::Tall ? tallShift : shift;
-    inside.origin = block().origin + shift;
+    QPointF tall = shift;
+    QPointF low = shift;
+    attributes.pair("tall", tall, -kFarthest, kFarthest);
+    attributes.pair("low", low, -kFarthest, kFarthest);
+    inside.origin = block().origin + (mLayout == Layout::Tall  ? tall
+                                      : mLayout == Layout::Low ? low
+                                                               : shift);
     if (statement.opensBlock()) {
         open(statement, std::move(inside));
     }

@@ -13,27 +13,30 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 namespace Vista2D {
+
+using Layout = ViewReader::Layout;
 
 struct VistaView::Parts
 {
     ViewVariables variables;
-    ViewModel wide;
-    ViewModel tall; ///< without a size if there is none
-    bool isTall = false;
+    std::map<Layout, ViewModel> layouts = {{Layout::Wide, {}}}; ///< those that there are
+    Layout layout = Layout::Wide;
     std::vector<ViewError> errors;
     ViewCanvas canvas;
     bool isRunning = false;
     bool hasGround = true;
     bool isChanged = true; ///< by something else than a variable
 
-    [[nodiscard]] const ViewModel& model() const { return isTall ? tall : wide; }
-    void lay(bool asTall)
+    [[nodiscard]] const ViewModel& model() const { return layouts.at(layout); }
+    void lay(Layout wanted)
     {
-        isTall = asTall && !tall.size.isEmpty();
+        layout = layouts.count(wanted) > 0 ? wanted : Layout::Wide;
         canvas.forget();
-        variables.set(variables.slot("TALL"), isTall ? 1.0 : 0.0);
+        variables.set(variables.slot("TALL"), layout == Layout::Tall ? 1.0 : 0.0);
+        variables.set(variables.slot("LOW"), layout == Layout::Low ? 1.0 : 0.0);
     }
 };
 
@@ -97,15 +100,17 @@ void VistaView::loadText(const std::string& text)
     const QByteArray bytes = QByteArray::fromStdString(text);
     ViewReader reader(mParts->variables);
     reader.read(bytes);
-    mParts->wide = std::move(reader.model());
     mParts->errors = reader.errors();
-    mParts->tall = ViewModel();
-    if (reader.hasTallLayout()) {
-        ViewReader again(mParts->variables, ViewReader::Layout::Tall);
-        again.read(bytes);
-        mParts->tall = std::move(again.model());
+    mParts->layouts.clear();
+    mParts->layouts[Layout::Wide] = std::move(reader.model());
+    for (const Layout further : {Layout::Tall, Layout::Low}) {
+        if (reader.hasLayout(further)) {
+            ViewReader again(mParts->variables, further);
+            again.read(bytes);
+            mParts->layouts[further] = std::move(again.model());
+        }
     }
-    mParts->lay(mParts->isTall);
+    mParts->lay(mParts->layout);
 }
 
 const std::vector<ViewError>& VistaView::errors() const
@@ -153,9 +158,11 @@ void VistaView::setRoom(double width, double height)
                    ? 0.0
                    : std::min(width / model.size.width(), height / model.size.height());
     };
-    const bool isTall = scale(mParts->tall) > scale(mParts->wide);
-    if (isTall != mParts->isTall) {
-        mParts->lay(isTall);
+    const auto best = std::max_element(
+        mParts->layouts.begin(), mParts->layouts.end(),
+        [&](const auto& a, const auto& b) { return scale(a.second) < scale(b.second); });
+    if (best->first != mParts->layout) {
+        mParts->lay(best->first);
     }
 }
 

@@ -52,7 +52,8 @@ public:
     void setVar(const char* name, long value);
 
     /// Tells the panel how much room there is, in any unit: of its layouts, if the description has
-    /// two, it takes the one that is larger there, and sets the variable TALL to 0 or 1.
+    /// several, it takes the one that is largest there, and sets the variables TALL and LOW to 0
+    /// or 1.
     void setRoom(double width, double height);
     /// In view units, of the layout in use; 0 before a description was loaded.
     [[nodiscard]] double width() const;

@@ -1,12 +1,13 @@
 # The engine display of the demo profile; docs/view-file.md tells how such files are written.
 #
-# The second layout, tall, is for a window that the map leaves little width to.
+# There are three layouts, each with a block of its own below: wide, tall for the map beside the
+# panel, and low for the map below. Texts are large for their size, since panes are small as a rule.
 #
 # Variables are the profile's viewIds. Their values come in the unit system in use, so that every
 # scale is there twice: UNIT 0 is metric, 1 imperial. VARIANT is the number of the aircraft variant:
 # 1 standard, 2 tow, 3 trainer. Bands repeat the thresholds of the profile.
 
-view size=700,500 tall=464,798 background=#0b0f14
+view size=700,456 tall=330,604 low=700,277 background=#0b0f14
 colors steel=#8ea6bf cold=#3d6f9e green=#2f9e68 amber=#e59a1c red=#e0463c
 
 # --- scales
@@ -129,233 +130,624 @@ scales name=PERCENT {
     scale from=0 to=100 unit=%
 }
 
-# --- head: lanes and hours
+# --- wide
 
-group at=16,0 {
-    label at=0,27 size=11 color=muted text="LANE A"
-    lamp var=LANE_MODE_A at=50,12 size=112,22 textsize=10.5 text="NO DATA" {
+group if="TALL = 0 and LOW = 0" {
+    line from=16,40 to=684,40
+    line from=16,244 to=684,244
+    line from=16,398 to=684,398
+    # lanes and hours
+    label at=16,25 size=13 color=muted text="LANE A"
+    lamp var=LANE_MODE_A at=66,8 size=112,24 textsize=12.5 text="NO DATA" {
         case if="LANE_MODE_A = 2" text="IN CONTROL" color=green
         case if="LANE_MODE_A = 3" text="STANDBY"
         case if="LANE_MODE_A = 1" text="SELF TEST" color=cold
         case if="LANE_MODE_A = 6" text="OFF" color=amber
     }
-    label at=178,27 size=11 color=muted text="LANE B"
-    lamp var=LANE_MODE_B at=228,12 size=112,22 textsize=10.5 text="NO DATA" {
+    label at=196,25 size=13 color=muted text="LANE B"
+    lamp var=LANE_MODE_B at=246,8 size=112,24 textsize=12.5 text="NO DATA" {
         case if="LANE_MODE_B = 2" text="IN CONTROL" color=green
         case if="LANE_MODE_B = 3" text="STANDBY"
         case if="LANE_MODE_B = 1" text="SELF TEST" color=cold
         case if="LANE_MODE_B = 6" text="OFF" color=amber
     }
-}
-group at=684,0 tall=448,34 {
-    label at=-78,27 size=11 align=right color=muted text="HOURS"
-    value var=RUNNING_TIME at=-12,27 size=16 align=right {
+    group at=376,8 if="VARIANT = 2 or VARIANT = 3" {
+        lamp var=TOW_HOOK at=0,0 size=104,24 textsize=12.5 text="HOOK OPEN" {
+            case if="TOW_HOOK = 1 and VARIANT = 2" text="ROPE" color=green
+            case if="TOW_HOOK = 1 and VARIANT = 3" text="BANNER" color=green
+        }
+    }
+    label at=552,26 size=13 color=muted text="HOURS"
+    value var=RUNNING_TIME at=670,26 size=19 align=right {
         scale factor=0.000277777778 decimals=1 unit=h
-        unit at=-8,27 size=11
+        unit at=674,26 size=14
     }
-}
-group at=372,0 tall=66,34 if="VARIANT = 2 or VARIANT = 3" {
-    label at=-50,27 size=11 color=muted text="HOOK" if="TALL = 1"
-    lamp var=TOW_HOOK at=0,12 size=112,22 textsize=10.5 text="HOOK OPEN" {
-        case if="TOW_HOOK = 1 and VARIANT = 2" text="ROPE" color=green
-        case if="TOW_HOOK = 1 and VARIANT = 3" text="BANNER" color=green
+    # dials
+    group at=118,147 {
+        gauge var=ENGINE_SPEED scales=RPM at=0,0 radius=98 width=5 color=steel fill=9 tick=7 ticktext=14 needle=73,100 needlewidth=5 {
+            number at=0,9 size=36 align=center bold=yes
+            unit at=0,29 size=14 align=center
+        }
+        label at=0,72 size=14 align=center text="ENGINE"
+        label at=0,87 size=12 align=center color=muted text="rpm × 1000"
     }
-}
-line from=16,46 to=684,46 if="TALL = 0"
-line from=16,78 to=448,78 if="TALL = 1"
-
-# --- dials
-
-group at=122,160 tall=122,194 {
-    gauge var=ENGINE_SPEED scales=RPM at=0,0 radius=104 width=5 color=steel fill=9 tick=7 ticktext=13 needle=70,106 needlewidth=5 {
-        number at=0,8 size=34 align=center bold=yes
-        unit at=0,26 size=12 align=center
+    group at=338,147 {
+        gauge var=MANIFOLD scales=MANIFOLD at=0,0 radius=98 width=5 color=steel fill=9 tick=7 ticktext=14 needle=73,100 needlewidth=5 {
+            number at=0,9 size=36 align=center bold=yes
+            unit at=0,29 size=14 align=center
+        }
+        label at=0,72 size=14 align=center text="MANIFOLD"
+        label at=0,87 size=12 align=center color=muted text="hPa × 100" if="UNIT = 0"
     }
-    label at=0,75 size=13 align=center text="ENGINE"
-    label at=0,90 size=10 align=center color=muted text="rpm × 1000"
-}
-group at=344,160 tall=342,194 {
-    gauge var=MANIFOLD scales=MANIFOLD at=0,0 radius=104 width=5 color=steel fill=9 tick=7 ticktext=13 needle=70,106 needlewidth=5 {
-        number at=0,8 size=34 align=center bold=yes
-        unit at=0,26 size=12 align=center
+    # oil, coolant, fuel pressure
+    group at=476,44 {
+        label at=0,19 size=14 color=muted text="OIL TEMP"
+        bar var=OIL_TEMP scales=OIL_TEMP color=steel at=0,25 size=208,9 ticks=none {
+            number at=170,19 size=23 align=right bold=yes
+            unit at=175,19 size=14
+        }
     }
-    label at=0,75 size=13 align=center text="MANIFOLD"
-    label at=0,90 size=10 align=center color=muted text="hPa × 100" if="UNIT = 0"
-}
-
-# --- oil, coolant, fuel pressure
-
-group at=476,62 tall=16,474 {
-    label at=0,12 size=11 color=muted text="OIL TEMP"
-    bar var=OIL_TEMP scales=OIL_TEMP color=steel at=0,20 size=208,8 ticks=none {
-        number at=176,13 size=18 align=right bold=yes
-        unit at=181,13 size=11
+    group at=476,94 {
+        label at=0,19 size=14 color=muted text="OIL PRESS"
+        bar var=OIL_PRESSURE scales=OIL_PRESSURE color=steel at=0,25 size=208,9 ticks=none {
+            number at=170,19 size=23 align=right bold=yes
+            unit at=175,19 size=14
+        }
     }
-}
-group at=476,110 tall=16,522 {
-    label at=0,12 size=11 color=muted text="OIL PRESS"
-    bar var=OIL_PRESSURE scales=OIL_PRESSURE color=steel at=0,20 size=208,8 ticks=none {
-        number at=176,13 size=18 align=right bold=yes
-        unit at=181,13 size=11
+    group at=476,144 {
+        label at=0,19 size=14 color=muted text="COOLANT"
+        bar var=COOLANT_TEMP scales=COOLANT color=steel at=0,25 size=208,9 ticks=none {
+            number at=170,19 size=23 align=right bold=yes
+            unit at=175,19 size=14
+        }
     }
-}
-group at=476,158 tall=16,570 {
-    label at=0,12 size=11 color=muted text="COOLANT"
-    bar var=COOLANT_TEMP scales=COOLANT color=steel at=0,20 size=208,8 ticks=none {
-        number at=176,13 size=18 align=right bold=yes
-        unit at=181,13 size=11
+    group at=476,194 {
+        label at=0,19 size=14 color=muted text="FUEL PRESS"
+        bar var=FUEL_PRESSURE scales=FUEL_PRESSURE color=steel at=0,25 size=208,9 ticks=none {
+            number at=170,19 size=23 align=right bold=yes
+            unit at=175,19 size=14
+        }
     }
-}
-group at=476,206 tall=16,618 {
-    label at=0,12 size=11 color=muted text="FUEL PRESS"
-    bar var=FUEL_PRESSURE scales=FUEL_PRESSURE color=steel at=0,20 size=208,8 ticks=none {
-        number at=176,13 size=18 align=right bold=yes
-        unit at=181,13 size=11
+    # cylinder heads and exhaust
+    group at=16,244 {
+        label at=0,19 size=13 color=muted text="CYLINDER HEAD"
+        label at=204,19 size=13 align=right color=muted text="°C" if="UNIT = 0"
+        label at=204,19 size=13 align=right color=muted text="°F" if="UNIT = 1"
+        bar var=HEAD_1 scales=HEAD direction=up ticks=after color=steel at=18,44 size=16,88 {
+            number at=26,39 size=16 align=center bold=yes
+        }
+        label at=26,147 size=13 align=center color=muted text=1
+        bar var=HEAD_2 scales=HEAD direction=up ticks=after color=steel at=68.5,44 size=16,88 {
+            number at=76.5,39 size=16 align=center bold=yes
+        }
+        label at=76.5,147 size=13 align=center color=muted text=2
+        bar var=HEAD_3 scales=HEAD direction=up ticks=after color=steel at=119,44 size=16,88 {
+            number at=127,39 size=16 align=center bold=yes
+        }
+        label at=127,147 size=13 align=center color=muted text=3
+        bar var=HEAD_4 scales=HEAD direction=up ticks=after color=steel at=169.5,44 size=16,88 {
+            number at=177.5,39 size=16 align=center bold=yes
+        }
+        label at=177.5,147 size=13 align=center color=muted text=4
     }
-}
-line from=16,262 to=684,262 if="TALL = 0"
-line from=16,296 to=448,296 if="TALL = 1"
-line from=16,462 to=448,462 if="TALL = 1"
-
-# --- cylinder heads and exhaust
-
-group at=16,262 tall=16,296 {
-    label at=0,22 size=11 color=muted text="CYLINDER HEAD"
-    label at=204,22 size=11 align=right color=muted text="°C" if="UNIT = 0"
-    label at=204,22 size=11 align=right color=muted text="°F" if="UNIT = 1"
-    bar var=HEAD_1 scales=HEAD direction=up ticks=after color=steel at=14,52 size=16,88 {
-        number at=24,46 size=14 align=center bold=yes
+    group at=240,244 {
+        label at=0,19 size=13 color=muted text="EXHAUST"
+        label at=204,19 size=13 align=right color=muted text="°C" if="UNIT = 0"
+        label at=204,19 size=13 align=right color=muted text="°F" if="UNIT = 1"
+        bar var=EXHAUST_1 scales=EXHAUST direction=up ticks=after color=steel at=18,44 size=16,88 {
+            number at=26,39 size=16 align=center bold=yes
+        }
+        label at=26,147 size=13 align=center color=muted text=1
+        bar var=EXHAUST_2 scales=EXHAUST direction=up ticks=after color=steel at=68.5,44 size=16,88 {
+            number at=76.5,39 size=16 align=center bold=yes
+        }
+        label at=76.5,147 size=13 align=center color=muted text=2
+        bar var=EXHAUST_3 scales=EXHAUST direction=up ticks=after color=steel at=119,44 size=16,88 {
+            number at=127,39 size=16 align=center bold=yes
+        }
+        label at=127,147 size=13 align=center color=muted text=3
+        bar var=EXHAUST_4 scales=EXHAUST direction=up ticks=after color=steel at=169.5,44 size=16,88 {
+            number at=177.5,39 size=16 align=center bold=yes
+        }
+        label at=177.5,147 size=13 align=center color=muted text=4
     }
-    bar var=HEAD_2 scales=HEAD direction=up ticks=after color=steel at=68,52 size=16,88 {
-        number at=78,46 size=14 align=center bold=yes
+    # throttle, fuel, voltage
+    group at=476,246 {
+        label at=0,14 size=13 color=muted text="THROTTLE"
+        bar var=THROTTLE scales=PERCENT color=steel at=0,18 size=208,4 ticks=none {
+            number at=170,14 size=17 align=right bold=yes
+            unit at=175,14 size=13
+        }
     }
-    bar var=HEAD_3 scales=HEAD direction=up ticks=after color=steel at=122,52 size=16,88 {
-        number at=132,46 size=14 align=center bold=yes
+    group at=476,275 {
+        label at=0,14 size=13 color=muted text="FLOW LANE A"
+        bar var=FUEL_FLOW_A scales=FLOW color=steel at=0,18 size=208,4 ticks=none {
+            number at=170,14 size=17 align=right bold=yes
+            unit at=175,14 size=13
+        }
     }
-    bar var=HEAD_4 scales=HEAD direction=up ticks=after color=steel at=176,52 size=16,88 {
-        number at=186,46 size=14 align=center bold=yes
+    group at=476,304 {
+        label at=0,14 size=13 color=muted text="FLOW LANE B"
+        bar var=FUEL_FLOW_B scales=FLOW color=steel at=0,18 size=208,4 ticks=none {
+            number at=170,14 size=17 align=right bold=yes
+            unit at=175,14 size=13
+        }
     }
-    label at=24,154 size=11 align=center color=muted text=1
-    label at=78,154 size=11 align=center color=muted text=2
-    label at=132,154 size=11 align=center color=muted text=3
-    label at=186,154 size=11 align=center color=muted text=4
-}
-group at=240,262 tall=244,296 {
-    label at=0,22 size=11 color=muted text="EXHAUST"
-    label at=204,22 size=11 align=right color=muted text="°C" if="UNIT = 0"
-    label at=204,22 size=11 align=right color=muted text="°F" if="UNIT = 1"
-    bar var=EXHAUST_1 scales=EXHAUST direction=up ticks=after color=steel at=14,52 size=16,88 {
-        number at=24,46 size=14 align=center bold=yes
+    group at=476,334 {
+        label at=0,14 size=13 color=muted text="FUEL"
+        bar var=FUEL_LEVEL scales=FUEL color=steel at=0,18 size=208,4 ticks=none {
+            number at=170,14 size=17 align=right bold=yes
+            unit at=175,14 size=13
+        }
     }
-    bar var=EXHAUST_2 scales=EXHAUST direction=up ticks=after color=steel at=68,52 size=16,88 {
-        number at=78,46 size=14 align=center bold=yes
+    group at=476,365 {
+        label at=0,14 size=13 color=muted text="BUS"
+        bar var=BUS_VOLTAGE scales=VOLTAGE color=steel at=0,18 size=208,4 ticks=none {
+            number at=170,14 size=17 align=right bold=yes
+            unit at=175,14 size=13
+        }
     }
-    bar var=EXHAUST_3 scales=EXHAUST direction=up ticks=after color=steel at=122,52 size=16,88 {
-        number at=132,46 size=14 align=center bold=yes
-    }
-    bar var=EXHAUST_4 scales=EXHAUST direction=up ticks=after color=steel at=176,52 size=16,88 {
-        number at=186,46 size=14 align=center bold=yes
-    }
-    label at=24,154 size=11 align=center color=muted text=1
-    label at=78,154 size=11 align=center color=muted text=2
-    label at=132,154 size=11 align=center color=muted text=3
-    label at=186,154 size=11 align=center color=muted text=4
-}
-
-# --- throttle, fuel, voltage
-
-group at=476,268 tall=240,470 {
-    label at=0,14 size=11 color=muted text="THROTTLE"
-    bar var=THROTTLE scales=PERCENT color=steel at=0,20 size=208,4 ticks=none ticktext=0 {
-        number at=176,14 size=15 align=right bold=yes
-        unit at=181,14 size=11
-    }
-}
-group at=476,299 tall=240,508 {
-    label at=0,14 size=11 color=muted text="FLOW LANE A"
-    bar var=FUEL_FLOW_A scales=FLOW color=steel at=0,20 size=208,4 ticks=none {
-        number at=176,14 size=15 align=right bold=yes
-        unit at=181,14 size=11
-    }
-}
-group at=476,330 tall=240,546 {
-    label at=0,14 size=11 color=muted text="FLOW LANE B"
-    bar var=FUEL_FLOW_B scales=FLOW color=steel at=0,20 size=208,4 ticks=none {
-        number at=176,14 size=15 align=right bold=yes
-        unit at=181,14 size=11
-    }
-}
-group at=476,361 tall=240,584 {
-    label at=0,14 size=11 color=muted text="FUEL"
-    bar var=FUEL_LEVEL scales=FUEL color=steel at=0,20 size=208,4 ticks=none {
-        number at=176,14 size=15 align=right bold=yes
-        unit at=181,14 size=11
-    }
-}
-group at=476,392 tall=240,622 {
-    label at=0,14 size=11 color=muted text="BUS"
-    bar var=BUS_VOLTAGE scales=VOLTAGE color=steel at=0,20 size=208,4 ticks=none {
-        number at=176,14 size=15 align=right bold=yes
-        unit at=181,14 size=11
-    }
-}
-line from=16,430 to=684,430 if="TALL = 0"
-line from=16,664 to=448,664 if="TALL = 1"
-
-# --- warnings: bands that values are in, and the lamps of the cockpit
-
-group at=16,438 tall=16,672 {
-    label at=0,16 size=10 color=muted text="LIMITS"
-    lamp var=ENGINE_SPEED at=52,2 size=72.1,22 textsize=10 text="RPM"
-    lamp var=OIL_PRESSURE at=129.7,2 size=72.1,22 textsize=10 text="OIL PRESS"
-    lamp var=OIL_TEMP at=207.4,2 size=72.1,22 textsize=10 text="OIL TEMP"
-    lamp var=COOLANT_TEMP at=285.1,2 size=72.1,22 textsize=10 text="COOLANT"
-}
-group at=16,438 tall=-294.8,700 {
-    lamp at=362.8,2 size=72.1,22 textsize=10 text="CYL HEAD" {
+    # warnings: bands that values are in, and the lamps of the cockpit
+    label at=16,418 size=12 color=muted text="LIMITS"
+    lamp var=ENGINE_SPEED at=66,402 size=73.6,23 textsize=12 text="RPM"
+    lamp var=OIL_PRESSURE at=143.6,402 size=73.6,23 textsize=12 text="OIL PRESS"
+    lamp var=OIL_TEMP at=221.2,402 size=73.6,23 textsize=12 text="OIL TEMP"
+    lamp var=COOLANT_TEMP at=298.8,402 size=73.6,23 textsize=12 text="COOLANT"
+    lamp at=376.4,402 size=73.6,23 textsize=12 text="CYL HEAD" {
         case if="HEAD_1_STATE = 2 or HEAD_2_STATE = 2 or HEAD_3_STATE = 2 or HEAD_4_STATE = 2" color=limit
         case if="HEAD_1_STATE = 1 or HEAD_2_STATE = 1 or HEAD_3_STATE = 1 or HEAD_4_STATE = 1" color=warning
     }
-    lamp at=440.5,2 size=72.1,22 textsize=10 text="EXHAUST" {
+    lamp at=454,402 size=73.6,23 textsize=12 text="EXHAUST" {
         case if="EXHAUST_1_STATE = 2 or EXHAUST_2_STATE = 2 or EXHAUST_3_STATE = 2 or EXHAUST_4_STATE = 2" color=limit
         case if="EXHAUST_1_STATE = 1 or EXHAUST_2_STATE = 1 or EXHAUST_3_STATE = 1 or EXHAUST_4_STATE = 1" color=warning
     }
-    lamp var=FUEL_LEVEL at=518.2,2 size=72.1,22 textsize=10 text="FUEL LOW"
-    lamp var=BUS_VOLTAGE at=595.9,2 size=72.1,22 textsize=10 text="BUS VOLT"
-}
-group at=16,466 tall=16,728 {
-    label at=0,16 size=10 color=muted text="LAMPS"
-    lamp at=52,2 size=72.1,22 textsize=10 text="LANE A" {
+    lamp var=FUEL_LEVEL at=531.6,402 size=73.6,23 textsize=12 text="FUEL LOW"
+    lamp var=BUS_VOLTAGE at=609.2,402 size=73.6,23 textsize=12 text="BUS VOLT"
+    label at=16,444 size=12 color=muted text="LAMPS"
+    lamp at=66,428 size=73.6,23 textsize=12 text="LANE A" {
         case if="LANE_LAMP_A = 2" color=limit
         case if="LANE_LAMP_A = 1" color=warning
     }
-    lamp at=129.7,2 size=72.1,22 textsize=10 text="LANE B" {
+    lamp at=143.6,428 size=73.6,23 textsize=12 text="LANE B" {
         case if="LANE_LAMP_B = 2" color=limit
         case if="LANE_LAMP_B = 1" color=warning
     }
-    lamp at=207.4,2 size=72.1,22 textsize=10 text="OIL" {
+    lamp at=221.2,428 size=73.6,23 textsize=12 text="OIL" {
         case if="OIL_LAMP = 2" color=limit
         case if="OIL_LAMP = 1" color=warning
     }
-    lamp at=285.1,2 size=72.1,22 textsize=10 text="POWER" {
+    lamp at=298.8,428 size=73.6,23 textsize=12 text="POWER" {
         case if="POWER_LAMP = 2" color=limit
         case if="POWER_LAMP = 1" color=warning
     }
-    lamp at=362.8,2 size=72.1,22 textsize=10 text="FUEL" {
+    lamp at=376.4,428 size=73.6,23 textsize=12 text="FUEL" {
+        case if="FUEL_LAMP = 2" color=limit
+        case if="FUEL_LAMP = 1" color=warning
+    }
+    label at=458,445 size=13 color=muted text="BATTERY"
+    value var=BATTERY_CURRENT at=555,445 size=15 align=right {
+        scale decimals=1 unit=A
+        unit at=558,445 size=13
+    }
+    label at=584,445 size=13 color=muted text="OAT"
+    value var=OUTSIDE_TEMP at=650,445 size=15 align=right {
+        scale if="UNIT = 0" unit=°C
+        scale if="UNIT = 1" unit=°F
+        unit at=653,445 size=13
+    }
+}
+
+# --- tall
+
+group if="TALL = 1" {
+    line from=12,57 to=318,57
+    line from=12,209 to=318,209
+    line from=12,326 to=318,326
+    line from=12,520 to=318,520
+    # lanes and hours
+    label at=12,21 size=12 color=muted text="LANE A"
+    lamp var=LANE_MODE_A at=56,6 size=102,21 textsize=11.5 text="NO DATA" {
+        case if="LANE_MODE_A = 2" text="IN CONTROL" color=green
+        case if="LANE_MODE_A = 3" text="STANDBY"
+        case if="LANE_MODE_A = 1" text="SELF TEST" color=cold
+        case if="LANE_MODE_A = 6" text="OFF" color=amber
+    }
+    label at=172,21 size=12 color=muted text="LANE B"
+    lamp var=LANE_MODE_B at=216,6 size=102,21 textsize=11.5 text="NO DATA" {
+        case if="LANE_MODE_B = 2" text="IN CONTROL" color=green
+        case if="LANE_MODE_B = 3" text="STANDBY"
+        case if="LANE_MODE_B = 1" text="SELF TEST" color=cold
+        case if="LANE_MODE_B = 6" text="OFF" color=amber
+    }
+    group at=56,31 if="VARIANT = 2 or VARIANT = 3" {
+        label at=-44,15 size=12 color=muted text="HOOK"
+        lamp var=TOW_HOOK at=0,0 size=102,21 textsize=11.5 text="HOOK OPEN" {
+            case if="TOW_HOOK = 1 and VARIANT = 2" text="ROPE" color=green
+            case if="TOW_HOOK = 1 and VARIANT = 3" text="BANNER" color=green
+        }
+    }
+    label at=172,47 size=12 color=muted text="HOURS"
+    value var=RUNNING_TIME at=306,47 size=17 align=right {
+        scale factor=0.000277777778 decimals=1 unit=h
+        unit at=309,47 size=13
+    }
+    # dials
+    group at=85,136 {
+        gauge var=ENGINE_SPEED scales=RPM at=0,0 radius=73 width=4 color=steel fill=7 tick=5 ticktext=11.5 needle=52,74 needlewidth=4 {
+            number at=0,6 size=25 align=center bold=yes
+            unit at=0,20 size=12 align=center
+        }
+        label at=0,54 size=12.5 align=center text="ENGINE"
+        label at=0,68 size=11.5 align=center color=muted text="rpm × 1000"
+    }
+    group at=245,136 {
+        gauge var=MANIFOLD scales=MANIFOLD at=0,0 radius=73 width=4 color=steel fill=7 tick=5 ticktext=11.5 needle=52,74 needlewidth=4 {
+            number at=0,6 size=25 align=center bold=yes
+            unit at=0,20 size=12 align=center
+        }
+        label at=0,54 size=12.5 align=center text="MANIFOLD"
+        label at=0,68 size=11.5 align=center color=muted text="hPa × 100" if="UNIT = 0"
+    }
+    # cylinder heads and exhaust
+    group at=12,209 {
+        label at=0,16 size=12 color=muted text="CYLINDER HEAD"
+        label at=147,16 size=12 align=right color=muted text="°C" if="UNIT = 0"
+        label at=147,16 size=12 align=right color=muted text="°F" if="UNIT = 1"
+        bar var=HEAD_1 scales=HEAD direction=up ticks=after color=steel at=11,38 size=14,60 {
+            number at=18,33 size=13 align=center bold=yes
+        }
+        label at=18,112 size=12 align=center color=muted text=1
+        bar var=HEAD_2 scales=HEAD direction=up ticks=after color=steel at=47.5,38 size=14,60 {
+            number at=54.5,33 size=13 align=center bold=yes
+        }
+        label at=54.5,112 size=12 align=center color=muted text=2
+        bar var=HEAD_3 scales=HEAD direction=up ticks=after color=steel at=84,38 size=14,60 {
+            number at=91,33 size=13 align=center bold=yes
+        }
+        label at=91,112 size=12 align=center color=muted text=3
+        bar var=HEAD_4 scales=HEAD direction=up ticks=after color=steel at=120.5,38 size=14,60 {
+            number at=127.5,33 size=13 align=center bold=yes
+        }
+        label at=127.5,112 size=12 align=center color=muted text=4
+    }
+    group at=171,209 {
+        label at=0,16 size=12 color=muted text="EXHAUST"
+        label at=147,16 size=12 align=right color=muted text="°C" if="UNIT = 0"
+        label at=147,16 size=12 align=right color=muted text="°F" if="UNIT = 1"
+        bar var=EXHAUST_1 scales=EXHAUST direction=up ticks=after color=steel at=11,38 size=14,60 {
+            number at=18,33 size=13 align=center bold=yes
+        }
+        label at=18,112 size=12 align=center color=muted text=1
+        bar var=EXHAUST_2 scales=EXHAUST direction=up ticks=after color=steel at=47.5,38 size=14,60 {
+            number at=54.5,33 size=13 align=center bold=yes
+        }
+        label at=54.5,112 size=12 align=center color=muted text=2
+        bar var=EXHAUST_3 scales=EXHAUST direction=up ticks=after color=steel at=84,38 size=14,60 {
+            number at=91,33 size=13 align=center bold=yes
+        }
+        label at=91,112 size=12 align=center color=muted text=3
+        bar var=EXHAUST_4 scales=EXHAUST direction=up ticks=after color=steel at=120.5,38 size=14,60 {
+            number at=127.5,33 size=13 align=center bold=yes
+        }
+        label at=127.5,112 size=12 align=center color=muted text=4
+    }
+    # temperatures and pressures
+    group at=12,327 {
+        label at=0,17 size=12 color=muted text="OIL TEMP"
+        bar var=OIL_TEMP scales=OIL_TEMP color=steel at=0,22 size=147,6 ticks=none {
+            number at=113,17 size=18 align=right bold=yes
+            unit at=117,17 size=12.5
+        }
+    }
+    group at=12,366 {
+        label at=0,17 size=12 color=muted text="OIL PRESS"
+        bar var=OIL_PRESSURE scales=OIL_PRESSURE color=steel at=0,22 size=147,6 ticks=none {
+            number at=113,17 size=18 align=right bold=yes
+            unit at=117,17 size=12.5
+        }
+    }
+    group at=12,405 {
+        label at=0,17 size=12 color=muted text="COOLANT"
+        bar var=COOLANT_TEMP scales=COOLANT color=steel at=0,22 size=147,6 ticks=none {
+            number at=113,17 size=18 align=right bold=yes
+            unit at=117,17 size=12.5
+        }
+    }
+    group at=12,444 {
+        label at=0,17 size=12 color=muted text="FUEL PRESS"
+        bar var=FUEL_PRESSURE scales=FUEL_PRESSURE color=steel at=0,22 size=147,6 ticks=none {
+            number at=113,17 size=18 align=right bold=yes
+            unit at=117,17 size=12.5
+        }
+    }
+    label at=12,498 size=12 color=muted text="BATTERY"
+    value var=BATTERY_CURRENT at=125,498 size=14 align=right {
+        scale decimals=1 unit=A
+        unit at=129,498 size=12.5
+    }
+    label at=12,514 size=12 color=muted text="OAT"
+    value var=OUTSIDE_TEMP at=125,514 size=14 align=right {
+        scale if="UNIT = 0" unit=°C
+        scale if="UNIT = 1" unit=°F
+        unit at=129,514 size=12.5
+    }
+    # throttle, fuel, voltage
+    group at=171,327 {
+        label at=0,17 size=12 color=muted text="THROTTLE"
+        bar var=THROTTLE scales=PERCENT color=steel at=0,22 size=147,6 ticks=none {
+            number at=113,17 size=18 align=right bold=yes
+            unit at=117,17 size=12.5
+        }
+    }
+    group at=171,366 {
+        label at=0,17 size=12 color=muted text="FLOW A"
+        bar var=FUEL_FLOW_A scales=FLOW color=steel at=0,22 size=147,6 ticks=none {
+            number at=113,17 size=18 align=right bold=yes
+            unit at=117,17 size=12.5
+        }
+    }
+    group at=171,405 {
+        label at=0,17 size=12 color=muted text="FLOW B"
+        bar var=FUEL_FLOW_B scales=FLOW color=steel at=0,22 size=147,6 ticks=none {
+            number at=113,17 size=18 align=right bold=yes
+            unit at=117,17 size=12.5
+        }
+    }
+    group at=171,444 {
+        label at=0,17 size=12 color=muted text="FUEL"
+        bar var=FUEL_LEVEL scales=FUEL color=steel at=0,22 size=147,6 ticks=none {
+            number at=113,17 size=18 align=right bold=yes
+            unit at=117,17 size=12.5
+        }
+    }
+    group at=171,483 {
+        label at=0,17 size=12 color=muted text="BUS"
+        bar var=BUS_VOLTAGE scales=VOLTAGE color=steel at=0,22 size=147,6 ticks=none {
+            number at=113,17 size=18 align=right bold=yes
+            unit at=117,17 size=12.5
+        }
+    }
+    # warnings: bands that values are in, and the lamps of the cockpit
+    label at=12,541 size=11.5 color=muted text="LIMITS"
+    lamp var=ENGINE_SPEED at=60,526 size=63.6,21 textsize=11 text="RPM"
+    lamp var=OIL_PRESSURE at=124.8,526 size=63.6,21 textsize=11 text="OIL PRESS"
+    lamp var=OIL_TEMP at=189.6,526 size=63.6,21 textsize=11 text="OIL TEMP"
+    lamp var=COOLANT_TEMP at=254.4,526 size=63.6,21 textsize=11 text="COOLANT"
+    lamp at=60,550 size=63.6,21 textsize=11 text="CYL HEAD" {
+        case if="HEAD_1_STATE = 2 or HEAD_2_STATE = 2 or HEAD_3_STATE = 2 or HEAD_4_STATE = 2" color=limit
+        case if="HEAD_1_STATE = 1 or HEAD_2_STATE = 1 or HEAD_3_STATE = 1 or HEAD_4_STATE = 1" color=warning
+    }
+    lamp at=124.8,550 size=63.6,21 textsize=11 text="EXHAUST" {
+        case if="EXHAUST_1_STATE = 2 or EXHAUST_2_STATE = 2 or EXHAUST_3_STATE = 2 or EXHAUST_4_STATE = 2" color=limit
+        case if="EXHAUST_1_STATE = 1 or EXHAUST_2_STATE = 1 or EXHAUST_3_STATE = 1 or EXHAUST_4_STATE = 1" color=warning
+    }
+    lamp var=FUEL_LEVEL at=189.6,550 size=63.6,21 textsize=11 text="FUEL LOW"
+    lamp var=BUS_VOLTAGE at=254.4,550 size=63.6,21 textsize=11 text="BUS VOLT"
+    label at=12,592 size=11.5 color=muted text="LAMPS"
+    lamp at=60,577 size=50.8,21 textsize=11 text="LANE A" {
+        case if="LANE_LAMP_A = 2" color=limit
+        case if="LANE_LAMP_A = 1" color=warning
+    }
+    lamp at=111.8,577 size=50.8,21 textsize=11 text="LANE B" {
+        case if="LANE_LAMP_B = 2" color=limit
+        case if="LANE_LAMP_B = 1" color=warning
+    }
+    lamp at=163.6,577 size=50.8,21 textsize=11 text="OIL" {
+        case if="OIL_LAMP = 2" color=limit
+        case if="OIL_LAMP = 1" color=warning
+    }
+    lamp at=215.4,577 size=50.8,21 textsize=11 text="POWER" {
+        case if="POWER_LAMP = 2" color=limit
+        case if="POWER_LAMP = 1" color=warning
+    }
+    lamp at=267.2,577 size=50.8,21 textsize=11 text="FUEL" {
         case if="FUEL_LAMP = 2" color=limit
         case if="FUEL_LAMP = 1" color=warning
     }
 }
-group at=16,466 tall=-388,756 {
-    label at=456,18 size=11 color=muted text="BATTERY"
-    value var=BATTERY_CURRENT at=554,18 size=13 align=right {
-        scale decimals=1 unit=A
-        unit at=558,18 size=11
+
+# --- low
+
+group if="LOW = 1" {
+    line from=10,30 to=690,30
+    line from=10,222 to=690,222
+    # lanes and hours
+    label at=10,19 size=12 color=muted text="LANE A"
+    lamp var=LANE_MODE_A at=58,4 size=112,21 textsize=12 text="NO DATA" {
+        case if="LANE_MODE_A = 2" text="IN CONTROL" color=green
+        case if="LANE_MODE_A = 3" text="STANDBY"
+        case if="LANE_MODE_A = 1" text="SELF TEST" color=cold
+        case if="LANE_MODE_A = 6" text="OFF" color=amber
     }
-    label at=592,18 size=11 color=muted text="OAT"
-    value var=OUTSIDE_TEMP at=646,18 size=13 align=right {
+    label at=186,19 size=12 color=muted text="LANE B"
+    lamp var=LANE_MODE_B at=234,4 size=112,21 textsize=12 text="NO DATA" {
+        case if="LANE_MODE_B = 2" text="IN CONTROL" color=green
+        case if="LANE_MODE_B = 3" text="STANDBY"
+        case if="LANE_MODE_B = 1" text="SELF TEST" color=cold
+        case if="LANE_MODE_B = 6" text="OFF" color=amber
+    }
+    group at=362,4 if="VARIANT = 2 or VARIANT = 3" {
+        lamp var=TOW_HOOK at=0,0 size=104,21 textsize=12 text="HOOK OPEN" {
+            case if="TOW_HOOK = 1 and VARIANT = 2" text="ROPE" color=green
+            case if="TOW_HOOK = 1 and VARIANT = 3" text="BANNER" color=green
+        }
+    }
+    label at=572,19 size=12 color=muted text="HOURS"
+    value var=RUNNING_TIME at=677,19 size=16 align=right {
+        scale factor=0.000277777778 decimals=1 unit=h
+        unit at=680,19 size=12.5
+    }
+    # dials
+    group at=78,116 {
+        gauge var=ENGINE_SPEED scales=RPM at=0,0 radius=68 width=4 color=steel fill=7 tick=5 ticktext=12 needle=50,69 needlewidth=4 {
+            number at=0,6 size=22 align=center bold=yes
+            unit at=0,20 size=12 align=center
+        }
+        label at=0,53 size=12.5 align=center text="ENGINE"
+        label at=0,67 size=11.5 align=center color=muted text="rpm × 1000"
+    }
+    group at=220,116 {
+        gauge var=MANIFOLD scales=MANIFOLD at=0,0 radius=68 width=4 color=steel fill=7 tick=5 ticktext=12 needle=50,69 needlewidth=4 {
+            number at=0,6 size=22 align=center bold=yes
+            unit at=0,20 size=12 align=center
+        }
+        label at=0,53 size=12.5 align=center text="MANIFOLD"
+        label at=0,67 size=11.5 align=center color=muted text="hPa × 100" if="UNIT = 0"
+    }
+    # cylinder heads and exhaust
+    group at=300,30 {
+        label at=0,15 size=11.5 color=muted text="CYLINDER HEAD"
+        label at=126,15 size=11.5 align=right color=muted text="°C" if="UNIT = 0"
+        label at=126,15 size=11.5 align=right color=muted text="°F" if="UNIT = 1"
+        bar var=HEAD_1 scales=HEAD direction=up ticks=after color=steel at=8,35 size=12,42 {
+            number at=14,30 size=12 align=center bold=yes
+        }
+        label at=14,88 size=11.5 align=center color=muted text=1
+        bar var=HEAD_2 scales=HEAD direction=up ticks=after color=steel at=40.5,35 size=12,42 {
+            number at=46.5,30 size=12 align=center bold=yes
+        }
+        label at=46.5,88 size=11.5 align=center color=muted text=2
+        bar var=HEAD_3 scales=HEAD direction=up ticks=after color=steel at=73,35 size=12,42 {
+            number at=79,30 size=12 align=center bold=yes
+        }
+        label at=79,88 size=11.5 align=center color=muted text=3
+        bar var=HEAD_4 scales=HEAD direction=up ticks=after color=steel at=105.5,35 size=12,42 {
+            number at=111.5,30 size=12 align=center bold=yes
+        }
+        label at=111.5,88 size=11.5 align=center color=muted text=4
+    }
+    group at=300,125 {
+        label at=0,15 size=11.5 color=muted text="EXHAUST"
+        label at=126,15 size=11.5 align=right color=muted text="°C" if="UNIT = 0"
+        label at=126,15 size=11.5 align=right color=muted text="°F" if="UNIT = 1"
+        bar var=EXHAUST_1 scales=EXHAUST direction=up ticks=after color=steel at=8,35 size=12,42 {
+            number at=14,30 size=12 align=center bold=yes
+        }
+        label at=14,88 size=11.5 align=center color=muted text=1
+        bar var=EXHAUST_2 scales=EXHAUST direction=up ticks=after color=steel at=40.5,35 size=12,42 {
+            number at=46.5,30 size=12 align=center bold=yes
+        }
+        label at=46.5,88 size=11.5 align=center color=muted text=2
+        bar var=EXHAUST_3 scales=EXHAUST direction=up ticks=after color=steel at=73,35 size=12,42 {
+            number at=79,30 size=12 align=center bold=yes
+        }
+        label at=79,88 size=11.5 align=center color=muted text=3
+        bar var=EXHAUST_4 scales=EXHAUST direction=up ticks=after color=steel at=105.5,35 size=12,42 {
+            number at=111.5,30 size=12 align=center bold=yes
+        }
+        label at=111.5,88 size=11.5 align=center color=muted text=4
+    }
+    # temperatures, pressures, voltage
+    group at=442,32 {
+        label at=0,16 size=11 color=muted text="OIL TEMP"
+        bar var=OIL_TEMP scales=OIL_TEMP color=steel at=0,20 size=116,6 ticks=none {
+            number at=88,16 size=15 align=right bold=yes
+            unit at=91,16 size=11.5
+        }
+    }
+    group at=442,70 {
+        label at=0,16 size=11 color=muted text="OIL PRESS"
+        bar var=OIL_PRESSURE scales=OIL_PRESSURE color=steel at=0,20 size=116,6 ticks=none {
+            number at=88,16 size=15 align=right bold=yes
+            unit at=91,16 size=11.5
+        }
+    }
+    group at=442,108 {
+        label at=0,16 size=11 color=muted text="COOLANT"
+        bar var=COOLANT_TEMP scales=COOLANT color=steel at=0,20 size=116,6 ticks=none {
+            number at=88,16 size=15 align=right bold=yes
+            unit at=91,16 size=11.5
+        }
+    }
+    group at=442,146 {
+        label at=0,16 size=11 color=muted text="FUEL PR"
+        bar var=FUEL_PRESSURE scales=FUEL_PRESSURE color=steel at=0,20 size=116,6 ticks=none {
+            number at=88,16 size=15 align=right bold=yes
+            unit at=91,16 size=11.5
+        }
+    }
+    group at=442,184 {
+        label at=0,16 size=11 color=muted text="BUS"
+        bar var=BUS_VOLTAGE scales=VOLTAGE color=steel at=0,20 size=116,6 ticks=none {
+            number at=88,16 size=15 align=right bold=yes
+            unit at=91,16 size=11.5
+        }
+    }
+    # throttle and fuel
+    group at=574,32 {
+        label at=0,16 size=11 color=muted text="THROTTLE"
+        bar var=THROTTLE scales=PERCENT color=steel at=0,20 size=116,6 ticks=none {
+            number at=88,16 size=15 align=right bold=yes
+            unit at=91,16 size=11.5
+        }
+    }
+    group at=574,70 {
+        label at=0,16 size=11 color=muted text="FLOW A"
+        bar var=FUEL_FLOW_A scales=FLOW color=steel at=0,20 size=116,6 ticks=none {
+            number at=88,16 size=15 align=right bold=yes
+            unit at=91,16 size=11.5
+        }
+    }
+    group at=574,108 {
+        label at=0,16 size=11 color=muted text="FLOW B"
+        bar var=FUEL_FLOW_B scales=FLOW color=steel at=0,20 size=116,6 ticks=none {
+            number at=88,16 size=15 align=right bold=yes
+            unit at=91,16 size=11.5
+        }
+    }
+    group at=574,146 {
+        label at=0,16 size=11 color=muted text="FUEL"
+        bar var=FUEL_LEVEL scales=FUEL color=steel at=0,20 size=116,6 ticks=none {
+            number at=88,16 size=15 align=right bold=yes
+            unit at=91,16 size=11.5
+        }
+    }
+    label at=574,199 size=11 color=muted text="BATTERY"
+    value var=BATTERY_CURRENT at=662,199 size=13 align=right {
+        scale decimals=1 unit=A
+        unit at=665,199 size=11.5
+    }
+    label at=574,215 size=11 color=muted text="OAT"
+    value var=OUTSIDE_TEMP at=662,215 size=13 align=right {
         scale if="UNIT = 0" unit=°C
         scale if="UNIT = 1" unit=°F
-        unit at=650,18 size=11
+        unit at=665,215 size=11.5
+    }
+    # warnings: bands that values are in, and the lamps of the cockpit
+    label at=10,242 size=11.5 color=muted text="LIMITS"
+    lamp var=ENGINE_SPEED at=62,227 size=76,21 textsize=12 text="RPM"
+    lamp var=OIL_PRESSURE at=140.8,227 size=76,21 textsize=12 text="OIL PRESS"
+    lamp var=OIL_TEMP at=219.6,227 size=76,21 textsize=12 text="OIL TEMP"
+    lamp var=COOLANT_TEMP at=298.4,227 size=76,21 textsize=12 text="COOLANT"
+    lamp at=377.2,227 size=76,21 textsize=12 text="CYL HEAD" {
+        case if="HEAD_1_STATE = 2 or HEAD_2_STATE = 2 or HEAD_3_STATE = 2 or HEAD_4_STATE = 2" color=limit
+        case if="HEAD_1_STATE = 1 or HEAD_2_STATE = 1 or HEAD_3_STATE = 1 or HEAD_4_STATE = 1" color=warning
+    }
+    lamp at=456,227 size=76,21 textsize=12 text="EXHAUST" {
+        case if="EXHAUST_1_STATE = 2 or EXHAUST_2_STATE = 2 or EXHAUST_3_STATE = 2 or EXHAUST_4_STATE = 2" color=limit
+        case if="EXHAUST_1_STATE = 1 or EXHAUST_2_STATE = 1 or EXHAUST_3_STATE = 1 or EXHAUST_4_STATE = 1" color=warning
+    }
+    lamp var=FUEL_LEVEL at=534.8,227 size=76,21 textsize=12 text="FUEL LOW"
+    lamp var=BUS_VOLTAGE at=613.6,227 size=76,21 textsize=12 text="BUS VOLT"
+    label at=10,266 size=11.5 color=muted text="LAMPS"
+    lamp at=62,251 size=76,21 textsize=12 text="LANE A" {
+        case if="LANE_LAMP_A = 2" color=limit
+        case if="LANE_LAMP_A = 1" color=warning
+    }
+    lamp at=140.8,251 size=76,21 textsize=12 text="LANE B" {
+        case if="LANE_LAMP_B = 2" color=limit
+        case if="LANE_LAMP_B = 1" color=warning
+    }
+    lamp at=219.6,251 size=76,21 textsize=12 text="OIL" {
+        case if="OIL_LAMP = 2" color=limit
+        case if="OIL_LAMP = 1" color=warning
+    }
+    lamp at=298.4,251 size=76,21 textsize=12 text="POWER" {
+        case if="POWER_LAMP = 2" color=limit
+        case if="POWER_LAMP = 1" color=warning
+    }
+    lamp at=377.2,251 size=76,21 textsize=12 text="FUEL" {
+        case if="FUEL_LAMP = 2" color=limit
+        case if="FUEL_LAMP = 1" color=warning
     }
 }

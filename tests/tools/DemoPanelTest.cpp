@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 #include <string>
 
@@ -96,14 +97,15 @@ TEST(DemoPanel, BandsRepeatTheThresholdsOfTheProfile)
             }
         }
     }
-    EXPECT_EQ(count, 3 * 2 * 22); // variants, unit systems, instruments with a scale
+    EXPECT_EQ(count, 3 * 2 * 3 * 22); // variants, unit systems, layouts, instruments with a scale
 }
 
 TEST(DemoPanel, HasNoMistakeAndNamesWhatTheProfileBinds)
 {
     Profile profile;
     ASSERT_NE(profile.loadProfile(QStringLiteral(DEMO_RESOURCES "/Profile.xml"), QString()), 0);
-    for (const auto layout : {ViewReader::Layout::Wide, ViewReader::Layout::Tall}) {
+    for (const auto layout :
+         {ViewReader::Layout::Wide, ViewReader::Layout::Tall, ViewReader::Layout::Low}) {
         ViewVariables variables;
         ViewReader reader(variables, layout);
         reader.read(panelText());
@@ -111,7 +113,7 @@ TEST(DemoPanel, HasNoMistakeAndNamesWhatTheProfileBinds)
             ADD_FAILURE() << error.line << " " << error.element << ": " << error.message;
         }
         std::set<int> known;
-        for (const char* own : {"UNIT", "VARIANT", "TALL"}) {
+        for (const char* own : {"UNIT", "VARIANT", "TALL", "LOW"}) {
             known.insert(variables.slot(own));
         }
         for (const auto& [name, p] : boundParameters(profile)) {
@@ -121,6 +123,53 @@ TEST(DemoPanel, HasNoMistakeAndNamesWhatTheProfileBinds)
         for (const int slot : reader.model().slotsUsed) {
             EXPECT_EQ(known.count(slot), 1U) << "slot " << slot;
         }
+    }
+}
+
+/// Size of the smallest text that is shown, in view units.
+double smallestText(const Vista2D::ViewModel& model, const ViewVariables& variables)
+{
+    double least = 1e9;
+    const Vista2D::ViewTruths truths = model.truths(variables);
+    for (const Vista2D::ViewElement& element : model.elements) {
+        if (!Vista2D::hold(element.conditions, truths)) {
+            continue;
+        }
+        if (const auto* label = std::get_if<Vista2D::ViewLabel>(&element.shape)) {
+            least = std::min(least, label->style.size);
+        } else if (const auto* lamp = std::get_if<Vista2D::ViewLamp>(&element.shape)) {
+            least = std::min(least, lamp->textSize);
+        } else if (const ViewBinding* binding = Vista2D::bindingOf(element); binding != nullptr) {
+            for (const Vista2D::ViewCaption& caption : binding->captions) {
+                least = std::min(least, caption.style.size);
+            }
+        }
+    }
+    return least;
+}
+
+TEST(DemoPanel, CanBeReadInAWindowOf1000By800)
+{
+    const QSizeF rooms[] = {{274, 520}, {665, 256}, {665, 520}}; // beside, above, without the map
+    for (const QSizeF& room : rooms) {
+        double largest = 0.0;
+        double text = 0.0; // pixels
+        for (const auto layout :
+             {ViewReader::Layout::Wide, ViewReader::Layout::Tall, ViewReader::Layout::Low}) {
+            ViewVariables variables;
+            variables.set(variables.slot("TALL"), layout == ViewReader::Layout::Tall ? 1.0 : 0.0);
+            variables.set(variables.slot("LOW"), layout == ViewReader::Layout::Low ? 1.0 : 0.0);
+            ViewReader reader(variables, layout);
+            reader.read(panelText());
+            const QSizeF size = reader.model().size;
+            const double scale =
+                std::min(room.width() / size.width(), room.height() / size.height());
+            if (scale > largest) {
+                largest = scale;
+                text = scale * smallestText(reader.model(), variables);
+            }
+        }
+        EXPECT_GE(text, 9.0) << room.width();
     }
 }
 

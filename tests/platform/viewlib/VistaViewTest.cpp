@@ -184,9 +184,10 @@ TEST_F(VistaViewTest, FillsTheRoomThatTheMatricesGiveIt)
 
 TEST_F(VistaViewTest, TakesTheLayoutThatIsLargerInItsRoom)
 {
-    mView.loadText("view size=100,50 tall=50,100\n"
-                   "group at=0,0 tall=20,60 {\nrectangle at=0,0 size=10,10 fill=#00ff00\n}\n"
-                   "rectangle at=20,0 size=10,10 fill=#ff0000 if=\"TALL = 1\"");
+    mView.loadText(
+        "view size=100,50 tall=50,100 low=100,10\n"
+        "group at=0,0 tall=20,60 low=50,0 {\nrectangle at=0,0 size=10,10 fill=#00ff00\n}\n"
+        "rectangle at=20,0 size=10,10 fill=#ff0000 if=\"TALL = 1\"");
     ASSERT_TRUE(mView.errors().empty());
     mView.setRoom(300, 200);
     EXPECT_EQ(mView.width(), 100.0);
@@ -197,6 +198,10 @@ TEST_F(VistaViewTest, TakesTheLayoutThatIsLargerInItsRoom)
     EXPECT_EQ(mView.height(), 100.0);
     EXPECT_TRUE(shows(QColor(0, 255, 0), 25, 65));
     EXPECT_TRUE(shows(QColor(255, 0, 0), 25, 5));
+    mView.setRoom(300, 60);
+    EXPECT_EQ(mView.height(), 10.0);
+    EXPECT_TRUE(shows(QColor(0, 255, 0), 55, 5));
+    EXPECT_TRUE(shows(kGround, 25, 5));
     mView.loadText("view size=100,50");
     mView.setRoom(200, 300);
     EXPECT_EQ(mView.width(), 100.0);
