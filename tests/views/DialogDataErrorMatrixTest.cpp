@@ -3,8 +3,8 @@
 #include "card/RecordData.h"
 #include "profile/Profile.h"
 #include "tests/support/ProfileBuilder.h"
-#include "tests/support/RecordBuilder.h"
 #include "tests/support/ViewTexts.h"
+#include "tests/views/FaultWords.h"
 #include "views/WidgetErrorItem.h"
 #include "views/WidgetErrorTime.h"
 #include "views/WidgetFaultMatrix.h"
@@ -27,7 +27,6 @@ namespace {
 
 using Test::hintOf;
 using Test::ProfileBuilder;
-using Test::RecordBuilder;
 
 constexpr int kLaneA = 0x4F0;
 constexpr int kLaneB = 0x5F0;
@@ -84,12 +83,7 @@ struct DialogDataErrorMatrixTest : ::testing::Test
     /// Words of lane A in a record from 0 to 100 s.
     void load(std::initializer_list<std::pair<double, std::uint32_t>> words)
     {
-        RecordBuilder builder;
-        builder.at(0).id(1).ulongValue(0).at(100).ulongValue(0).id(kLaneA);
-        for (const auto& [time, word] : words) {
-            builder.at(time).blongValue(word);
-        }
-        record = builder.data();
+        record = VELIX::Test::faultWords(kLaneA, words).data();
         view->updateRecord(record.get());
         QApplication::processEvents();
     }

@@ -2,6 +2,7 @@
 
 #include "profile/FaultMatrix.h"
 #include "tests/support/RecordBuilder.h"
+#include "tests/views/FaultWords.h"
 
 #include <gtest/gtest.h>
 
@@ -63,12 +64,7 @@ struct FaultTimelineTest : ::testing::Test
     /// The matrix message at each time, and another one that makes the record last from 0 to 100.
     void load(std::initializer_list<std::pair<double, std::uint32_t>> words)
     {
-        RecordBuilder builder;
-        builder.at(0).id(1).ulongValue(0).at(100).ulongValue(0).id(kId);
-        for (const auto& [time, word] : words) {
-            builder.at(time).blongValue(word);
-        }
-        record = builder.data();
+        record = VELIX::Test::faultWords(kId, words).data();
         timeline.setMatrix(matrix());
         timeline.setRecord(record.get());
     }

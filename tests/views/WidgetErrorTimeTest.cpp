@@ -4,6 +4,7 @@
 
 #include "profile/FaultMatrix.h"
 #include "tests/support/RecordBuilder.h"
+#include "tests/views/FaultWords.h"
 
 #include <gtest/gtest.h>
 
@@ -41,12 +42,7 @@ struct WidgetErrorTimeTest : ::testing::Test
     /// Words in a record from 0 to 100 s.
     void load(std::initializer_list<std::pair<double, std::uint32_t>> words)
     {
-        RecordBuilder builder;
-        builder.at(0).id(1).ulongValue(0).at(100).ulongValue(0).id(kId);
-        for (const auto& [time, word] : words) {
-            builder.at(time).blongValue(word);
-        }
-        record = builder.data();
+        record = VELIX::Test::faultWords(kId, words).data();
         bar.updateRecord(record.get());
     }
 
