@@ -135,10 +135,8 @@ TEST_F(DialogDataViewTest, FollowsTheCursorAndKeepsTheLastNumber)
     {
         double time;
         const char* bar;
-    } rows[] = {{1.5, "20 #ffffff"},
-                {2.5, "60 #ffff00"},
-                {3.5, "60 #ffff00"}, // not a number
-                {4.5, "90 #ff0000"},
+    } rows[] = {{1.5, "20 #ffffff"}, {2.5, "60 #ffff00"}, {3.5, "60 #ffff00"}, // not a number
+                {4.5, "90 #ff0000"}, {9.0, "90 #ff0000"}, // behind the last entry
                 {1.5, "20 #ffffff"}};
     for (const auto& row : rows) {
         view->setTime(row.time);
