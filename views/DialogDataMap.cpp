@@ -352,9 +352,12 @@ void DialogDataMap::updateGeometry()
                          : beside         ? QPoint(kEdge + panel.width() + kGap, kEdge)
                                           : QPoint(kEdge, kEdge + panel.height() + kGap);
     mToolBar->setGeometry(QRect(place, bar));
+    mMap->setToolsBottom(mToolBar->geometry().bottom());
 
     const int widest = std::max(width() - 2 * kEdge, 1);
-    const int across = std::min(mHint->sizeHint().width(), widest);
+    // A label that may wrap asks for less than its text needs.
+    const int text = mHint->fontMetrics().horizontalAdvance(mHint->text());
+    const int across = std::min(text + 2 * (kHintMargin + 1), widest);
     const int high = mHint->heightForWidth(across);
     mHint->setGeometry((width() - across) / 2, (height() - high) / 2, across, high);
 }

@@ -32,6 +32,7 @@ constexpr double kLegendHeight = 96.0;
 constexpr int kLegendSteps = 16;
 constexpr double kMouseGap = 20.0;
 constexpr double kMark = 9.0;
+constexpr double kAircraft = 20.0;   // half of its symbol
 constexpr double kPanelAlpha = 0.82; // lets the map through and keeps texts readable
 
 Color colorOf(const QColor& color, double alpha = 1.0)
@@ -84,9 +85,9 @@ void MapOverlay::paint(GlHandler& gl, const QSize& pixels, const Content& conten
     if (!content.notice.isEmpty()) {
         ground = ground.united(paintLines(gl, content.notice, ground.top()));
     }
-    const double free = paintScale(gl, content, ground);
+    const Room room = paintScale(gl, content, ground);
     if (content.legend != nullptr) {
-        paintLegend(gl, *content.legend, free);
+        paintLegend(gl, content, room);
     }
     if (!content.readout.isEmpty()) {
         paintReadout(gl, content);
@@ -129,9 +130,8 @@ QRectF MapOverlay::paintLines(GlHandler& gl, const QString& text, double bottom)
     return ground;
 }
 
-/// Beside the texts at the bottom, or above them where that leaves no room. Returns the lower end
-/// of what is free on the right.
-double MapOverlay::paintScale(GlHandler& gl, const Content& content, const QRectF& texts)
+/// Beside the texts at the bottom, or above them where that leaves no room.
+MapOverlay::Room MapOverlay::paintScale(GlHandler& gl, const Content& content, const QRectF& texts)
 {
     const double edge = kEdge * mRatio;
     const double padding = kPadding * mRatio;
@@ -140,9 +140,11 @@ double MapOverlay::paintScale(GlHandler& gl, const Content& content, const QRect
     const bool beside = edge + width + 3.0 * padding < texts.left();
     const double row = texts.top();
     const double bottom = beside ? mPixels.height() - edge : row - edge;
+    Room room{row, row};
     if (content.scalePixels > 0.0) {
         const QRectF area(edge, std::floor(bottom - height - padding), width + 2.0 * padding,
                           height + padding);
+        room.left = area.top();
         panel(gl, area);
         mFont.render(gl, area.left() + padding, area.top() + padding / 2.0, content.scale.text);
         const Color ink = colorOf(Palette::current().text);
@@ -154,11 +156,32 @@ double MapOverlay::paintScale(GlHandler& gl, const Content& content, const QRect
             fill(gl, QRectF(at, y + line - kTick * mRatio, line, kTick * mRatio), ink);
         }
     }
-    return row;
+    return room;
 }
 
-void MapOverlay::paintLegend(GlHandler& gl, const MapColoring& legend, double bottom)
+/// On the right, or on the left while the aircraft is there; it stays until the aircraft comes.
+QRectF MapOverlay::placeLegend(const QSizeF& size, const Room& room,
+                               const std::optional<QPointF>& aircraft)
 {
+    const double edge = kEdge * mRatio;
+    const auto place = [&](bool left) {
+        const double x = left ? edge : std::floor(mPixels.width() - size.width() - edge);
+        const double bottom = left ? room.left : room.right;
+        return QRectF(QPointF(x, std::floor(bottom - size.height() - edge)), size);
+    };
+    const auto hides = [&](const QRectF& area) {
+        const double around = kAircraft * mRatio;
+        return aircraft && area.adjusted(-around, -around, around, around).contains(*aircraft);
+    };
+    if (hides(place(mLegendLeft)) && !hides(place(!mLegendLeft))) {
+        mLegendLeft = !mLegendLeft;
+    }
+    return place(mLegendLeft);
+}
+
+void MapOverlay::paintLegend(GlHandler& gl, const Content& content, const Room& room)
+{
+    const MapColoring& legend = *content.legend;
     const double padding = 2.0 * kPadding * mRatio;
     const double bar = kLegendWidth * mRatio;
     const double line = mFont.height();
@@ -169,8 +192,7 @@ void MapOverlay::paintLegend(GlHandler& gl, const MapColoring& legend, double bo
     const double width = std::max(mFont.width(legend.title), bar + padding + labels) + 2 * padding;
     const double swatches = static_cast<double>(legend.passed.size()) * line;
     const double height = line + kLegendHeight * mRatio + swatches + 2.5 * padding;
-    const QRectF area(std::floor(mPixels.width() - width - kEdge * mRatio),
-                      std::floor(bottom - height - kEdge * mRatio), width, height);
+    const QRectF area = placeLegend({width, height}, room, content.aircraft);
     if (area.left() < 0.0 || area.top() < mPixels.height() / 3.0) {
         return; // a small window is for the map
     }

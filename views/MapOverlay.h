@@ -30,6 +30,7 @@ public:
         MapScaleBar scale;
         double scalePixels = 0.0;            ///< length of the scale bar
         const MapColoring* legend = nullptr; ///< none: no legend
+        std::optional<QPointF> aircraft;     ///< the legend keeps out of its way
         QString notice;                      ///< why there are no tiles; empty: there is none
         QStringList readout;                 ///< lines; none: no read-out
         QPointF mouse;
@@ -43,19 +44,29 @@ public:
     void release();
 
 private:
+    /// The lower ends of what is free at both sides.
+    struct Room
+    {
+        double left = 0.0;
+        double right = 0.0;
+    };
+
     void fill(Tessel::OpenGL::GlHandler& gl, const QRectF& area,
               const Tessel::OpenGL::Color& color);
     void panel(Tessel::OpenGL::GlHandler& gl, const QRectF& area);
     [[nodiscard]] QStringList wrapped(const QString& text, double width) const;
     QRectF paintLines(Tessel::OpenGL::GlHandler& gl, const QString& text, double bottom);
-    double paintScale(Tessel::OpenGL::GlHandler& gl, const Content& content, const QRectF& texts);
-    void paintLegend(Tessel::OpenGL::GlHandler& gl, const MapColoring& legend, double bottom);
+    Room paintScale(Tessel::OpenGL::GlHandler& gl, const Content& content, const QRectF& texts);
+    QRectF placeLegend(const QSizeF& size, const Room& room,
+                       const std::optional<QPointF>& aircraft);
+    void paintLegend(Tessel::OpenGL::GlHandler& gl, const Content& content, const Room& room);
     void paintReadout(Tessel::OpenGL::GlHandler& gl, const Content& content);
 
     Tessel::OpenGL::TextureFont mFont;
     Tessel::OpenGL::TriangleStrip mArea;
     QSize mPixels;
     double mRatio = 1.0;
+    bool mLegendLeft = false; ///< where it was out of the aircraft's way last
 };
 
 } // namespace VELIX

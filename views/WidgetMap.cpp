@@ -188,6 +188,12 @@ void WidgetMap::setImperial(bool imperial)
     mDirty = true;
 }
 
+void WidgetMap::setToolsBottom(int pixels)
+{
+    mDirty = mDirty || pixels != mToolsBottom;
+    mToolsBottom = pixels;
+}
+
 void WidgetMap::fitFlightPath()
 {
     mRefit = true;
@@ -264,6 +270,7 @@ void WidgetMap::updateWindow()
     const QSize size = pixels();
     MapNavigation::setRange(*mContext, mContext->visibleRange, size.width(), size.height());
     mMap->setWindowSize(size.width(), size.height());
+    mMap->setLabelTop(static_cast<int>(std::lround(mToolsBottom * mRatio)));
     mMap->setVisibleRange(mContext->visibleRange, mContext->verticalRange);
     mMap->setPosition(mContext->centreLatitude, mContext->centreLongitude, 0.0);
 }

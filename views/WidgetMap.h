@@ -57,6 +57,8 @@ public:
     /// The aircraft at the cursor; the empty point hides it.
     void setAcPosition(const FlightPathPoint& position);
     void setImperial(bool imperial);
+    /// The lower end of what lies over the map at its upper edge, in logical pixels.
+    void setToolsBottom(int pixels);
 
     /// Makes the lines of the path and fits the view to it, with the context current.
     void redrawFlightPath();
@@ -179,6 +181,7 @@ private:
     FlightPathPoint mAircraft;
     MapFollower mFollower;
     bool mImperial = false;
+    int mToolsBottom = 0; ///< logical pixels
 
     Keys mKeys;                    ///< held
     Keys mTapped;                  ///< pressed since the last picture: a short press counts, too

@@ -133,6 +133,11 @@ MapOverlay::Content WidgetMap::overlayContent()
     content.scale = MapTexts::scaleBar(kScaleLength * mRatio * mContext->metresPerPixel, mImperial);
     content.scalePixels = content.scale.metres / mContext->metresPerPixel;
     content.legend = mPath.empty() || mColoring.colors.empty() ? nullptr : &mColoring;
+    if (!MapTrack::isEmpty(mAircraft)) {
+        content.aircraft.emplace();
+        mMap->latLong2Window(mAircraft.latitude, mAircraft.longitude, &content.aircraft->rx(),
+                             &content.aircraft->ry());
+    }
     if (mNotice.hasReason()) {
         content.notice = mNotice.update(mMap->hasTiles(), mMap->nrLoadingTiles() != 0);
     }

@@ -16,6 +16,8 @@ constexpr Color kGridColor{0.78F, 0.82F, 0.86F, 1.0F};
 constexpr Color kCoastColor{0.36F, 0.46F, 0.56F, 1.0F};
 constexpr Color kLabelColor{0.36F, 0.41F, 0.47F, 1.0F};
 constexpr double kGridPixels = 140.0;
+/// The same in heights of a label, so that the longest ones stay apart on dense screens, too.
+constexpr double kGridLines = 10.0;
 constexpr double kLabelGap = 4.0;
 /// A tile four zooms up is a few pixels of colour: it tells sea from land, no more.
 constexpr int kMostAncestors = 5;
@@ -67,7 +69,8 @@ void MapPainter::drawOutline(const MapProjection& projection)
     drawGround();
     const float width = toFloat(projection.windowWidth());
     const float height = toFloat(projection.windowHeight());
-    const double step = graticuleStep(projection, kGridPixels);
+    const double step =
+        graticuleStep(projection, std::max(kGridPixels, kGridLines * mFont.height()));
     const std::vector<GraticuleLine> lines = graticule(projection, step);
     mGrid.clear();
     mGrid.setColor(kGridColor);
@@ -92,11 +95,13 @@ void MapPainter::drawOutline(const MapProjection& projection)
     mCoastLines.render(mGl.lines(), mGl.matrices());
 
     mFont.setColor(kLabelColor);
+    const double top = mLabelTop + kLabelGap;
     for (const GraticuleLine& line : lines) {
+        const double above = line.position - mFont.height() - 1.0;
         if (line.meridian) {
-            mFont.render(mGl, line.position + kLabelGap, kLabelGap, line.label);
-        } else {
-            mFont.render(mGl, kLabelGap, line.position - mFont.height() - 1.0, line.label);
+            mFont.render(mGl, line.position + kLabelGap, top, line.label);
+        } else if (above > top + mFont.height()) {
+            mFont.render(mGl, kLabelGap, above, line.label);
         }
     }
 }

@@ -23,6 +23,10 @@ public:
     [[nodiscard]] CoastLines& coast() { return mCoast; }
     [[nodiscard]] Tessel::OpenGL::TextureFont& font() { return mFont; }
 
+    [[nodiscard]] double labelTop() const { return mLabelTop; }
+    /// Where the labels of the meridians begin; those of parallels keep below them.
+    void setLabelTop(double pixels) { mLabelTop = pixels; }
+
     /// Makes the window's pixels the units of all that is drawn until the next begin().
     void begin(const MapProjection& projection);
     static void drawGround();
@@ -49,6 +53,7 @@ private:
     Tessel::OpenGL::Texture mFirst; ///< drawn once, see prepareTextures()
     bool mPrepared = false;
     Tessel::OpenGL::TextureFont mFont;
+    double mLabelTop = 0.0;
     Tessel::OpenGL::Lines mGrid;
     Tessel::OpenGL::Lines mCoastLines;
 };

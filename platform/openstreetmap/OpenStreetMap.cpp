@@ -177,6 +177,14 @@ void OpenStreetMap::setLabelFont(const void* data, std::size_t bytes, int pixelS
     d->picture.setStale();
 }
 
+void OpenStreetMap::setLabelTop(int pixels)
+{
+    if (d->painter.labelTop() != pixels) {
+        d->painter.setLabelTop(pixels);
+        d->picture.setStale();
+    }
+}
+
 void OpenStreetMap::setProjection(ProjectionType /*type*/) {} // there is but one
 
 void OpenStreetMap::setMapType(MapType type)

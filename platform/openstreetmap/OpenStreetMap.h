@@ -47,6 +47,8 @@ public:
     [[nodiscard]] bool setCoastLines(const char* file);
     /// The font of the graticule's labels, a TrueType file in memory, its size in device pixels.
     void setLabelFont(const void* data, std::size_t bytes, int pixelSize);
+    /// The upper end of the labels, in device pixels: above it something may lie over the map.
+    void setLabelTop(int pixels);
 
     void setProjection(ProjectionType type);
     void setMapType(MapType type);
