@@ -27,8 +27,12 @@ TEST(MapProjectionTest, WindowAndPlaceAgreeAtAllZoomsAndLatitudes)
         for (const double longitude : {-180.0, -179.999, -12.0, 0.0, 11.5, 179.9999}) {
             for (double range = 50.0; range < 2.0e7; range *= 9.7) {
                 const MapProjection projection = view({latitude, longitude}, range);
-                for (const WindowPoint pixel :
-                     {WindowPoint{0.0, 400.0}, {600.0, 400.0}, {1199.5, 410.25}, {333.0, 395.0}}) {
+                for (const WindowPoint pixel : {WindowPoint{0.0, 0.0},
+                                                {1200.0, 0.0},
+                                                {0.0, 800.0},
+                                                {1200.0, 800.0},
+                                                {600.0, 400.0},
+                                                {1199.5, 410.25}}) {
                     const GeoPoint place = projection.toGeo(pixel);
                     const WindowPoint back = projection.toWindow(place);
                     if (std::abs(place.latitude) < 85.0 &&
