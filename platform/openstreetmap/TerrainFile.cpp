@@ -80,10 +80,9 @@ const std::vector<std::int16_t>& TerrainFile::row(int number)
 {
     Row& kept = mRows[static_cast<std::size_t>(number) % mRows.size()];
     if (kept.number != number) {
-        const auto posts = static_cast<std::size_t>(mSide);
-        const auto bytes = static_cast<qint64>(posts * kPostBytes);
+        const qint64 bytes = static_cast<qint64>(mSide) * kPostBytes;
         kept.number = number;
-        kept.posts.resize(posts);
+        kept.posts.resize(static_cast<std::size_t>(mSide));
         auto* data = reinterpret_cast<char*>(kept.posts.data());
         if (mFile.seek(number * bytes) && mFile.read(data, bytes) == bytes) {
             qFromBigEndian<qint16>(data, mSide, data);

@@ -63,7 +63,7 @@ TEST(TerrainStoreTest, GroundIsRoundBetweenThePosts)
     };
     writeTerrain(dir.filePath(QStringLiteral("N48E011.hgt")), 1201, [&](double x, double y) {
         const bool isHole = x == 0.5 && y == 0.5;
-        return isHole ? -32768 : static_cast<int>(bowl(x * 1200.0, y * 1200.0) + 0.5);
+        return isHole ? -32768 : static_cast<int>(std::lround(bowl(x * 1200.0, y * 1200.0)));
     });
     TerrainStore terrain(dir.path());
     const auto height = [&](double column, double row) {
