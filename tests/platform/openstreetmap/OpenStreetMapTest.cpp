@@ -184,8 +184,6 @@ TEST_F(OpenStreetMapTest, WhatArrivesIsAddedToThePictureAsIfAllWereDrawn)
     const QImage shaded = settled();
     EXPECT_NE(shaded, plain);
     EXPECT_EQ(shaded, complete());
-    mMap->setShadingContrast(3.0);
-    EXPECT_NE(settled(), shaded);
     mMap->setBrightness(0.5);
     EXPECT_LT(render().pixelColor(20, 390).lightness(), shaded.pixelColor(20, 390).lightness());
     mMap->setShading(false);

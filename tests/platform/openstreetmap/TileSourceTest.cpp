@@ -97,12 +97,12 @@ TEST_F(TileSourceTest, FourAtATimeAndOnlyWhatIsStillWanted)
 {
     mServer.setMode(TileServer::Mode::Slow);
     std::vector<TileAddress> tiles;
-    tiles.reserve(20);
-    for (int x = 0; x < 20; ++x) {
+    tiles.reserve(12);
+    for (int x = 0; x < 12; ++x) {
         tiles.push_back({5, x, 3});
     }
     settle(mSource, tiles);
-    EXPECT_EQ(mPictures.size(), 20U);
+    EXPECT_EQ(mPictures.size(), 12U);
     EXPECT_EQ(mServer.mostParallel(), 4);
     EXPECT_EQ(mServer.mostSockets(), 4);
 
@@ -110,13 +110,13 @@ TEST_F(TileSourceTest, FourAtATimeAndOnlyWhatIsStillWanted)
     tiles.assign({{6, 1, 3}, {6, 2, 3}, {6, 3, 3}, {6, 4, 3}, {6, 5, 3}, {6, 6, 3}});
     ASSERT_TRUE(waitFor([&] {
         mSource.want(tiles, {});
-        return mServer.requests() >= 24;
+        return mServer.requests() >= 16;
     }));
     mServer.setMode(TileServer::Mode::Tiles);
     const std::vector<TileAddress> elsewhere{{5, 30, 30}};
     settle(mSource, elsewhere);
     EXPECT_EQ(mPictures.count(elsewhere[0]), 1U);
-    EXPECT_EQ(mServer.requests(), 25) << "what is out of sight is not fetched";
+    EXPECT_EQ(mServer.requests(), 17) << "what is out of sight is not fetched";
 }
 
 TEST_F(TileSourceTest, AnOldTileIsShownWhileTheServerIsAsked)

@@ -7,19 +7,19 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 namespace OpenStreet::Test {
 
 /// Writes heights of a square degree; `height` takes fractions from the west and the north.
-inline void writeTerrain(const QString& path, int side,
-                         const std::function<int(double, double)>& height)
+template <typename Height>
+void writeTerrain(const QString& path, int side, const Height& height)
 {
     QByteArray bytes(side * side * 2, '\0');
+    char* next = bytes.data();
     for (int row = 0; row < side; ++row) {
         for (int column = 0; column < side; ++column) {
             const int metres = height(column / (side - 1.0), row / (side - 1.0));
-            qToBigEndian(static_cast<qint16>(metres), bytes.data() + (row * side + column) * 2);
+            qToBigEndian(static_cast<qint16>(metres), next);
+            next += 2;
         }
     }
     QFile file(path);
