@@ -64,12 +64,12 @@ private:
 } // namespace
 
 void appendRibbon(const ColorProgram::Vertex* points, std::size_t count,
-                  std::vector<RibbonProgram::Vertex>& vertices)
+                  std::vector<RibbonProgram::Vertex>& ribbon)
 {
     if (count == 0) {
         return;
     }
-    Ribbon ribbon(vertices);
+    Ribbon edges(ribbon);
     const ColorProgram::Vertex* last = points;
     Direction before;
     bool begun = false;
@@ -79,18 +79,18 @@ void appendRibbon(const ColorProgram::Vertex* points, std::size_t count,
             continue;
         }
         if (begun) {
-            ribbon.turn(*last, before, way);
+            edges.turn(*last, before, way);
         } else {
-            ribbon.across(*last, way, -1.0F);
+            edges.across(*last, way, -1.0F);
             begun = true;
         }
         before = way;
         last = &points[i];
     }
     if (!begun) {
-        ribbon.across(*last, before, -1.0F);
+        edges.across(*last, before, -1.0F);
     }
-    ribbon.across(*last, before, 1.0F);
+    edges.across(*last, before, 1.0F);
 }
 
 } // namespace Tessel::OpenGL

@@ -29,6 +29,7 @@ std::vector<FlightPathPoint> pathOf(const std::vector<std::pair<double, double>>
 std::vector<std::pair<double, double>> wave(int count)
 {
     std::vector<std::pair<double, double>> places;
+    places.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i) {
         places.emplace_back(47.0 + 0.01 * std::sin(i / 5.0), 8.0 + i * 1e-4);
     }
