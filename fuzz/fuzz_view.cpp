@@ -64,7 +64,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
 {
     provideApplication();
     ViewVariables variables;
-    ViewReader reader(variables);
+    constexpr ViewReader::Layout kLayouts[] = {ViewReader::Layout::Wide, ViewReader::Layout::Tall,
+                                               ViewReader::Layout::Low};
+    ViewReader reader(variables, kLayouts[size % 3]); // any of them, the same for the same input
     const QByteArray text(reinterpret_cast<const char*>(bytes), static_cast<int>(size));
     reader.read(text);
     for (const ViewError& error : reader.errors()) {

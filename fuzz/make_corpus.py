@@ -314,6 +314,8 @@ def views():
     yield "shapes", ("view size=10,10\nrectangle at=1,1 size=1e5,0 corner=1e5 line=text width=1e5 fill=muted\n"
                      "line from=-1e5,-1e5 to=1e5,1e5 width=0\narc at=5,5 radius=1e5 sweep=360,-360 width=1e5\n")
     yield "groups", "view size=9,9\n" + "group at=1e5,1e5 {\n" * 40 + "line from=1,1 to=2,2\n" + "}\n" * 41
+    yield "layouts", ("view size=9,5 tall=5,9 low=20,2\ngroup at=1,1 tall=2,2 low=3,0 {\nvalue var=N at=1,1\n}\n"
+                      "lamp at=1,1 size=2,2 if=\"TALL = 1 or LOW = 1 or N_MISSING = 1\"\n")
     yield "no-text", bytes(range(256)) * 4
     yield "mistakes", "view size=9,9\n" + "x y=1 {\n" * 200
 
