@@ -3,6 +3,8 @@
 #include <QOpenGLContext>
 #include <QOpenGLExtraFunctions>
 
+#include <algorithm>
+
 namespace Tessel::OpenGL {
 
 namespace {
@@ -34,6 +36,11 @@ bool PictureBuffer::begin(const QSize& pixels)
 {
     GLint target = 0; // making a buffer binds it
     functions().glGetIntegerv(GL_FRAMEBUFFER_BINDING, &target);
+    GLint largest = 0;
+    functions().glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largest);
+    if (std::max(pixels.width(), pixels.height()) > largest) {
+        return false; // trying would print a warning with each picture
+    }
     if (!holds(pixels)) {
         release(); // before the next ones take their memory
         QOpenGLFramebufferObjectFormat format;
