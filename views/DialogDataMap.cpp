@@ -8,6 +8,7 @@
 #include "views/GraphValues.h"
 #include "views/MapColoring.h"
 #include "views/MapMenu.h"
+#include "views/MapTexts.h"
 #include "views/MapTrack.h"
 #include "views/MapValues.h"
 #include "views/WidgetMap.h"
@@ -224,7 +225,7 @@ void DialogDataMap::fillDataLabel()
     for (const ProfileParameter* parameter : mSelection.values(mProfile)) {
         DataEntry entry;
         entry.parameter = parameter;
-        entry.label = MapMenu::label(mProfile, *parameter) + QLatin1Char(':');
+        entry.label = MapTexts::label(mProfile, *parameter) + QLatin1Char(':');
         fillEntry(entry);
         rows.push_back({entry.label, entry.value, entry.color});
         mEntries.push_back(entry);

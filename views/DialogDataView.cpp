@@ -92,8 +92,7 @@ void DialogDataView::updateView()
         for (const ViewParameter& shown : mParameters) {
             int state = 0;
             QColor color;
-            const double time = timeOfValue(shown.parameter);
-            const double value = mCard.getValue(shown.parameter, time, state, color);
+            const double value = valueAtCursor(shown.parameter, state, color);
             mView->setVar(shown.missingId.c_str(), isMissing(shown.parameter) ? 1L : 0L);
             if (!std::isnan(value)) {
                 mView->setVar(shown.viewId.c_str(), value);
@@ -112,12 +111,15 @@ bool DialogDataView::isMissing(const ProfileParameter& p) const
     return mCard.loadedData().entries(static_cast<std::uint32_t>(p.id)).empty();
 }
 
-/// The cursor, or the last entry where the cursor is behind it: a look-up there finds 0, but the
-/// engine has what it had.
-double DialogDataView::timeOfValue(const ProfileParameter& p) const
+/// Behind the last entry a look-up finds 0, but the engine has what it had.
+double DialogDataView::valueAtCursor(const ProfileParameter& p, int& state, QColor& color)
 {
     const EntryList& entries = mCard.loadedData().entries(static_cast<std::uint32_t>(p.id));
-    return entries.empty() ? mTime : std::min(mTime, entries.back().time);
+    if (entries.empty() || entries.firstAtOrAfter(mTime) < entries.size()) {
+        return mCard.getValue(p, mTime, state, color);
+    }
+    mProfile.resetCoordinates();
+    return mProfile.getDouble(entries.back(), p, state, color, true);
 }
 
 /// The number that the current variant's entry in the profile has as its id.

@@ -77,7 +77,7 @@ private:
     void trackKey(int key, bool isDown);
     [[nodiscard]] int variantNumber() const;
     [[nodiscard]] bool isMissing(const ProfileParameter& p) const;
-    [[nodiscard]] double timeOfValue(const ProfileParameter& p) const;
+    double valueAtCursor(const ProfileParameter& p, int& state, QColor& color);
 
     Profile& mProfile;
     CardContainer& mCard;

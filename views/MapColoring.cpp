@@ -2,12 +2,14 @@
 
 #include "card/RecordData.h"
 #include "profile/Profile.h"
+#include "views/MapTexts.h"
 
 #include <QColor>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <map>
 
 namespace VELIX {
@@ -106,8 +108,11 @@ void nameEnds(MapColoring& coloring, const std::vector<double>& values, const Pr
         return;
     }
     const auto named = [names](const QString& number, double value) {
+        if (number.isEmpty() || std::abs(value) > std::numeric_limits<int>::max()) {
+            return number;
+        }
         const auto found = names->values.find(static_cast<int>(value));
-        return number.isEmpty() || found == names->values.end() ? number : found->second.label;
+        return found == names->values.end() ? number : found->second.label;
     };
     const auto [lowest, highest] = rangeOf(values);
     coloring.lowest = named(coloring.lowest, lowest);
@@ -173,8 +178,8 @@ MapColoring MapColoring::byParameter(const std::vector<FlightPathPoint>& path,
             passed.emplace(state, color.rgb());
         }
     }
-    MapColoring result =
-        coloring(parameter.name, profile.systemUnit(parameter), decimalsOf(values), values);
+    MapColoring result = coloring(MapTexts::label(profile, parameter),
+                                  profile.systemUnit(parameter), decimalsOf(values), values);
     for (std::size_t i = 0; i < path.size(); ++i) {
         if (judged[i] != 0) {
             result.colors[i] = judged[i];

@@ -3,6 +3,7 @@
 #include "profile/DataType.h"
 #include "profile/Profile.h"
 #include "views/MapSelection.h"
+#include "views/MapTexts.h"
 
 #include <QActionGroup>
 #include <QMouseEvent>
@@ -40,15 +41,6 @@ MapMenu::MapMenu(const Profile& profile, MapSelection& selection, QWidget* paren
     addColors();
 }
 
-QString MapMenu::label(const Profile& profile, const ProfileParameter& parameter)
-{
-    const auto selected = profile.selectedParameters();
-    const auto sameName =
-        std::count_if(selected.begin(), selected.end(),
-                      [&](const ProfileParameter* other) { return other->name == parameter.name; });
-    return sameName > 1 ? parameter.fullName : parameter.name;
-}
-
 void MapMenu::addValues()
 {
     mValues = new TickMenu(tr("Show Values"), this);
@@ -56,7 +48,7 @@ void MapMenu::addValues()
     addMenu(mValues);
     const auto shown = mSelection.values(mProfile);
     for (const ProfileParameter* parameter : mProfile.selectedParameters()) {
-        QAction* action = mValues->addAction(label(mProfile, *parameter));
+        QAction* action = mValues->addAction(MapTexts::label(mProfile, *parameter));
         action->setCheckable(true);
         action->setChecked(std::find(shown.begin(), shown.end(), parameter) != shown.end());
         connect(action, &QAction::toggled, this,
@@ -93,7 +85,7 @@ void MapMenu::addColors()
     for (const ProfileParameter* parameter : mProfile.selectedParameters()) {
         const bool isNumber = extractionOf(parameter->dataType) != EExtraction::None;
         if (isNumber && parameter->velixDataType != QLatin1String("Altitude")) {
-            addColor(*colors, *group, label(mProfile, *parameter), parameter->fullName);
+            addColor(*colors, *group, MapTexts::label(mProfile, *parameter), parameter->fullName);
         }
     }
 }

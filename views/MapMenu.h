@@ -19,10 +19,6 @@ class MapMenu : public QMenu
 public:
     MapMenu(const Profile& profile, MapSelection& selection, QWidget* parent);
 
-    /// What a list of the selected parameters calls this one: its name, or with its device where
-    /// another device has a parameter of that name.
-    static QString label(const Profile& profile, const ProfileParameter& parameter);
-
 signals:
     void signalValuesChanged();
     void signalColorChanged();

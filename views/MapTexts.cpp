@@ -1,7 +1,9 @@
 #include "views/MapTexts.h"
 
 #include "card/CardContainer.h"
+#include "profile/Profile.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace VELIX::MapTexts {
@@ -63,6 +65,15 @@ QString moment(const FlightPathPoint& point, bool imperial)
         .arg(CardContainer::time(point.time).left(kTenths))
         .arg(altitude, 0, 'f', 0)
         .arg(imperial ? QStringLiteral("ft") : QStringLiteral("m"));
+}
+
+QString label(const Profile& profile, const ProfileParameter& parameter)
+{
+    const auto selected = profile.selectedParameters();
+    const auto sameName =
+        std::count_if(selected.begin(), selected.end(),
+                      [&](const ProfileParameter* other) { return other->name == parameter.name; });
+    return sameName > 1 ? parameter.fullName : parameter.name;
 }
 
 } // namespace VELIX::MapTexts

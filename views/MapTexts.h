@@ -6,6 +6,9 @@
 
 namespace VELIX {
 
+class Profile;
+struct ProfileParameter;
+
 /// A length that is easy to read, and how long it is.
 struct MapScaleBar
 {
@@ -27,6 +30,9 @@ MapScaleBar scaleBar(double mostMetres, bool imperial);
 QString position(double latitude, double longitude);
 /// Time of day and altitude, as "00:12:31.4  1234 m".
 QString moment(const FlightPathPoint& point, bool imperial);
+/// A parameter among the selected ones: its name, with its device where another device has a
+/// parameter of that name.
+QString label(const Profile& profile, const ProfileParameter& parameter);
 
 } // namespace MapTexts
 } // namespace VELIX

@@ -11,7 +11,10 @@ constexpr const char* kReasons[] = {
     QT_TRANSLATE_NOOP("VELIX::MapTileNotice", "not an address of HTTP or HTTPS"),
     QT_TRANSLATE_NOOP("VELIX::MapTileNotice", "no answer in time"),
     QT_TRANSLATE_NOOP("VELIX::MapTileNotice", "not a picture of a tile"),
+    QT_TRANSLATE_NOOP("VELIX::MapTileNotice", "larger than a tile can be"),
+    QT_TRANSLATE_NOOP("VELIX::MapTileNotice", "not whole in time"),
 };
+constexpr const char* kStatus = "HTTP status ";
 
 QString translated(const char* reason)
 {
@@ -20,7 +23,11 @@ QString translated(const char* reason)
             return MapTileNotice::tr(known);
         }
     }
-    return QString::fromUtf8(reason);
+    const QString text = QString::fromUtf8(reason);
+    const QString status = QString::fromLatin1(kStatus);
+    return text.startsWith(status)
+               ? MapTileNotice::tr("HTTP status %1").arg(text.mid(status.size()))
+               : text;
 }
 
 } // namespace

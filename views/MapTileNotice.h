@@ -15,7 +15,7 @@ class MapTileNotice
     Q_DECLARE_TR_FUNCTIONS(VELIX::MapTileNotice)
 
 public:
-    /// Takes a reason in English; each one is printed once.
+    /// Takes a reason as the map gives it; each one is printed once.
     void fail(const char* url, const char* reason);
     /// Whether some tile failed.
     [[nodiscard]] bool hasReason() const { return !mReason.isEmpty(); }

@@ -44,7 +44,6 @@ void WidgetGraphES::drawLines(const std::vector<VELIX::GraphVertex>& vertices, c
     }
     mGridLines.setColor(toColor(colour));
     mGridLines.setWidth(width);
-    mGridLines.setAntiAliasing(false); // the frame buffer is multisampled
     mGridLines.render(mProgram, mMatrices);
 }
 
@@ -63,7 +62,6 @@ void WidgetGraphES::drawCurve(const VELIX::GraphCurve& curve, const QColor& colo
     mStrips.setColor(toColor(colour));
     mStrips.setWidth(width);
     mStrips.setPointSize(pointSize);
-    mStrips.setAntiAliasing(false); // the frame buffer is multisampled
     mStrips.render(mProgram, mMatrices);
 }
 

@@ -11,6 +11,7 @@
 
 #include <QFile>
 #include <QOpenGLContext>
+#include <QShowEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -147,7 +148,7 @@ void WidgetMap::showEvent(QShowEvent* event)
         mResized = true; // a widget that grew with every showing would leave its window
         mResizeTimer.start(kResizeDelay);
     }
-    mRetryTiles = mMapSetUp;
+    mRetryTiles = mMapSetUp && !event->spontaneous(); // not with every change of desktop
     mDirty = true;
 }
 

@@ -89,7 +89,6 @@ void WidgetMap::drawMap()
     mMap->render();
     glDisable(GL_DEPTH_TEST);
     glDisable(GL_BLEND);
-    glDisable(GL_LINE_SMOOTH);
     setViewPortOrtho();
 }
 

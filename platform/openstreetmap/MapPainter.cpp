@@ -120,6 +120,22 @@ bool MapPainter::covers(const std::vector<PlacedTile>& tiles) const
     });
 }
 
+bool MapPainter::shows(const PlacedTile& tile) const
+{
+    return covers({tile}) || hasDescendant(tile.address, kMostDescendants);
+}
+
+bool MapPainter::hasDescendant(const TileAddress& tile, int levels) const
+{
+    for (int quarter = 0; levels > 0 && quarter < 4; ++quarter) {
+        const TileAddress child{tile.zoom + 1, tile.x * 2 + quarter % 2, tile.y * 2 + quarter / 2};
+        if (mTiles.has(child) || hasDescendant(child, levels - 1)) {
+            return true;
+        }
+    }
+    return false;
+}
+
 void MapPainter::drawTiles(const std::vector<PlacedTile>& tiles, double brightness)
 {
     const float light = toFloat(std::clamp(brightness, 0.0, 1.0));

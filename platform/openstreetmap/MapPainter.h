@@ -37,6 +37,8 @@ public:
     void drawShades(const std::vector<PlacedTile>& tiles);
     /// Whether each tile is there itself or in an ancestor.
     [[nodiscard]] bool covers(const std::vector<PlacedTile>& tiles) const;
+    /// Whether anything is drawn for the tile: itself, or what stands in for it.
+    [[nodiscard]] bool shows(const PlacedTile& tile) const;
 
     void release();
 
@@ -44,6 +46,7 @@ private:
     bool drawAncestor(TileTextures& textures, const PlacedTile& tile,
                       const Tessel::OpenGL::Color& color);
     void prepareTextures();
+    [[nodiscard]] bool hasDescendant(const TileAddress& tile, int levels) const;
     void drawDescendants(const PlacedTile& tile, int levels, const Tessel::OpenGL::Color& color);
 
     Tessel::OpenGL::GlHandler mGl;

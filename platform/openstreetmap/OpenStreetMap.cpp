@@ -295,7 +295,7 @@ bool OpenStreetMap::hasTiles() const
 {
     const std::vector<PlacedTile> placed = visibleTiles(d->projection);
     return std::any_of(placed.begin(), placed.end(),
-                       [this](const PlacedTile& tile) { return d->painter.covers({tile}); });
+                       [this](const PlacedTile& tile) { return d->painter.shows(tile); });
 }
 
 void OpenStreetMap::setArrivedCallback(const std::function<void()>& callback)

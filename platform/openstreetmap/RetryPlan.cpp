@@ -58,10 +58,19 @@ bool RetryPlan::mayAsk(const TileAddress& tile, double now) const
     return now >= mServer.until && (found == mTiles.end() || now >= found->second.until);
 }
 
+void RetryPlan::retry()
+{
+    mTiles.clear();
+    if (!mRefused) {
+        mServer = {};
+    }
+}
+
 void RetryPlan::clear()
 {
     mTiles.clear();
     mServer = {};
+    mRefused = false;
 }
 
 } // namespace OpenStreet

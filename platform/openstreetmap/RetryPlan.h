@@ -23,7 +23,9 @@ public:
     void failed(const TileAddress& tile, Failure failure, double now, double pause = 0.0);
     void succeeded(const TileAddress& tile, double now);
     [[nodiscard]] bool mayAsk(const TileAddress& tile, double now) const;
-    /// For another server, or another try at once.
+    /// Another try at once; but a server that refused is left alone for its time.
+    void retry();
+    /// For another server.
     void clear();
 
 private:

@@ -12,7 +12,7 @@ namespace OpenStreet {
 
 /// Heights of one square degree: an .hgt file of 1201 or 3601 rows of as many big-endian 16-bit
 /// metres, from the north-western corner; the borders are shared with the neighbours. Rows are read
-/// when they are asked for, the last two are kept: a file that shrinks in the meantime has holes.
+/// when they are asked for, the last four are kept: a file that shrinks in the meantime has holes.
 class TerrainFile
 {
 public:

@@ -34,12 +34,15 @@ int statusOf(const QNetworkReply& reply)
     return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
 }
 
-RetryPlan::Failure failureOf(int status)
+/// Some servers forbid the tiles that they do not have: of one that has sent others it is no
+/// refusal.
+RetryPlan::Failure failureOf(int status, bool hasSent)
 {
     switch (status) {
     case 0:
         return RetryPlan::Failure::Server;
     case kForbidden:
+        return hasSent ? RetryPlan::Failure::Tile : RetryPlan::Failure::Refusal;
     case kTooManyRequests:
     case kUnavailable:
         return RetryPlan::Failure::Refusal;
@@ -88,13 +91,15 @@ void TileFetcher::setServer(const QString& server)
         mServer = server.trimmed();
         mQueue.clear();
         dropUnwanted({});
-        retry();
+        mRetries.clear();
+        mTold.clear();
+        mHasSent = false;
     }
 }
 
 void TileFetcher::retry()
 {
-    mRetries.clear();
+    mRetries.retry();
     mTold.clear();
 }
 
@@ -175,8 +180,10 @@ void TileFetcher::start(const Request& request)
     const TileAddress tile = request.tile;
     limit(tile, *reply);
     connect(reply, &QNetworkReply::sslErrors, this, [this, tile](const QList<QSslError>& errors) {
-        if (!errors.isEmpty()) { // the connection ends itself, without saying which
-            mRunning[tile].stopped = errors.first().errorString();
+        const auto running = mRunning.find(tile);
+        if (running != mRunning.end() && !errors.isEmpty()) {
+            // The connection ends itself, without saying which.
+            running->second.stopped = errors.first().errorString();
         }
     });
     connect(reply, &QNetworkReply::finished, this, [this, request, reply] {
@@ -218,6 +225,7 @@ void TileFetcher::stop(const TileAddress& tile, const QNetworkReply& reply, cons
 
 void TileFetcher::succeed(const TileAddress& tile)
 {
+    mHasSent = true;
     mRetries.succeeded(tile, now());
     for (auto it = mTold.begin(); it != mTold.end();) {
         it = it->second != RetryPlan::Failure::Tile ? mTold.erase(it) : std::next(it);
@@ -267,7 +275,7 @@ void TileFetcher::finish(const Request& request, QNetworkReply& reply)
         return;
     }
     // The header may also give a date, which stands for the usual pause here.
-    fail(request.tile, failureOf(status), stopped.isEmpty() ? reasonOf(reply) : stopped,
+    fail(request.tile, failureOf(status, mHasSent), stopped.isEmpty() ? reasonOf(reply) : stopped,
          reply.rawHeader("Retry-After").trimmed().toDouble());
 }
 

@@ -65,9 +65,9 @@ signals:
                  const OpenStreet::TileFreshness& freshness);
     /// The copy that is there is up to date.
     void unchanged(const OpenStreet::TileAddress& tile, const OpenStreet::TileFreshness& freshness);
-    /// Why there is no tile, in English. Not for each tile that fails: the same reason is given
-    /// again only for another server, after retry() or, where it is the server's as a whole, when
-    /// it has sent a tile since.
+    /// Why there is no tile: in English, but for what the network itself reports. Not for each tile
+    /// that fails: the same reason is given again only for another server, after retry() or, where
+    /// it is the server's as a whole, when it has sent a tile since.
     void failed(const QString& url, const QString& reason);
 
 private:
@@ -95,6 +95,7 @@ private:
     std::map<TileAddress, Running> mRunning;
     Patience mPatience;
     RetryPlan mRetries;
+    bool mHasSent = false;                       ///< the server, a tile
     std::map<QString, RetryPlan::Failure> mTold; ///< reasons that were given
     QElapsedTimer mClock;
 };

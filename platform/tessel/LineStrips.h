@@ -10,9 +10,9 @@ namespace Tessel::OpenGL {
 
 class GlHandler;
 
-/// Connected lines in space, in one colour or with a colour for every vertex: a path. All strips
-/// are drawn with one call, as areas: equally wide in every direction, and a strip of one place is
-/// a square. The context rule of GlBuffer holds.
+/// Connected lines in space, seen along z (their width is across x and y), in one colour or with a
+/// colour for every vertex: a path. All strips are drawn with one call, as areas: equally wide in
+/// every direction, and a strip of one place is a square. The context rule of GlBuffer holds.
 ///
 /// Vertices are single precision: give them relative to a near origin and move that with the
 /// matrices.

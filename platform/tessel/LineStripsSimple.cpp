@@ -1,7 +1,6 @@
 #include "platform/tessel/LineStripsSimple.h"
 
 #include "platform/tessel/Gl.h"
-#include "platform/tessel/SmoothLines.h"
 #include "platform/tessel/StripSizes.h"
 
 namespace Tessel::OpenGL {
@@ -44,7 +43,6 @@ void LineStripsSimple::render(LineProgram& program, const MatrixSet& matrices)
     }
     mVertices.bind();
     if (program.begin(matrices, mColor)) {
-        const SmoothLines smooth(mAntiAliasing);
         glLineWidth(mWidth);
         fillStripSizes(mStarts, size, mSizes);
         glMultiDrawArrays(GL_LINE_STRIP, mStarts.data(), mSizes.data(),

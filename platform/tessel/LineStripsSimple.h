@@ -22,8 +22,6 @@ public:
     void setColor(const Color& color) { mColor = color; }
     /// In pixels of the frame buffer.
     void setWidth(float pixels) { mWidth = pixels; }
-    /// Smooth edges by blending; needless, and slow in software, on a multisampled frame buffer.
-    void setAntiAliasing(bool on) { mAntiAliasing = on; }
     /// A square of this edge (pixels of the frame buffer) on every vertex; 0: none.
     void setPointSize(float pixels) { mPointSize = pixels; }
 
@@ -37,7 +35,6 @@ private:
     Color mColor;
     float mWidth = 1.0F;
     float mPointSize = 0.0F;
-    bool mAntiAliasing = false;
 };
 
 } // namespace Tessel::OpenGL

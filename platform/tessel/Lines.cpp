@@ -1,7 +1,6 @@
 #include "platform/tessel/Lines.h"
 
 #include "platform/tessel/Gl.h"
-#include "platform/tessel/SmoothLines.h"
 
 namespace Tessel::OpenGL {
 
@@ -18,7 +17,6 @@ void Lines::render(LineProgram& program, const MatrixSet& matrices)
     }
     mVertices.bind();
     if (program.begin(matrices, mColor)) {
-        const SmoothLines smooth(mAntiAliasing);
         glLineWidth(mWidth);
         glDrawArrays(GL_LINES, 0, static_cast<GLsizei>(mVertices.size()));
         LineProgram::end();

@@ -15,8 +15,6 @@ public:
     void setColor(const Color& color) { mColor = color; }
     /// In pixels of the frame buffer.
     void setWidth(float pixels) { mWidth = pixels; }
-    /// Smooth edges by blending; needless, and slow in software, on a multisampled frame buffer.
-    void setAntiAliasing(bool on) { mAntiAliasing = on; }
 
     void render(LineProgram& program, const MatrixSet& matrices);
     void release() { mVertices.release(); }
@@ -25,7 +23,6 @@ private:
     VertexBuffer mVertices;
     Color mColor;
     float mWidth = 1.0F;
-    bool mAntiAliasing = false;
 };
 
 } // namespace Tessel::OpenGL

@@ -14,6 +14,15 @@ QOpenGLExtraFunctions& functions()
     return *QOpenGLContext::currentContext()->extraFunctions();
 }
 
+GLint largestSide()
+{
+    GLint texture = 0;
+    GLint several = 0; // samples need the other kind of memory
+    functions().glGetIntegerv(GL_MAX_TEXTURE_SIZE, &texture);
+    functions().glGetIntegerv(GL_MAX_RENDERBUFFER_SIZE, &several);
+    return std::min(texture, several);
+}
+
 void copy(const QOpenGLFramebufferObject& source, GLuint target)
 {
     QOpenGLExtraFunctions& gl = functions();
@@ -36,9 +45,8 @@ bool PictureBuffer::begin(const QSize& pixels)
 {
     GLint target = 0; // making a buffer binds it
     functions().glGetIntegerv(GL_FRAMEBUFFER_BINDING, &target);
-    GLint largest = 0;
-    functions().glGetIntegerv(GL_MAX_TEXTURE_SIZE, &largest);
-    if (std::max(pixels.width(), pixels.height()) > largest) {
+    if (std::max(pixels.width(), pixels.height()) > largestSide()) {
+        release();
         return false; // trying would print a warning with each picture
     }
     if (!holds(pixels)) {

@@ -1779,6 +1779,18 @@ Soll sie ersetzt werden?</translation>
         <source>No map tiles: %1</source>
         <translation>Keine Kartenkacheln: %1</translation>
     </message>
+    <message>
+        <source>larger than a tile can be</source>
+        <translation>größer, als eine Kachel sein kann</translation>
+    </message>
+    <message>
+        <source>not whole in time</source>
+        <translation>nicht rechtzeitig vollständig</translation>
+    </message>
+    <message>
+        <source>HTTP status %1</source>
+        <translation>HTTP-Status %1</translation>
+    </message>
 </context>
 <context>
     <name>VELIX::PreferencesGeneral</name>

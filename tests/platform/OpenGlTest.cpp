@@ -187,19 +187,6 @@ TEST_F(OpenGlTest, ReleasedBuffersAreMadeAgain)
     EXPECT_EQ(lit(), before);
 }
 
-TEST_F(OpenGlTest, SmoothLinesHaveSoftEdgesAndLeaveNoTrace)
-{
-    Lines lines;
-    lines.addLine(2.0F, 2.0F, 29.0F, 11.0F);
-    lines.render(mProgram, mMatrices);
-    const int hard = lit();
-    clear();
-    lines.setAntiAliasing(true);
-    lines.render(mProgram, mMatrices);
-    EXPECT_GT(lit(), hard);
-    EXPECT_FALSE(mContext.functions()->glIsEnabled(GL_BLEND));
-}
-
 TEST_F(OpenGlTest, APathTakesTheColourOfEachVertexOrOneForAll)
 {
     LineStrips path;

@@ -70,7 +70,7 @@ struct DialogDataViewTest : ::testing::Test
         folder.add("resources/views/instruments.v", QByteArray(kView));
         loadProfile("OIL");
         record.id(kOil).at(1.0).floatValue(20.0F).at(2.0).floatValue(60.0F).at(3.0).floatValue(NAN);
-        record.at(4.0).floatValue(90.0F).at(5.0).floatValue(0.0F);
+        record.at(4.0).floatValue(90.0F).at(5.0).floatValue(30.0F);
         card.add("1.CAN", record);
         ASSERT_TRUE(container.readContainer(card.path()));
         ASSERT_EQ(container.loadFiles({QStringLiteral("1.CAN")}), 1);
@@ -136,7 +136,7 @@ TEST_F(DialogDataViewTest, FollowsTheCursorAndKeepsTheLastNumber)
         double time;
         const char* bar;
     } rows[] = {{1.5, "20 #ffffff"}, {2.5, "60 #ffff00"}, {3.5, "60 #ffff00"}, // not a number
-                {4.5, "90 #ff0000"}, {9.0, "90 #ff0000"}, // behind the last entry
+                {4.5, "90 #ff0000"}, {9.0, "30 #ffffff"}, // behind the last entry
                 {1.5, "20 #ffffff"}};
     for (const auto& row : rows) {
         view->setTime(row.time);

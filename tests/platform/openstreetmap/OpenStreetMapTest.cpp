@@ -137,6 +137,7 @@ TEST_F(OpenStreetMapTest, ZoomingNeverShowsHoles)
     lookAt(7, 137.0 / 2, 88.5 / 2);
     image = render();
     EXPECT_EQ(image.pixelColor(280, 200), TileServer::tileColor(8, 136, 88)) << "descendants";
+    EXPECT_TRUE(mMap->hasTiles());
     EXPECT_EQ(image.pixelColor(320, 200), TileServer::tileColor(8, 137, 88));
 }
 

@@ -218,8 +218,10 @@ TEST_F(TileSourceTest, AServerThatRefusesIsLeftAloneForAsLongAsItAsks)
     EXPECT_EQ(mFailures, std::vector<std::string>{"HTTP status 429"});
     mServer.setMode(TileServer::Mode::Tiles);
     mSource.retry();
+    EXPECT_FALSE(waitFor(askAgain, 100)) << "nor when the user wants another try";
+    mSource.setServer(mServer.url() + QStringLiteral("/{z}/{x}/{y}.png"));
     settle(mSource, tiles);
-    EXPECT_EQ(mPictures.size(), 5U);
+    EXPECT_EQ(mPictures.size(), 5U) << "another server";
 }
 
 TEST_F(TileSourceTest, WhatIsNoTileCostsAMissingTileAndALaterTry)

@@ -71,6 +71,9 @@ TEST(RetryPlanTest, PausesGrowAndAServerWithoutAnswerPausesAllTiles)
 
     plan.failed(other, RetryPlan::Failure::Server, 400.0);
     EXPECT_FALSE(plan.mayAsk({5, 3, 3}, 401.0));
+    RetryPlan atOnce = plan;
+    atOnce.retry();
+    EXPECT_TRUE(atOnce.mayAsk(other, 401.0));
     EXPECT_TRUE(plan.mayAsk({5, 3, 3}, 402.0));
     plan.succeeded(other, 400.5);
     EXPECT_TRUE(plan.mayAsk(other, 400.5));
@@ -89,6 +92,7 @@ TEST(RetryPlanTest, AServerThatWantsNoRequestsIsLeftAloneForAsLongAsItAsksWithin
     plan.failed(tile, RetryPlan::Failure::Refusal, 100.0, 1e9);
     EXPECT_TRUE(plan.mayAsk(tile, 100.0 + 3601.0)) << "not for days";
     plan.failed(tile, RetryPlan::Failure::Refusal, 9000.0, -5.0);
+    plan.retry();
     EXPECT_FALSE(plan.mayAsk(other, 9001.0)) << "the usual pause";
     plan.clear();
     EXPECT_TRUE(plan.mayAsk(tile, 9001.0));
