@@ -150,7 +150,8 @@ struct MapWindow
     std::unique_ptr<PaintedMap> map;
 };
 
-void frame(benchmark::State& state)
+/// Of a map that stands still (only the aircraft moves) or that is dragged.
+void frame(benchmark::State& state, double step)
 {
     const std::vector<FlightPathPoint> path = circles(static_cast<int>(state.range(0)));
     MapWindow window(1200, 800, path);
@@ -160,6 +161,8 @@ void frame(benchmark::State& state)
     }
     window.map->setAcPosition(path.back());
     for (auto _ : state) {
+        window.context.centreLongitude += step; // degrees
+        step = -step;
         window.map->paintOnce();
     }
 }
@@ -215,7 +218,15 @@ void tilesToScreen(benchmark::State& state)
     state.counters["blockedMs"] = blocked * 1000.0;
 }
 
-BENCHMARK(frame)->Arg(2)->Arg(150000)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK_CAPTURE(frame, still, 0.0)
+    ->Arg(2)
+    ->Arg(150000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
+BENCHMARK_CAPTURE(frame, dragged, 0.0005)
+    ->Arg(150000)
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 BENCHMARK(pathToVertices)->Arg(500000)->Unit(benchmark::kMillisecond);
 BENCHMARK(tilesToScreen)->Iterations(5)->UseManualTime()->Unit(benchmark::kMillisecond);
 
