@@ -130,7 +130,7 @@ struct MapWindow
     {
         settings.setString("TileServer", server.url().toStdString());
         map->update();
-        const auto wait = [this](auto ready) {
+        const auto wait = [](auto ready) {
             const Tessel::Misc::Timer watch;
             while (!ready() && watch.elapsed() < 20.0) {
                 QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

@@ -63,7 +63,8 @@ TEST_F(CardLookup, GivesStateColourAndTheTruePositionAfterAJumpOfTheCursor)
     EXPECT_EQ(color, QColor(255, 0, 0));
     for (int i = 0; i < 20; ++i) {
         const int second = (i * 37) % 100;
-        const double degrees = second / 2 + (second % 2) * 50.0 / 60.0;
+        const int whole = second / 2;
+        const double degrees = whole + (second % 2) * 50.0 / 60.0;
         EXPECT_NEAR(mCard.getValue(latitude, second + 0.5), degrees, 1e-5) << second;
     }
 }

@@ -264,10 +264,11 @@ TEST(GraphTraceTest, FrameStates)
 
 TEST(GraphTraceTest, LongColumnsAreThoseOfTheirSamples)
 {
-    std::vector<Entry> entries;
-    for (int i = 0; i < 600; ++i) {
-        entries.push_back({1.0 * i, i == 256 ? -5.0 : 1.0, false});
+    std::vector<Entry> entries(600, {0.0, 1.0, false});
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        entries[i].time = static_cast<double>(i);
     }
+    entries[256].value = -5.0;
     GraphTrace trace = traceOf(entries);
     trace.recalcFrameBuffer(256.0, 599.0, 1000.0);
     EXPECT_EQ(text(trace.frames()), "255:4(1 1 1)") << "the second value sorts in late";
