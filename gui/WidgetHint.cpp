@@ -14,6 +14,23 @@ constexpr int Margin = 16;
 
 } // namespace
 
+QString WidgetHint::noRecord()
+{
+    return tr("No record loaded. Open the folder of a data card and choose a cycle, "
+              "a flight or a file.");
+}
+
+QString WidgetHint::noProfile()
+{
+    return tr("No parameter profile is installed. Without the profile of your engine, "
+              "recorded messages cannot be turned into values.");
+}
+
+QString WidgetHint::installProfile()
+{
+    return tr("Install a profile");
+}
+
 WidgetHint::WidgetHint(QWidget* parent)
     : QWidget(parent), mText(new QLabel(this)), mLink(new QLabel(this))
 {

@@ -13,6 +13,11 @@ class WidgetHint : public QWidget
     Q_OBJECT
 
 public:
+    /// What several panes say: sentences, and the text of a link.
+    static QString noRecord();
+    static QString noProfile();
+    static QString installProfile();
+
     explicit WidgetHint(QWidget* parent = nullptr);
     explicit WidgetHint(const QString& text, QWidget* parent = nullptr);
 

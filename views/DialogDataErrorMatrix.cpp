@@ -110,15 +110,13 @@ void DialogDataErrorMatrix::updateHint()
     QString text;
     QString link;
     if (mProfile.isEmpty()) {
-        text = tr("No parameter profile is installed. Without the profile of your engine, "
-                  "recorded messages cannot be turned into values.");
-        link = tr("Install a profile");
+        text = WidgetHint::noProfile();
+        link = WidgetHint::installProfile();
     } else if (mPanels.empty()) {
         text = tr("The profile has no fault matrix. Choose another variant, "
                   "or a profile that has one.");
     } else if (mRecord == nullptr && mMode == 0) {
-        text = tr("No record loaded. Open the folder of a data card and choose a cycle, "
-                  "a flight or a file.");
+        text = WidgetHint::noRecord();
     }
     mHint->setHint(text, link);
     mHint->setVisible(!text.isEmpty());

@@ -291,8 +291,7 @@ void DialogDataEvents::updateHint()
 {
     QString text;
     if (mRecord == nullptr) {
-        text = tr("No record loaded. Open the folder of a data card and choose a cycle, "
-                  "a flight or a file.");
+        text = WidgetHint::noRecord();
     } else if (mEvents.empty()) {
         text = mProfile.isEmpty() ? mTexts.noProfile : mTexts.none;
     }

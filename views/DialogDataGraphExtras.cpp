@@ -30,12 +30,10 @@ void DialogDataGraph::updateHint()
     mOffer = Offer::SelectParameters;
     if (mProfile.isEmpty()) {
         mOffer = Offer::InstallProfile;
-        text = tr("No parameter profile is installed. Without the profile of your engine, "
-                  "recorded messages cannot be turned into values.");
-        link = tr("Install a profile");
+        text = WidgetHint::noProfile();
+        link = WidgetHint::installProfile();
     } else if (mRecord == nullptr) {
-        text = tr("No record loaded. Open the folder of a data card and choose a cycle, "
-                  "a flight or a file.");
+        text = WidgetHint::noRecord();
     } else if (mTraceNames.isEmpty()) {
         text = tr("No parameter selected. Choose parameters in the list on the left and confirm.");
         link = tr("Select parameters");

@@ -366,12 +366,10 @@ void DialogDataTable::updateHint()
     QString link;
     mOffersInstall = mProfile.isEmpty();
     if (mProfile.isEmpty()) {
-        text = tr("No parameter profile is installed. Without the profile of your engine, "
-                  "recorded messages cannot be turned into values.");
-        link = tr("Install a profile");
+        text = WidgetHint::noProfile();
+        link = WidgetHint::installProfile();
     } else if (mRecord == nullptr && mMode == 0) {
-        text = tr("No record loaded. Open the folder of a data card and choose a cycle, "
-                  "a flight or a file.");
+        text = WidgetHint::noRecord();
     } else if (mColumns.empty()) {
         text = tr("No parameter selected. Check the parameters to show in the parameter list "
                   "and confirm the selection.");

@@ -277,20 +277,8 @@
         <translation>Fehlermatrizen</translation>
     </message>
     <message>
-        <source>No parameter profile is installed. Without the profile of your engine, recorded messages cannot be turned into values.</source>
-        <translation>Es ist kein Parameterprofil installiert. Ohne das Profil des Motors lassen sich aufgezeichnete Nachrichten nicht in Werte umrechnen.</translation>
-    </message>
-    <message>
-        <source>Install a profile</source>
-        <translation>Profil installieren</translation>
-    </message>
-    <message>
         <source>The profile has no fault matrix. Choose another variant, or a profile that has one.</source>
         <translation>Das Profil enthält keine Fehlermatrix. Eine andere Variante wählen oder ein Profil, das eine enthält.</translation>
-    </message>
-    <message>
-        <source>No record loaded. Open the folder of a data card and choose a cycle, a flight or a file.</source>
-        <translation>Keine Aufzeichnung geladen. Ordner einer Datenkarte öffnen und einen Zyklus, einen Flug oder eine Datei auswählen.</translation>
     </message>
 </context>
 <context>
@@ -310,10 +298,6 @@
     <message>
         <source>Show in graph</source>
         <translation>Im Graphen zeigen</translation>
-    </message>
-    <message>
-        <source>No record loaded. Open the folder of a data card and choose a cycle, a flight or a file.</source>
-        <translation>Keine Aufzeichnung geladen. Ordner einer Datenkarte öffnen und einen Zyklus, einen Flug oder eine Datei auswählen.</translation>
     </message>
     <message>
         <source>Save List</source>
@@ -338,18 +322,6 @@
 </context>
 <context>
     <name>VELIX::DialogDataGraph</name>
-    <message>
-        <source>No parameter profile is installed. Without the profile of your engine, recorded messages cannot be turned into values.</source>
-        <translation>Es ist kein Parameterprofil installiert. Ohne das Profil des Motors lassen sich aufgezeichnete Nachrichten nicht in Werte umrechnen.</translation>
-    </message>
-    <message>
-        <source>Install a profile</source>
-        <translation>Profil installieren</translation>
-    </message>
-    <message>
-        <source>No record loaded. Open the folder of a data card and choose a cycle, a flight or a file.</source>
-        <translation>Keine Aufzeichnung geladen. Ordner einer Datenkarte öffnen und einen Zyklus, einen Flug oder eine Datei auswählen.</translation>
-    </message>
     <message>
         <source>No parameter selected. Choose parameters in the list on the left and confirm.</source>
         <translation>Keine Parameter ausgewählt. Parameter in der Liste links wählen und bestätigen.</translation>
@@ -567,18 +539,6 @@
         <translation>Wert</translation>
     </message>
     <message>
-        <source>No parameter profile is installed. Without the profile of your engine, recorded messages cannot be turned into values.</source>
-        <translation>Es ist kein Parameterprofil installiert. Ohne das Profil des Motors lassen sich aufgezeichnete Nachrichten nicht in Werte umrechnen.</translation>
-    </message>
-    <message>
-        <source>Install a profile</source>
-        <translation>Profil installieren</translation>
-    </message>
-    <message>
-        <source>No record loaded. Open the folder of a data card and choose a cycle, a flight or a file.</source>
-        <translation>Keine Aufzeichnung geladen. Ordner einer Datenkarte öffnen und einen Zyklus, einen Flug oder eine Datei auswählen.</translation>
-    </message>
-    <message>
         <source>No parameter selected. Check the parameters to show in the parameter list and confirm the selection.</source>
         <translation>Kein Parameter ausgewählt. In der Parameterliste die gewünschten Parameter ankreuzen und die Auswahl bestätigen.</translation>
     </message>
@@ -596,18 +556,6 @@
     <message>
         <source>Instrument panel</source>
         <translation>Instrumentenanzeige</translation>
-    </message>
-    <message>
-        <source>No parameter profile is installed. Without the profile of your engine, recorded messages cannot be turned into values.</source>
-        <translation>Es ist kein Parameterprofil installiert. Ohne das Profil des Motors lassen sich aufgezeichnete Nachrichten nicht in Werte umrechnen.</translation>
-    </message>
-    <message>
-        <source>Install a profile</source>
-        <translation>Profil installieren</translation>
-    </message>
-    <message>
-        <source>No record loaded. Open the folder of a data card and choose a cycle, a flight or a file.</source>
-        <translation>Keine Aufzeichnung geladen. Ordner einer Datenkarte öffnen und einen Zyklus, einen Flug oder eine Datei auswählen.</translation>
     </message>
     <message numerus="yes">
         <source>%n more ...</source>
@@ -2011,6 +1959,21 @@ Soll sie ersetzt werden?</translation>
     <message>
         <source>No error set</source>
         <translation>Kein Fehler gesetzt</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::WidgetHint</name>
+    <message>
+        <source>No record loaded. Open the folder of a data card and choose a cycle, a flight or a file.</source>
+        <translation>Keine Aufzeichnung geladen. Ordner einer Datenkarte öffnen und einen Zyklus, einen Flug oder eine Datei auswählen.</translation>
+    </message>
+    <message>
+        <source>No parameter profile is installed. Without the profile of your engine, recorded messages cannot be turned into values.</source>
+        <translation>Es ist kein Parameterprofil installiert. Ohne das Profil des Motors lassen sich aufgezeichnete Nachrichten nicht in Werte umrechnen.</translation>
+    </message>
+    <message>
+        <source>Install a profile</source>
+        <translation>Profil installieren</translation>
     </message>
 </context>
 <context>
