@@ -90,10 +90,13 @@ void DialogDataView::updateView()
     mView->setVar("UNIT", static_cast<long>(mProfile.currentUnit()));
     if (mHasRecord) {
         for (const ViewParameter& shown : mParameters) {
+            const EntryList& entries =
+                mCard.loadedData().entries(static_cast<std::uint32_t>(shown.parameter.id));
+            // Without any entry the value is 0, which must not pass for a measured one.
+            mView->setVar(shown.missingId.c_str(), entries.empty() ? 1L : 0L);
             int state = 0;
             QColor color;
-            const double value = valueAtCursor(shown.parameter, state, color);
-            mView->setVar(shown.missingId.c_str(), isMissing(shown.parameter) ? 1L : 0L);
+            const double value = valueAtCursor(shown.parameter, entries, state, color);
             if (!std::isnan(value)) {
                 mView->setVar(shown.viewId.c_str(), value);
                 mView->setVar(shown.stateId.c_str(), static_cast<long>(state));
@@ -105,16 +108,10 @@ void DialogDataView::updateView()
     }
 }
 
-/// Without any entry of a parameter its value is 0, which must not pass for a measured one.
-bool DialogDataView::isMissing(const ProfileParameter& p) const
-{
-    return mCard.loadedData().entries(static_cast<std::uint32_t>(p.id)).empty();
-}
-
 /// Behind the last entry a look-up finds 0, but the engine has what it had.
-double DialogDataView::valueAtCursor(const ProfileParameter& p, int& state, QColor& color)
+double DialogDataView::valueAtCursor(const ProfileParameter& p, const EntryList& entries,
+                                     int& state, QColor& color)
 {
-    const EntryList& entries = mCard.loadedData().entries(static_cast<std::uint32_t>(p.id));
     if (entries.empty() || entries.firstAtOrAfter(mTime) < entries.size()) {
         return mCard.getValue(p, mTime, state, color);
     }

@@ -21,6 +21,7 @@ class VistaView;
 namespace VELIX {
 
 class CardContainer;
+class EntryList;
 class Profile;
 class WidgetHint;
 
@@ -76,8 +77,8 @@ private:
     void updateHint();
     void trackKey(int key, bool isDown);
     [[nodiscard]] int variantNumber() const;
-    [[nodiscard]] bool isMissing(const ProfileParameter& p) const;
-    double valueAtCursor(const ProfileParameter& p, int& state, QColor& color);
+    double valueAtCursor(const ProfileParameter& p, const EntryList& entries, int& state,
+                         QColor& color);
 
     Profile& mProfile;
     CardContainer& mCard;

@@ -46,7 +46,7 @@ ColorProgram::Vertex ColorProgram::vertex(float x, float y, float z, const Color
         x, y, z, byteOf(color.red), byteOf(color.green), byteOf(color.blue), byteOf(color.alpha)};
 }
 
-bool ColorProgram::begin(const MatrixSet& matrices, const Color* color)
+bool ColorProgram::begin(const MatrixSet& matrices)
 {
     if (!mProgram.create(kVertexSource, kFragmentSource, "vertexColor")) {
         return false;
@@ -56,15 +56,9 @@ bool ColorProgram::begin(const MatrixSet& matrices, const Color* color)
     glEnableVertexAttribArray(ShaderProgram::Position);
     glVertexAttribPointer(ShaderProgram::Position, 3, GL_FLOAT, GL_FALSE, sizeof(Vertex),
                           offset(offsetof(Vertex, x)));
-    if (color != nullptr) {
-        glDisableVertexAttribArray(ShaderProgram::VertexColor);
-        glVertexAttrib4f(ShaderProgram::VertexColor, color->red, color->green, color->blue,
-                         color->alpha);
-    } else {
-        glEnableVertexAttribArray(ShaderProgram::VertexColor);
-        glVertexAttribPointer(ShaderProgram::VertexColor, 4, GL_UNSIGNED_BYTE, GL_TRUE,
-                              sizeof(Vertex), offset(offsetof(Vertex, red)));
-    }
+    glEnableVertexAttribArray(ShaderProgram::VertexColor);
+    glVertexAttribPointer(ShaderProgram::VertexColor, 4, GL_UNSIGNED_BYTE, GL_TRUE, sizeof(Vertex),
+                          offset(offsetof(Vertex, red)));
     return true;
 }
 

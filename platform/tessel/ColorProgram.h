@@ -28,8 +28,8 @@ public:
 
     static Vertex vertex(float x, float y, float z, const Color& color);
 
-    /// Describes the bound buffer of Vertex. With `color` all vertices take that one.
-    [[nodiscard]] bool begin(const MatrixSet& matrices, const Color* color = nullptr);
+    /// Describes the bound buffer of Vertex.
+    [[nodiscard]] bool begin(const MatrixSet& matrices);
     static void end();
     void release() { mProgram.release(); }
 
