@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 
+#include <algorithm>
 #include <cmath>
 
 namespace VELIX {
@@ -67,7 +68,8 @@ int CursorTime::sliderPosition(double start, double stop, double seconds)
 
 double CursorTime::sliderTime(double start, double stop, int position)
 {
-    return start + (stop - start) / kSliderSteps * position;
+    // Rounding must not put the end behind the record, where there is nothing to show.
+    return std::min(start + (stop - start) / kSliderSteps * position, stop);
 }
 
 } // namespace VELIX

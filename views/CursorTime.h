@@ -31,6 +31,7 @@ struct CursorTime
     /// Position of a time between start and stop, 0 to kSliderSteps; -1 if there is nothing
     /// between them.
     static int sliderPosition(double start, double stop, double seconds);
+    /// The time of a position, never behind stop.
     static double sliderTime(double start, double stop, int position);
 };
 

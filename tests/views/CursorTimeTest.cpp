@@ -50,6 +50,9 @@ TEST(CursorTimeTest, SliderPositionsAreTruncatedAndStayOnTheSlider)
     EXPECT_EQ(CursorTime::sliderPosition(100.0, 200.0, 1e300), 10000);
     EXPECT_EQ(CursorTime::sliderPosition(100.0, 100.0, 100.0), -1);
     EXPECT_EQ(CursorTime::sliderTime(100.0, 200.0, 2500), 125.0);
+    EXPECT_EQ(CursorTime::sliderTime(3.2, 3217.06038603125, CursorTime::kSliderSteps),
+              3217.06038603125)
+        << "not a rounding step behind it";
 }
 
 } // namespace
