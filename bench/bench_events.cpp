@@ -3,11 +3,11 @@
 #include "bench/WidgetBench.h"
 #include "card/LimitFinder.h"
 #include "card/WarningFinder.h"
-#include "gui/StandardDialogs.h"
+#include "gui/dialogs/StandardDialogs.h"
 #include "profile/Profile.h"
 #include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
-#include "views/DialogDataLimit.h"
+#include "views/events/DialogDataLimit.h"
 
 #include <cmath>
 #include <cstdio>

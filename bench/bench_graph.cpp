@@ -1,7 +1,7 @@
 // What a graph computes without a window: storing samples, decimating them, looking values up.
 
-#include "views/GraphModel.h"
-#include "views/GraphTrace.h"
+#include "views/graph/model/GraphModel.h"
+#include "views/graph/model/GraphTrace.h"
 
 #include <benchmark/benchmark.h>
 

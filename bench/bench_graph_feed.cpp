@@ -3,8 +3,8 @@
 #include "bench/EngineHour.h"
 #include "bench/WidgetBench.h"
 #include "core/Property.h"
-#include "gui/StandardDialogs.h"
-#include "views/DialogDataGraph.h"
+#include "gui/dialogs/StandardDialogs.h"
+#include "views/graph/DialogDataGraph.h"
 
 #include <cmath>
 

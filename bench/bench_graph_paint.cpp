@@ -1,8 +1,8 @@
 // One picture of the graph: 30 traces at 1600 x 900 with four samples per pixel; and what it costs
 // to move the cursor over it. Needs a display.
 
-#include "views/WidgetGraph.h"
-#include "views/WidgetGraphES.h"
+#include "views/graph/widget/WidgetGraph.h"
+#include "views/graph/widget/WidgetGraphES.h"
 
 #include <QApplication>
 #include <QSurfaceFormat>

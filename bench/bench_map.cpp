@@ -4,12 +4,12 @@
 #include "bench/WidgetBench.h"
 #include "card/RecordData.h"
 #include "core/Property.h"
-#include "gui/Resources.h"
+#include "gui/look/Resources.h"
 #include "platform/tessel/Timer.h"
 #include "tests/support/TileServer.h"
-#include "views/MapContext.h"
-#include "views/MapPathLines.h"
-#include "views/WidgetMap.h"
+#include "views/map/MapPathLines.h"
+#include "views/map/WidgetMap.h"
+#include "views/map/model/MapContext.h"
 
 #include <QTemporaryDir>
 #include <QTest>

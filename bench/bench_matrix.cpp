@@ -4,8 +4,8 @@
 #include "profile/Profile.h"
 #include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
-#include "views/DialogDataErrorMatrix.h"
-#include "views/FaultTimeline.h"
+#include "views/fault/DialogDataErrorMatrix.h"
+#include "views/fault/FaultTimeline.h"
 
 #include <atomic>
 #include <cstdio>

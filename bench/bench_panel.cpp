@@ -1,7 +1,7 @@
 // One frame of the instrument panel at 1000 x 714, every value changed since the last one; and the
 // first frame at a size, for which all that stands still is painted anew. Needs a display.
 
-#include "platform/tessel/Gl.h"
+#include "platform/tessel/opengl/Gl.h"
 #include "platform/viewlib/VistaView.h"
 
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 // Reading a large profile, and listing it for the user to select from. Needs a display.
 
-#include "gui/DialogProfile.h"
-#include "gui/Resources.h"
+#include "gui/look/Resources.h"
+#include "gui/profile/DialogProfile.h"
 #include "profile/Profile.h"
 
 #include <benchmark/benchmark.h>

@@ -2,7 +2,7 @@
 
 #include "bench/EngineHour.h"
 #include "bench/WidgetBench.h"
-#include "views/DialogDataTable.h"
+#include "views/table/DialogDataTable.h"
 
 #include <cmath>
 #include <fstream>

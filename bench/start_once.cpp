@@ -2,15 +2,15 @@
 // standard error is when that was: seconds of the monotonic clock, as the caller's clock has them.
 
 #include "core/DataHandler.h"
-#include "core/DialogSplash.h"
-#include "core/Kernel.h"
-#include "core/Language.h"
 #include "core/Property.h"
-#include "core/Toolkit.h"
+#include "core/startup/DialogSplash.h"
+#include "core/startup/Kernel.h"
+#include "core/startup/Language.h"
+#include "core/startup/Toolkit.h"
 #include "gui/DialogMain.h"
-#include "gui/Palette.h"
-#include "gui/Resources.h"
-#include "gui/StyleHandler.h"
+#include "gui/look/Palette.h"
+#include "gui/look/Resources.h"
+#include "gui/look/StyleHandler.h"
 
 #include <QApplication>
 #include <QEvent>

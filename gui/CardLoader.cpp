@@ -1,10 +1,10 @@
 #include "gui/CardLoader.h"
 
 #include "card/CardContainer.h"
-#include "gui/DialogCard.h"
 #include "gui/DialogStatusBar.h"
 #include "gui/LoadSummary.h"
-#include "views/DialogData.h"
+#include "gui/card/DialogCard.h"
+#include "views/window/DialogData.h"
 
 #include <QApplication>
 

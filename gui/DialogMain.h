@@ -1,8 +1,8 @@
 #pragma once
 
-#include "gui/AppContext.h"
-#include "gui/ProfileSettings.h"
 #include "gui/ProjectController.h"
+#include "gui/profile/ProfileSettings.h"
+#include "gui/project/AppContext.h"
 
 #include <QMainWindow>
 #include <QTimer>

@@ -2,9 +2,9 @@
 
 #include "card/CardContainer.h"
 #include "core/Property.h"
-#include "export/DialogExportCsv.h"
-#include "export/DialogExportKml.h"
-#include "gui/DialogService.h"
+#include "export/wizard/DialogExportCsv.h"
+#include "export/wizard/DialogExportKml.h"
+#include "gui/dialogs/DialogService.h"
 
 #include <QDir>
 #include <QScopedValueRollback>

@@ -2,8 +2,8 @@
 
 #include "export/ExportCsv.h"
 #include "export/ExportKml.h"
-#include "gui/AppContext.h"
 #include "gui/ExportProgressBox.h"
+#include "gui/project/AppContext.h"
 #include "profile/Profile.h"
 
 #include <QObject>

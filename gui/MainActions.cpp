@@ -1,6 +1,6 @@
 #include "gui/MainActions.h"
 
-#include "gui/ImageHandler.h"
+#include "gui/look/ImageHandler.h"
 
 #include <QAction>
 #include <QActionGroup>

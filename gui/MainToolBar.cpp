@@ -1,7 +1,7 @@
 #include "gui/MainToolBar.h"
 
 #include "gui/MainActions.h"
-#include "gui/QwtComboBox.h"
+#include "gui/look/QwtComboBox.h"
 #include "profile/Profile.h"
 
 #include <QAction>

@@ -1,8 +1,8 @@
 #include "gui/ProjectController.h"
 
 #include "core/Property.h"
-#include "gui/DialogService.h"
-#include "gui/Project.h"
+#include "gui/dialogs/DialogService.h"
+#include "gui/project/Project.h"
 
 #include <QDir>
 #include <QFile>

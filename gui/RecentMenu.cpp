@@ -1,7 +1,7 @@
 #include "gui/RecentMenu.h"
 
 #include "core/Property.h"
-#include "gui/ImageHandler.h"
+#include "gui/look/ImageHandler.h"
 
 #include <QActionGroup>
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "platform/openstreetmap/MapPainter.h"
 
 #include "platform/openstreetmap/Graticule.h"
-#include "platform/tessel/Gl.h"
+#include "platform/tessel/opengl/Gl.h"
 
 #include <algorithm>
 

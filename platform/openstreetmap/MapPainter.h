@@ -4,10 +4,10 @@
 #include "platform/openstreetmap/MapProjection.h"
 #include "platform/openstreetmap/TileTextures.h"
 #include "platform/openstreetmap/TileView.h"
-#include "platform/tessel/GlHandler.h"
-#include "platform/tessel/Lines.h"
-#include "platform/tessel/Texture.h"
-#include "platform/tessel/TextureFont.h"
+#include "platform/tessel/opengl/GlHandler.h"
+#include "platform/tessel/opengl/Lines.h"
+#include "platform/tessel/opengl/Texture.h"
+#include "platform/tessel/opengl/TextureFont.h"
 
 #include <vector>
 

@@ -1,5 +1,5 @@
 // First, since the toolkit includes the same headers without the functions.
-#include "platform/tessel/Gl.h"
+#include "platform/tessel/opengl/Gl.h"
 
 #include "platform/openstreetmap/MapPainter.h"
 #include "platform/openstreetmap/MapPicture.h"

@@ -3,7 +3,7 @@
 #include "platform/openstreetmap/MapProjection.h"
 #include "platform/openstreetmap/TileAddress.h"
 #include "platform/openstreetmap/TileView.h"
-#include "platform/tessel/PictureBuffer.h"
+#include "platform/tessel/opengl/PictureBuffer.h"
 
 #include <set>
 #include <vector>

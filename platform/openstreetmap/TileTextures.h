@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/openstreetmap/TileAddress.h"
-#include "platform/tessel/Texture.h"
+#include "platform/tessel/opengl/Texture.h"
 
 #include <QImage>
 

@@ -1,6 +1,6 @@
 #include "platform/viewlib/VistaView.h"
 
-#include "platform/tessel/Gl.h"
+#include "platform/tessel/opengl/Gl.h"
 #include "platform/viewlib/ViewCanvas.h"
 #include "platform/viewlib/ViewPlacement.h"
 #include "platform/viewlib/ViewReader.h"

@@ -1,6 +1,6 @@
 // What the main window opens, by which ways, and what it remembers of it.
 
-#include "gui/DialogPreferences.h"
+#include "gui/preferences/DialogPreferences.h"
 #include "tests/gui/MainWindowFixture.h"
 
 #include <QDir>

@@ -1,10 +1,10 @@
 #include "core/Progress.h"
-#include "gui/DialogCard.h"
-#include "gui/DialogProfile.h"
+#include "gui/card/DialogCard.h"
+#include "gui/profile/DialogProfile.h"
 #include "tests/gui/MainWindowFixture.h"
 #include "tests/support/CapturedDiagnostics.h"
-#include "views/DialogData.h"
-#include "views/DialogDataLimit.h"
+#include "views/events/DialogDataLimit.h"
+#include "views/window/DialogData.h"
 
 #include <QMenuBar>
 #include <QProgressBar>

@@ -1,7 +1,7 @@
 #include "gui/ExportController.h"
 
-#include "export/DialogExportCsv.h"
-#include "export/DialogExportKml.h"
+#include "export/wizard/DialogExportCsv.h"
+#include "export/wizard/DialogExportKml.h"
 #include "tests/gui/TestProgram.h"
 
 #include <gtest/gtest.h>

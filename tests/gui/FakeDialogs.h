@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gui/DialogService.h"
+#include "gui/dialogs/DialogService.h"
 
 #include <QPrinter>
 #include <QStringList>

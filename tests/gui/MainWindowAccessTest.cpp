@@ -1,10 +1,10 @@
 // Whether every function of the main window can be reached and named without a mouse.
 
-#include "gui/DialogHelp.h"
-#include "gui/HelpBrowser.h"
+#include "gui/help/DialogHelp.h"
+#include "gui/help/HelpBrowser.h"
 #include "tests/gui/MainWindowFixture.h"
-#include "views/PageTabBar.h"
-#include "views/WidgetMap.h"
+#include "views/map/WidgetMap.h"
+#include "views/window/PageTabBar.h"
 
 #include <QAbstractButton>
 #include <QActionGroup>

@@ -3,7 +3,7 @@
 #include "gui/DialogMain.h"
 #include "gui/DialogStatusBar.h"
 #include "gui/MainActions.h"
-#include "gui/QwtComboBox.h"
+#include "gui/look/QwtComboBox.h"
 #include "tests/gui/TestProgram.h"
 #include "tests/support/ViewTexts.h"
 

@@ -1,9 +1,9 @@
 // Visits to the program as a user makes them, through its own dialogs: from a home with nothing but
 // a profile to exported files, and to a project that is found again.
 
-#include "export/DialogExportCsv.h"
-#include "export/DialogExportKml.h"
-#include "gui/StandardDialogs.h"
+#include "export/wizard/DialogExportCsv.h"
+#include "export/wizard/DialogExportKml.h"
+#include "gui/dialogs/StandardDialogs.h"
 #include "tests/gui/MainWindowFixture.h"
 #include "tests/gui/ModalAnswer.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gui/WidgetHint.h"
+#include "gui/look/WidgetHint.h"
 
 #include <QItemSelectionModel>
 #include <QString>

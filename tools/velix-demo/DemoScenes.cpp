@@ -1,12 +1,12 @@
 #include "tools/velix-demo/DemoScenes.h"
 
-#include "gui/DialogCard.h"
 #include "gui/DialogMain.h"
-#include "gui/DialogProfile.h"
 #include "gui/MainActions.h"
+#include "gui/card/DialogCard.h"
+#include "gui/profile/DialogProfile.h"
 #include "tools/velix-demo/DemoStage.h"
-#include "views/GraphCommandBar.h"
-#include "views/ReplayControls.h"
+#include "views/graph/GraphCommandBar.h"
+#include "views/replay/ReplayControls.h"
 
 #include <QToolBar>
 

@@ -3,7 +3,7 @@
 #include "gui/DialogMain.h"
 #include "gui/DialogStatusBar.h"
 #include "gui/MainActions.h"
-#include "views/DialogData.h"
+#include "views/window/DialogData.h"
 
 #include <QAction>
 #include <QApplication>

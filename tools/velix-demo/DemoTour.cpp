@@ -1,9 +1,9 @@
 #include "tools/velix-demo/DemoTour.h"
 
 #include "core/DataHandler.h"
-#include "gui/AppContext.h"
-#include "gui/DialogCard.h"
 #include "gui/DialogMain.h"
+#include "gui/card/DialogCard.h"
+#include "gui/project/AppContext.h"
 #include "tools/velix-demo/DemoScenes.h"
 #include "tools/velix-demo/DemoStage.h"
 #include "tools/velix-demo/DialogVisit.h"

@@ -17,10 +17,8 @@ PictureBook::PictureBook(Kind kind, QString folder, QString language)
 bool PictureBook::add(QWidget& widget, const QString& name, const QString& caption)
 {
     mIndex << QStringLiteral("## %1\n").arg(caption)
-           << QStringLiteral("![English](%1-en.png) ![German](%1-de.png)\n").arg(name);
-    const QString form =
-        mKind == Kind::Windows ? QStringLiteral("%1-%2.png") : QStringLiteral("%2/%1.png");
-    const QFileInfo file(QDir(mFolder), form.arg(name, mLanguage));
+           << QStringLiteral("![English](en/%1.png) ![German](de/%1.png)\n").arg(name);
+    const QFileInfo file(QDir(mFolder), QStringLiteral("%1/%2.png").arg(mLanguage, name));
     return QDir().mkpath(file.path()) && widget.grab().save(file.filePath());
 }
 

@@ -2,12 +2,12 @@
 
 #include "core/CmdLine.h"
 #include "core/DataHandler.h"
-#include "core/Kernel.h"
-#include "core/Language.h"
 #include "core/Property.h"
-#include "core/Toolkit.h"
-#include "gui/Palette.h"
-#include "gui/Resources.h"
+#include "core/startup/Kernel.h"
+#include "core/startup/Language.h"
+#include "core/startup/Toolkit.h"
+#include "gui/look/Palette.h"
+#include "gui/look/Resources.h"
 #include "tools/velix-demo/DemoTour.h"
 #include "tools/velix-demo/PictureBook.h"
 

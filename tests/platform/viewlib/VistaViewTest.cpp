@@ -1,6 +1,6 @@
 #include "platform/viewlib/VistaView.h"
 
-#include "platform/tessel/Gl.h"
+#include "platform/tessel/opengl/Gl.h"
 
 #include <QColor>
 #include <QImage>

@@ -1,0 +1,399 @@
+#include "views/graph/DialogDataGraph.h"
+
+#include "card/RecordData.h"
+#include "core/Property.h"
+#include "profile/Profile.h"
+#include "tests/gui/FakeDialogs.h"
+#include "tests/support/ProfileBuilder.h"
+#include "tests/support/RecordBuilder.h"
+#include "tests/support/ViewTexts.h"
+#include "views/graph/DialogGraphSetup.h"
+#include "views/graph/GraphStatisticTable.h"
+#include "views/graph/widget/WidgetGraph.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+
+#include <cmath>
+
+namespace VELIX {
+namespace {
+
+using Test::FakeDialogs;
+using Test::hintOf;
+using Test::ProfileBuilder;
+using Test::RecordBuilder;
+using Test::rowsOf;
+
+constexpr int kFirstId = 500;
+
+struct DialogDataGraphTest : ::testing::Test
+{
+    DialogDataGraphTest()
+    {
+        settings.setConfigFile(folder.filePath(QStringLiteral("c.xml")).toStdString());
+        builder.conversion("C", "F", 1.8, 32.0);
+        builder.device("Lane A");
+    }
+    /// Parameters P0, P1, ... of the identifiers from 500 on, all selected.
+    void parameters(int count, const char* unit = "C")
+    {
+        for (int i = 0; i < count; ++i) {
+            builder.parameter(kFirstId + i, QStringLiteral("P%1").arg(i), "FLOAT")
+                .set("unitMetric", unit)
+                .set("unitImperial", "F")
+                .set("precision", "1");
+        }
+        ASSERT_TRUE(builder.load(profile));
+        ProfileBuilder::selectAll(profile);
+        view = std::make_unique<DialogDataGraph>(profile, settings, dialogs);
+        view->resize(900, 600);
+        view->show();
+        QApplication::setActiveWindow(view.get());
+        QApplication::processEvents();
+    }
+    /// A sample a second of P0, whose value is the time.
+    void openRecord(double start, double stop)
+    {
+        RecordBuilder builder500;
+        for (double t = start; t <= stop; t += 1.0) {
+            builder500.at(t).id(kFirstId).floatValue(static_cast<float>(t));
+        }
+        open(builder500);
+    }
+    void open(const RecordBuilder& recorded)
+    {
+        data = recorded.data();
+        view->updateRecord(data.get());
+    }
+
+    const GraphModel& model() const { return view->graph().model(); }
+    double width() const { return model().xmax() - model().xmin(); }
+    void expectRange(double from, double to, double tolerance = 1e-3)
+    {
+        EXPECT_NEAR(model().xmin(), from, tolerance);
+        EXPECT_NEAR(model().xmax(), to, tolerance);
+    }
+    QAbstractButton* button(EGraphCommand id)
+    {
+        return view->findChild<QButtonGroup*>()->button(id);
+    }
+    QAction* action(const char* name) { return view->findChild<QAction*>(QLatin1String(name)); }
+    /// Lets so many ticks of the repeat timer pass without waiting for them.
+    void tick(int count)
+    {
+        for (int i = 0; i < count; ++i) {
+            ASSERT_TRUE(QMetaObject::invokeMethod(view.get(), "slotTimeout"));
+        }
+    }
+    void zoomTo(double from, double to)
+    {
+        view->findChild<WidgetGraph*>()->setVisibleRange(from, to);
+        tick(10);
+    }
+    double valueAt(unsigned int trace, double time) const
+    {
+        double value = 0.0;
+        return model().getValue(trace, time, value) ? value : std::nan("");
+    }
+
+    QTemporaryDir folder;
+    Property settings;
+    FakeDialogs dialogs;
+    ProfileBuilder builder;
+    Profile profile;
+    std::shared_ptr<RecordData> data; // outlives the view
+    std::unique_ptr<DialogDataGraph> view;
+};
+
+TEST_F(DialogDataGraphTest, ARecordOpensWithMarginsAndTheCursorAtItsStart)
+{
+    parameters(1);
+    openRecord(100.0, 1100.0);
+    expectRange(0.0, 1200.0);
+    EXPECT_EQ(model().cursorTime(), 100.0);
+    EXPECT_EQ(valueAt(0, 500.5), 500.0);
+    EXPECT_EQ(model().parameter(0).trace.entries().size(), 1001U);
+    view->updateRecord(nullptr);
+    EXPECT_TRUE(model().parameter(0).trace.isEmpty());
+    EXPECT_TRUE(hintOf(*view).startsWith(QStringLiteral("No record loaded.")));
+}
+
+TEST_F(DialogDataGraphTest, TheRangeIsPagedWithTheCursor)
+{
+    parameters(1);
+    openRecord(0.0, 1000.0);
+    zoomTo(0.0, 100.0);
+    view->setTime(95.0);
+    expectRange(5.0, 105.0);
+    EXPECT_EQ(model().cursorTime(), 95.0);
+    view->setTime(std::nan(""));
+    expectRange(5.0, 105.0);
+
+    // By key it can leave the visible range.
+    auto* graph = view->findChild<WidgetGraph*>();
+    graph->setCursorPosition(104.99);
+    for (int i = 0; i < 2; ++i) {
+        QTest::keyClick(graph, Qt::Key_Right, Qt::ShiftModifier);
+        EXPECT_GT(model().cursorTime(), 105.0);
+        EXPECT_NEAR(width(), 100.0, 1e-3);
+        EXPECT_LT(model().cursorTime(), model().xmax() - 5.0);
+    }
+}
+
+TEST_F(DialogDataGraphTest, SamplesComeInOrderOfTimeAndUnit)
+{
+    parameters(1);
+    RecordBuilder record;
+    record.at(5.0).id(kFirstId).floatValue(50.0F);
+    record.at(3.0).id(kFirstId).floatValue(30.0F);
+    record.at(9.0).id(kFirstId).floatValue(90.0F);
+    open(record);
+    EXPECT_EQ(valueAt(0, 4.0), 30.0);
+    EXPECT_EQ(model().parameter(0).unit, QStringLiteral("C"));
+    EXPECT_EQ(model().parameter(0).precision, 1);
+
+    // A new unit system: values and labels change, the range does not, in no mode.
+    button(eGraphAuto)->click();
+    zoomTo(2.0, 12.0);
+    profile.setCurrentUnit(eUnitImperial);
+    view->updateProfile();
+    EXPECT_EQ(valueAt(0, 4.0), 86.0);
+    EXPECT_EQ(model().parameter(0).unit, QStringLiteral("F"));
+    expectRange(2.0, 12.0);
+}
+
+TEST_F(DialogDataGraphTest, OnlyAsManyParametersAsFitAreShownAndTheViewSaysSo)
+{
+    parameters(100);
+    const auto* surplus = view->findChild<QLabel*>(QStringLiteral("labelSurplus"));
+    EXPECT_EQ(model().nrActive(), 30U);
+    EXPECT_TRUE(surplus->isVisible() && surplus->text().contains(QStringLiteral("100")));
+    RecordBuilder record;
+    for (const double time : {1.0, 2.0}) {
+        record.at(time).id(kFirstId + 99).floatValue(1.0F).id(kFirstId + 29).floatValue(2.0F);
+    }
+    open(record);
+    EXPECT_EQ(valueAt(29, 1.5), 2.0);
+
+    int kept = 0;
+    for (auto& [id, parameter] : profile.data().devices.front().parameters) {
+        parameter.selected = kept++ < 2;
+    }
+    view->updateProfile();
+    EXPECT_EQ(model().nrActive(), 2U);
+    EXPECT_FALSE(surplus->isVisible());
+}
+
+TEST_F(DialogDataGraphTest, SaysWhatIsMissing)
+{
+    parameters(1);
+    EXPECT_TRUE(hintOf(*view).startsWith(QStringLiteral("No record loaded.")));
+    openRecord(0.0, 10.0);
+    EXPECT_EQ(hintOf(*view), QString());
+    profile.data().devices.front().parameters.begin()->second.selected = false;
+    view->updateProfile();
+    EXPECT_TRUE(hintOf(*view).startsWith(QStringLiteral("No parameter selected.")));
+    profile.clear();
+    view->updateProfile();
+    EXPECT_TRUE(hintOf(*view).startsWith(QStringLiteral("No parameter profile is installed.")));
+}
+
+TEST_F(DialogDataGraphTest, ZoomButtonsRepeatWhileTheyAreHeld)
+{
+    parameters(1);
+    openRecord(0.0, 1000.0);
+    const struct
+    {
+        EGraphCommand command;
+        double width; ///< after a second, from 60 s
+    } rows[] = {{eGraphZoomIn, 32.63}, {eGraphZoomOut, 110.34}};
+    for (const auto& row : rows) {
+        zoomTo(0.0, 60.0);
+        QTest::mousePress(button(row.command), Qt::LeftButton);
+        tick(20);
+        QTest::mouseRelease(button(row.command), Qt::LeftButton);
+        EXPECT_NEAR(width(), row.width, 0.05);
+        EXPECT_NEAR(view->data().xRange, row.width, 0.05);
+        tick(5);
+        EXPECT_NEAR(width(), row.width, 0.05) << "released";
+    }
+}
+
+TEST_F(DialogDataGraphTest, CommandsActWhenTheirButtonIsReleased)
+{
+    parameters(1);
+    openRecord(100.0, 1100.0);
+    auto* graph = view->findChild<WidgetGraph*>();
+    zoomTo(0.0, 10.0);
+    QTest::mousePress(button(eGraphZoomAll), Qt::LeftButton);
+    expectRange(0.0, 10.0);
+    QTest::mouseRelease(button(eGraphZoomAll), Qt::LeftButton);
+    expectRange(0.0, 1200.0);
+    EXPECT_EQ(view->data().xRange, 1000.0) << "without the margins";
+
+    QSignalSpy notice(view.get(), &DialogDataGraph::signalNotice);
+    for (const double end : {300.0, 200.0}) {
+        graph->setMarker(200.0, end);
+        button(eGraphZoomMarker)->click();
+        expectRange(200.0, end);
+        EXPECT_EQ(notice.count(), end > 200.0 ? 0 : 1) << "nothing is to be seen in no range";
+    }
+
+    button(eGraphClear)->click();
+    EXPECT_TRUE(model().parameter(0).trace.isEmpty());
+    EXPECT_EQ(hintOf(*view), QStringLiteral("The graph has been cleared."));
+    emit view->findChild<WidgetHint*>()->signalLink();
+    EXPECT_FALSE(model().parameter(0).trace.isEmpty());
+    EXPECT_EQ(hintOf(*view), QString());
+
+    button(eGraphSingle)->click();
+    button(eGraphReset)->click();
+    EXPECT_EQ(model().displayMode(), GraphModel::DisplaySplit);
+    EXPECT_EQ(view->data().displayMode, 1);
+    EXPECT_DOUBLE_EQ(width(), 60.0);
+    EXPECT_EQ(view->data().xRange, 60.0);
+    EXPECT_TRUE(button(eGraphSingle)->isChecked()) << "reset leaves the buttons as they are";
+
+    button(eGraphSetup)->click();
+    EXPECT_TRUE(view->findChild<DialogGraphSetup*>()->isVisible());
+}
+
+TEST_F(DialogDataGraphTest, ModeButtonsShowTheModesOfTheGraph)
+{
+    parameters(1);
+    openRecord(0.0, 100.0);
+    const auto expectSplit = [this](bool split) {
+        EXPECT_EQ(button(eGraphSplit)->isChecked(), split);
+        EXPECT_EQ(button(eGraphSingle)->isChecked(), !split);
+        EXPECT_EQ(model().displayMode() == GraphModel::DisplaySplit, split);
+        EXPECT_EQ(view->data().displayMode, split ? 1 : 0);
+    };
+    expectSplit(true);
+    for (int i = 0; i < 2; ++i) {
+        button(eGraphSingle)->click(); // twice: switching the mode off is not possible
+        expectSplit(false);
+    }
+    button(eGraphSplit)->click();
+    expectSplit(true);
+
+    button(eGraphAuto)->click();
+    EXPECT_EQ(model().graphMode(), GraphModel::GraphAutomatic);
+    EXPECT_EQ(view->data().graphMode, 1);
+    view->findChild<WidgetGraph*>()->setGraphMode(GraphModel::GraphManual);
+    emit view->findChild<WidgetGraph*>()->signalManMode();
+    EXPECT_FALSE(button(eGraphAuto)->isChecked());
+}
+
+TEST_F(DialogDataGraphTest, TheGraphKeepsItsDefaultsUntilTheSetupChanges)
+{
+    parameters(1);
+    EXPECT_EQ(model().cursorMode(), GraphModel::CursorFloating);
+    EXPECT_EQ(model().graphMode(), GraphModel::GraphManual);
+    view->findChild<QCheckBox*>(QStringLiteral("boxLegendOn"))->click();
+    EXPECT_EQ(model().cursorMode(), GraphModel::CursorCentre);
+    EXPECT_EQ(model().graphMode(), GraphModel::GraphAutomatic);
+    EXPECT_TRUE(button(eGraphAuto)->isChecked());
+    EXPECT_FALSE(view->graph().look().legendOn);
+    EXPECT_EQ(view->graph().look().grid, QColor(0xff, 0x66, 0x66));
+    EXPECT_DOUBLE_EQ(width(), 60.0);
+
+    // The next run starts with what was set up.
+    const DialogDataGraph next(profile, settings, dialogs);
+    EXPECT_EQ(next.data(), view->data());
+    EXPECT_EQ(next.graph().model().cursorMode(), GraphModel::CursorCentre);
+    EXPECT_FALSE(next.graph().look().legendOn);
+}
+
+TEST_F(DialogDataGraphTest, VisitedRangesAreSteppedThroughByKeys)
+{
+    parameters(1);
+    openRecord(0.0, 1000.0);
+    EXPECT_FALSE(action("actionGraphBack")->isEnabled());
+    zoomTo(100.0, 200.0);
+    QTest::mousePress(button(eGraphZoomIn), Qt::LeftButton);
+    tick(10); // one visit, not ten
+    QTest::mouseRelease(button(eGraphZoomIn), Qt::LeftButton);
+    tick(10);
+    const double zoomed = width();
+    QTest::keyClick(view.get(), Qt::Key_Left, Qt::AltModifier);
+    expectRange(100.0, 200.0);
+    for (int i = 0; i < 2; ++i) {
+        QTest::keyClick(view.get(), Qt::Key_Left, Qt::AltModifier);
+        expectRange(-100.0, 1100.0);
+    }
+    QTest::keyClick(view.get(), Qt::Key_Right, Qt::AltModifier);
+    QTest::keyClick(view.get(), Qt::Key_Right, Qt::AltModifier);
+    EXPECT_NEAR(width(), zoomed, 1e-3);
+    EXPECT_FALSE(action("actionGraphForward")->isEnabled());
+}
+
+TEST_F(DialogDataGraphTest, RangesThatFollowTheCursorAreNoVisits)
+{
+    parameters(1);
+    openRecord(0.0, 1000.0);
+    zoomTo(0.0, 100.0);
+    for (int i = 0; i < 500; ++i) {
+        view->setTime(i * 2.0);
+        tick(1);
+    }
+    tick(10);
+    EXPECT_GT(model().xmin(), 800.0);
+    QTest::keyClick(view.get(), Qt::Key_Left, Qt::AltModifier);
+    expectRange(-100.0, 1100.0);
+}
+
+TEST_F(DialogDataGraphTest, ValuesBetweenTheMarkersAreListed)
+{
+    parameters(2);
+    openRecord(0.0, 100.0);
+    const auto& statistic = *view->findChild<GraphStatisticTable*>();
+    const auto& table = *view->findChild<QTableWidget*>();
+    EXPECT_FALSE(statistic.isVisible());
+    action("actionGraphStatistic")->trigger();
+    view->findChild<WidgetGraph*>()->setMarker(20.5, 9.5);
+    tick(1);
+    EXPECT_EQ(rowsOf(table), "P0 | 10.0 | 20.0 | 15.0 | C\nP1 | --- | --- | --- | C");
+    view->findChild<WidgetGraph*>()->setMarker(5.0, 5.0);
+    zoomTo(39.5, 60.5);
+    EXPECT_EQ(table.item(0, 3)->text(), QStringLiteral("50.0"));
+    EXPECT_EQ(statistic.heading(),
+              QStringLiteral("In the visible range: 0:00:39.50 to 0:01:00.50, 21.00 s"));
+    zoomTo(-90.0, 60.0);
+    EXPECT_TRUE(statistic.heading().contains(QStringLiteral(": -0:01:30.00 to ")));
+
+    const DialogDataGraph next(profile, settings, dialogs);
+    EXPECT_FALSE(next.findChild<GraphStatisticTable*>()->isHidden());
+}
+
+TEST_F(DialogDataGraphTest, SnapshotsAreSavedAndFailuresTold)
+{
+    parameters(1);
+    openRecord(0.0, 100.0);
+    QSignalSpy notice(view.get(), &DialogDataGraph::signalNotice);
+    button(eGraphSnapshot)->click(); // cancelled
+    EXPECT_EQ(notice.count(), 0);
+    for (const char* name : {"a.png", "no/such/folder/a.png"}) {
+        dialogs.file = folder.filePath(QLatin1String(name));
+        button(eGraphSnapshot)->click();
+        ASSERT_EQ(notice.count(), 1);
+        EXPECT_TRUE(notice.takeFirst().first().toString().contains(dialogs.file));
+    }
+    EXPECT_EQ(QImage(folder.filePath(QStringLiteral("a.png"))).size(), view->size());
+
+    view->copySnapshot();
+    EXPECT_EQ(QApplication::clipboard()->image().size(), view->size());
+}
+
+} // namespace
+} // namespace VELIX

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "views/events/DialogDataEvents.h"
+
+namespace VELIX {
+
+/// Lists the moments at which a parameter entered its warning or limit band.
+class DialogDataLimit final : public DialogDataEvents
+{
+    Q_OBJECT
+
+public:
+    DialogDataLimit(Profile& profile, DialogService& dialogs, QWidget* parent = nullptr);
+
+    /// Other thresholds or units give other events: they are found again.
+    void updateProfile() override;
+
+private:
+    Events findEvents(RecordData& record, Profile& profile) const override;
+};
+
+} // namespace VELIX

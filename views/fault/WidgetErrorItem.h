@@ -1,0 +1,33 @@
+#pragma once
+
+#include "views/fault/ErrorColor.h"
+
+#include <QString>
+#include <QWidget>
+
+/// The cell of one bit of a fault matrix: coloured by the bit's error type and state, with its
+/// name written upwards. A bit without a type shows neither.
+class WidgetErrorItem : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit WidgetErrorItem(QWidget* parent = nullptr);
+
+    void setText(const QString& text);
+    const QString& text() const { return mText; }
+    /// VELIX::EErrorType
+    void setType(int type);
+    int type() const { return mType; }
+    /// Lit or not.
+    void setErrorState(bool state);
+    bool errorState() const { return mErrorState; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString mText;
+    bool mErrorState = false;
+    int mType = VELIX::eErrorNone;
+};

@@ -1,0 +1,377 @@
+#include "views/graph/widget/WidgetGraphBase.h"
+
+#include <QEvent>
+#include <QOpenGLContext>
+
+namespace {
+
+constexpr int kRepaintMs = 30;
+
+QColor fromFractions(float red, float green, float blue)
+{
+    return QColor::fromRgbF(qBound(0.0, static_cast<double>(red), 1.0),
+                            qBound(0.0, static_cast<double>(green), 1.0),
+                            qBound(0.0, static_cast<double>(blue), 1.0));
+}
+
+} // namespace
+
+WidgetGraphBase::WidgetGraphBase(QWidget* parent) : QOpenGLWidget(parent)
+{
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+
+    mRecalcTimer.setSingleShot(true);
+    mCursorTimer.setSingleShot(true);
+    connect(&mRepaintTimer, &QTimer::timeout, this, &WidgetGraphBase::slotTimeout);
+    connect(&mRecalcTimer, &QTimer::timeout, this, &WidgetGraphBase::slotTimeoutRecalc);
+    connect(&mCursorTimer, &QTimer::timeout, this, &WidgetGraphBase::slotTimeoutCursor);
+    mSinceRepaint.start();
+    mRepaintTimer.start(kRepaintMs);
+}
+
+WidgetGraphBase::~WidgetGraphBase()
+{
+    if (context() != nullptr) {
+        disconnect(context(), nullptr, this, nullptr);
+    }
+    releasePlot();
+}
+
+void WidgetGraphBase::touch()
+{
+    mSceneStale = true;
+    update();
+}
+
+// --- traces
+
+void WidgetGraphBase::setMaxParameters(unsigned int count)
+{
+    mModel.setMaxParameters(count);
+    touch();
+}
+
+void WidgetGraphBase::setParameterName(unsigned int i, const std::string& name)
+{
+    mModel.setParameterName(i, name);
+    touch();
+}
+
+void WidgetGraphBase::setParameterUnit(unsigned int i, const std::string& unit)
+{
+    mModel.setParameterUnit(i, unit);
+    touch();
+}
+
+void WidgetGraphBase::setParameterColor(unsigned int i, float red, float green, float blue)
+{
+    mModel.setParameterColor(i, red, green, blue);
+    touch();
+}
+
+void WidgetGraphBase::setPrecision(unsigned int i, int decimals)
+{
+    mModel.setPrecision(i, decimals);
+    touch();
+}
+
+void WidgetGraphBase::setActive(unsigned int i, bool active)
+{
+    mModel.setActive(i, active);
+    touch();
+}
+
+void WidgetGraphBase::activateSamples(unsigned int i, bool on)
+{
+    mModel.activateSamples(i, on);
+    touch();
+}
+
+// --- feeding; the repaint timer sees what changed, since an update for each of a million samples
+// would cost more than the samples
+
+void WidgetGraphBase::setTime(double t)
+{
+    mModel.setTime(t);
+}
+
+void WidgetGraphBase::putValue(unsigned int i, double value, bool hold)
+{
+    mModel.putValue(i, value, hold);
+}
+
+void WidgetGraphBase::clear()
+{
+    mModel.clear();
+    touch();
+}
+
+void WidgetGraphBase::reset()
+{
+    mModel.reset();
+    const bool focused = mPointer.focused;
+    mPointer = {};
+    mPointer.focused = focused;
+    mDrag = Drag::None;
+    touch();
+}
+
+// --- values
+
+bool WidgetGraphBase::getParameterRangeX(unsigned int i, double& first, double& last) const
+{
+    return mModel.getParameterRangeX(i, first, last);
+}
+
+bool WidgetGraphBase::getParameterRangeY(unsigned int i, double& low, double& high) const
+{
+    return mModel.getParameterRangeY(i, low, high);
+}
+
+double WidgetGraphBase::getCurrentAverageValue() const
+{
+    return mModel.getCurrentAverageValue();
+}
+
+// --- cursor, markers, modes
+
+void WidgetGraphBase::setCursorPosition(double x)
+{
+    mModel.setCursorPosition(x);
+    update();
+}
+
+void WidgetGraphBase::setCursorMode(eCursorMode mode)
+{
+    mModel.setCursorMode(mode);
+    update();
+}
+
+void WidgetGraphBase::setGraphMode(eGraphMode mode)
+{
+    mModel.setGraphMode(mode);
+}
+
+void WidgetGraphBase::setDisplayMode(eDisplayMode mode)
+{
+    mModel.setDisplayMode(mode);
+    touch();
+}
+
+void WidgetGraphBase::setOfflineMode(bool on)
+{
+    mModel.setOfflineMode(on);
+}
+
+void WidgetGraphBase::setMarker(double marker1, double marker2)
+{
+    mModel.setMarker(marker1, marker2);
+    mPointer.markersOn = true;
+    update();
+}
+
+void WidgetGraphBase::addTopMarker(unsigned int i, double time)
+{
+    mModel.addTopMarker(i, time);
+    update();
+}
+
+// --- look
+
+void WidgetGraphBase::setBackColor(float red, float green, float blue)
+{
+    mLook.back = fromFractions(red, green, blue);
+    touch();
+}
+
+void WidgetGraphBase::setGridColor(float red, float green, float blue)
+{
+    mLook.grid = fromFractions(red, green, blue);
+    touch();
+}
+
+void WidgetGraphBase::setLabelColor(float red, float green, float blue)
+{
+    mLook.label = fromFractions(red, green, blue);
+    touch();
+}
+
+void WidgetGraphBase::setLabelBackColor(float red, float green, float blue)
+{
+    mLook.labelBack = fromFractions(red, green, blue);
+    touch();
+}
+
+void WidgetGraphBase::activateGrid(bool on)
+{
+    mLook.gridOn = on;
+    touch();
+}
+
+void WidgetGraphBase::activateCursor(bool on)
+{
+    mLook.cursorOn = on;
+    update();
+}
+
+void WidgetGraphBase::activateLegend(bool on)
+{
+    mLook.legendOn = on;
+    touch();
+}
+
+// --- scales and ranges
+
+void WidgetGraphBase::setAutoScaleY(bool on)
+{
+    mModel.changeScaling().setAutoScale(on);
+    touch();
+}
+
+void WidgetGraphBase::setAutoScaleYSpread(double spread)
+{
+    mModel.changeScaling().setSpread(spread);
+    touch();
+}
+
+void WidgetGraphBase::setYRangeOn(bool on)
+{
+    mModel.changeScaling().setRangeOn(on);
+    touch();
+}
+
+void WidgetGraphBase::setYRange(double ymin, double ymax)
+{
+    mModel.changeScaling().setYmin(ymin);
+    mModel.changeScaling().setYmax(ymax);
+    touch();
+}
+
+void WidgetGraphBase::setYmin(float ymin)
+{
+    mModel.changeScaling().setYmin(static_cast<double>(ymin));
+    touch();
+}
+
+void WidgetGraphBase::setYmax(float ymax)
+{
+    mModel.changeScaling().setYmax(static_cast<double>(ymax));
+    touch();
+}
+
+void WidgetGraphBase::setXmin(float xmin)
+{
+    mModel.setXmin(static_cast<double>(xmin));
+    touch();
+}
+
+void WidgetGraphBase::setXmax(float xmax)
+{
+    mModel.setXmax(static_cast<double>(xmax));
+    touch();
+}
+
+void WidgetGraphBase::setVisibleRange(double xmin, double xmax)
+{
+    mModel.setRange({xmin, xmax});
+    touch();
+}
+
+void WidgetGraphBase::setT0(float t0)
+{
+    mModel.setT0(static_cast<double>(t0));
+    touch();
+}
+
+void WidgetGraphBase::setXrange(float width)
+{
+    mModel.setXrange(static_cast<double>(width));
+    mRecalcTimer.start(VELIX::GraphRecalc::kIntervalMs);
+    touch();
+}
+
+void WidgetGraphBase::zoomToMarker()
+{
+    mModel.zoomToMarker();
+    mRecalcTimer.start(VELIX::GraphRecalc::kIntervalMs);
+    touch();
+}
+
+void WidgetGraphBase::startRecalc()
+{
+    mModel.startRecalc();
+    mRecalcTimer.start(VELIX::GraphRecalc::kIntervalMs);
+}
+
+// --- timers
+
+void WidgetGraphBase::slotTimeout()
+{
+    if (!isVisible() || mModel.revision() == mPaintedRevision) {
+        return;
+    }
+    constexpr double kMsPerSecond = 1000.0;
+    if (mModel.repaintDue(static_cast<double>(mSinceRepaint.elapsed()) / kMsPerSecond)) {
+        mSinceRepaint.restart();
+        update();
+    }
+}
+
+void WidgetGraphBase::slotTimeoutRecalc()
+{
+    if (mModel.stepRecalc()) {
+        mRecalcTimer.start(VELIX::GraphRecalc::kIntervalMs);
+    }
+    touch();
+}
+
+void WidgetGraphBase::slotTimeoutCursor()
+{
+    mPointer.cursorActive = false;
+    update();
+}
+
+// --- the scene
+
+const VELIX::GraphLayout& WidgetGraphBase::layoutOfParts()
+{
+    updateScene();
+    return mScene.layout;
+}
+
+void WidgetGraphBase::updateScene()
+{
+    if (!mSceneStale && mSceneRevision == mModel.plotRevision() && mSceneSize == size()) {
+        return;
+    }
+    mModel.calcFrame(); // the ticks depend on the scales
+    mScene = VELIX::GraphScene::make(mModel, mLook, size(), font());
+    mSceneRevision = mModel.plotRevision();
+    mSceneSize = size();
+    mSceneStale = false;
+    mPlotStale = true;
+}
+
+void WidgetGraphBase::adoptPlotWidth()
+{
+    // Frames are as fine as the frame buffer, which has more pixels than the widget on some
+    // screens.
+    const int width = qRound(mScene.layout.plot().width() * devicePixelRatioF());
+    if (mScene.layout.empty() || width == mModel.plotWidth()) {
+        return;
+    }
+    mModel.setPlotWidth(width);
+    mModel.recalcFrameBuffer();
+    mPlotStale = true;
+    startRecalc();
+}
+
+void WidgetGraphBase::changeEvent(QEvent* event)
+{
+    QOpenGLWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange ||
+        event->type() == QEvent::LanguageChange) {
+        touch();
+    }
+}
