@@ -232,7 +232,7 @@ void DialogMain::slotLoadCycle(unsigned int cycle, int flight)
 void DialogMain::printPage(int id)
 {
     const Printable* page = mDialogData->printablePage();
-    if (page == nullptr || !page->printHindrance().isEmpty()) {
+    if (page == nullptr || !page->unprintableReason().isEmpty()) {
         return;
     }
     const RecordData& record = mContext.card.recordData();
@@ -357,7 +357,7 @@ void DialogMain::updateEnabled()
     const QString hindrance =
         page == nullptr ? tr("This page cannot be printed. The graph, the event lists and the tow "
                              "statistic can.")
-                        : page->printHindrance();
+                        : page->unprintableReason();
     mActions->setUnavailable(eActionPrint, hindrance);
     mActions->setUnavailable(eActionSavePdf, hindrance);
     const QString nothingLoaded =

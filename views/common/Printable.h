@@ -29,7 +29,7 @@ public:
     /// Heading of the pages.
     [[nodiscard]] virtual QString printTitle() const = 0;
     /// Why there is nothing to print now, as a short sentence; empty if there is.
-    [[nodiscard]] virtual QString printHindrance() const = 0;
+    [[nodiscard]] virtual QString unprintableReason() const = 0;
     /// Whether the paper is to lie on its long side.
     [[nodiscard]] virtual bool printsWide() const { return false; }
     /// Pages for a device, whose resolution decides how many pixels a point has. The layout must

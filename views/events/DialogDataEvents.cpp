@@ -343,7 +343,7 @@ QString DialogDataEvents::printTitle() const
     return mTexts.header;
 }
 
-QString DialogDataEvents::printHindrance() const
+QString DialogDataEvents::unprintableReason() const
 {
     return mRecord == nullptr ? tr("No record loaded") : QString();
 }

@@ -40,7 +40,7 @@ public:
     void saveCsv();
 
     QString printTitle() const override;
-    QString printHindrance() const override;
+    QString unprintableReason() const override;
     std::unique_ptr<PrintLayout> printLayout(QPaintDevice& device,
                                              const QSizeF& room) const override;
 

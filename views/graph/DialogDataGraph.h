@@ -54,7 +54,7 @@ public:
     void showAround(double seconds);
 
     QString printTitle() const override;
-    QString printHindrance() const override;
+    QString unprintableReason() const override;
     bool printsWide() const override { return true; }
     std::unique_ptr<PrintLayout> printLayout(QPaintDevice& device,
                                              const QSizeF& room) const override;

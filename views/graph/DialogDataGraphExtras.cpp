@@ -94,7 +94,7 @@ QString DialogDataGraph::printTitle() const
     return tr("Graph");
 }
 
-QString DialogDataGraph::printHindrance() const
+QString DialogDataGraph::unprintableReason() const
 {
     if (mRecord == nullptr) {
         return tr("No record loaded");

@@ -54,7 +54,7 @@ QString DialogDataStatistic::printTitle() const
     return tr("Tow Statistic");
 }
 
-QString DialogDataStatistic::printHindrance() const
+QString DialogDataStatistic::unprintableReason() const
 {
     const bool something =
         mRecord != nullptr && (mRecord->flight.statistic.valid || !mRecord->cycleFlights.empty());

@@ -27,7 +27,7 @@ public:
     void addLine(const QString& name, const QString& value);
 
     QString printTitle() const override;
-    QString printHindrance() const override;
+    QString unprintableReason() const override;
     std::unique_ptr<PrintLayout> printLayout(QPaintDevice& device,
                                              const QSizeF& room) const override;
 

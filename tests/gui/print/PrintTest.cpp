@@ -115,7 +115,7 @@ struct FakeView : Printable
         const FakeView& mView;
     };
     QString printTitle() const override { return QStringLiteral("Limits/Warnings"); }
-    QString printHindrance() const override { return {}; }
+    QString unprintableReason() const override { return {}; }
     std::unique_ptr<PrintLayout> printLayout(QPaintDevice&, const QSizeF&) const override
     {
         return std::make_unique<Layout>(*this);
