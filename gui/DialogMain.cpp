@@ -16,6 +16,7 @@
 #include "gui/help/DialogAbout.h"
 #include "gui/help/DialogHelp.h"
 #include "gui/look/ImageHandler.h"
+#include "gui/look/Spacing.h"
 #include "gui/preferences/DialogPreferences.h"
 #include "gui/print/PrintController.h"
 #include "gui/profile/DialogProfile.h"
@@ -46,7 +47,6 @@ constexpr int kWidth = 1000;
 constexpr int kHeight = 800;
 constexpr int kLeftPaneMinimum = 310; ///< a cycle's line fits
 constexpr int kLeftPaneMaximum = 330; ///< the data has the space
-constexpr int kGap = 8;
 
 } // namespace
 
@@ -125,7 +125,7 @@ void DialogMain::createPanes()
     mLeftPane->setMinimumWidth(kLeftPaneMinimum);
     mLeftPane->setMaximumWidth(kLeftPaneMaximum);
     auto* layout = new QVBoxLayout(mLeftPane);
-    layout->setContentsMargins(kGap, kGap, 0, kGap);
+    layout->setContentsMargins(Spacing::kNormal, Spacing::kNormal, 0, Spacing::kNormal);
     layout->addWidget(column);
 
     mSplitter->addWidget(mLeftPane);

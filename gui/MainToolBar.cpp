@@ -2,6 +2,7 @@
 
 #include "gui/MainActions.h"
 #include "gui/look/QwtComboBox.h"
+#include "gui/look/Spacing.h"
 #include "profile/Profile.h"
 
 #include <QAction>
@@ -11,7 +12,6 @@ namespace VELIX {
 
 namespace {
 
-constexpr int kGap = 8;
 constexpr int kIconSize = 24;
 constexpr int kSeparator = -1;
 constexpr int kButtons[] = {eActionOpenCard,    eActionExportKml,     eActionExportCsv,
@@ -53,7 +53,7 @@ QwtComboBox* MainToolBar::addSelector(const QString& label, const QString& tip)
     box->setToolTip(tip);
     auto* text = new QLabel(label, this);
     text->setBuddy(box);
-    text->setContentsMargins(kGap, 0, kGap / 2, 0);
+    text->setContentsMargins(Spacing::kNormal, 0, Spacing::kTight, 0);
     addWidget(text);
     addWidget(box);
     return box;

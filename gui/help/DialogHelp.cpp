@@ -4,6 +4,7 @@
 #include "gui/help/HelpBrowser.h"
 #include "gui/look/ImageHandler.h"
 #include "gui/look/Palette.h"
+#include "gui/look/Spacing.h"
 
 #include <QBoxLayout>
 #include <QCoreApplication>
@@ -25,6 +26,8 @@ using VELIX::HelpPage;
 using VELIX::HelpSection;
 using VELIX::Palette;
 
+namespace Spacing = VELIX::Spacing;
+
 namespace {
 
 constexpr const char* kWidthKey = "HelpWidth";
@@ -36,8 +39,6 @@ constexpr int kLeastWidth = 560;
 constexpr int kLeastHeight = 360;
 constexpr int kContentsWidth = 240;
 constexpr int kSearchWidth = 240;
-constexpr int kMargin = 8;
-constexpr int kGap = 4;
 constexpr int kIconSize = 24;
 constexpr int kDefaultFont = 12;
 constexpr int kReadingBonus = 2; ///< running text is larger than labels
@@ -81,8 +82,9 @@ DialogHelp::DialogHelp(VELIX::Property& settings, QWidget* parent)
     createContents();
     createPages();
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    layout->setSpacing(kMargin);
+    layout->setContentsMargins(Spacing::kNormal, Spacing::kNormal, Spacing::kNormal,
+                               Spacing::kNormal);
+    layout->setSpacing(Spacing::kNormal);
     layout->addLayout(createBar());
     layout->addWidget(mSplitter, 1);
     createKeys();
@@ -122,7 +124,7 @@ void DialogHelp::createPages()
     mResults->setWordWrap(true);
     mResults->setResizeMode(QListView::Adjust);
     mResults->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    mResults->setSpacing(kGap / 2);
+    mResults->setSpacing(Spacing::kTight / 2);
     connect(mResults, &QListWidget::currentRowChanged, this, &DialogHelp::slotResult);
     mNothing = new QLabel(this);
     mNothing->setWordWrap(true);
@@ -166,7 +168,7 @@ QToolButton* DialogHelp::addButton(QBoxLayout* row, const QIcon& icon, const QSt
 QBoxLayout* DialogHelp::createBar()
 {
     auto* row = new QHBoxLayout;
-    row->setSpacing(kGap);
+    row->setSpacing(Spacing::kTight);
     const auto keys = [](const char* text) { return QKeySequence(QLatin1String(text)); };
 
     QToolButton* back = addButton(row, icon("history-back"), tr("Previous page"), keys("Alt+Left"));
@@ -178,7 +180,7 @@ QBoxLayout* DialogHelp::createBar()
     connect(mBrowser, &QTextBrowser::forwardAvailable, forward, &QToolButton::setEnabled);
     back->setEnabled(false);
     forward->setEnabled(false);
-    row->addSpacing(2 * kMargin - kGap);
+    row->addSpacing(Spacing::kWide - Spacing::kTight);
     QToolButton* smaller = addButton(row, icon("zoom-out"), tr("Smaller text"), keys("Ctrl+-"));
     QToolButton* larger = addButton(row, icon("zoom-in"), tr("Larger text"), keys("Ctrl++"));
     connect(smaller, &QToolButton::clicked, this, [this] { zoom(mBrowser->textSize() - 1); });

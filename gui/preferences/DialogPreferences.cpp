@@ -5,6 +5,7 @@
 #include "gui/dialogs/ApplicationControl.h"
 #include "gui/dialogs/DialogService.h"
 #include "gui/look/ImageHandler.h"
+#include "gui/look/Spacing.h"
 #include "gui/preferences/PreferencesGeneral.h"
 #include "gui/preferences/PreferencesMap.h"
 #include "gui/profile/ProfileSettings.h"
@@ -26,7 +27,6 @@ constexpr const char* kLocale = "Locale";
 constexpr const char* kFontSize = "FontSize";
 constexpr int kDefaultFontSize = 12;
 constexpr int kContentWidth = 540;
-constexpr int kGap = 8;
 constexpr int kListMargin = 24; ///< frame and padding beside the longest title
 
 } // namespace
@@ -80,11 +80,11 @@ void DialogPreferences::createLayout()
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* row = new QHBoxLayout;
-    row->setSpacing(kGap * 2);
+    row->setSpacing(Spacing::kWide);
     row->addWidget(mPageList);
     row->addWidget(mPages, 1);
     auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(kGap * 2);
+    layout->setSpacing(Spacing::kWide);
     layout->addStrut(kContentWidth); // a minimum of the window would not grow with the font
     layout->addLayout(row, 1);
     layout->addWidget(buttons);

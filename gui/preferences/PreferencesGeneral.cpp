@@ -1,5 +1,7 @@
 #include "gui/preferences/PreferencesGeneral.h"
 
+#include "gui/look/Spacing.h"
+
 #include <QComboBox>
 #include <QDir>
 #include <QFormLayout>
@@ -15,7 +17,6 @@ namespace {
 
 constexpr int kSmallestFont = 8; ///< pixels
 constexpr int kLargestFont = 24;
-constexpr int kGap = 8;
 const QString kEnglish = QStringLiteral("us");
 
 } // namespace
@@ -67,15 +68,15 @@ void PreferencesGeneral::createProfileRow()
 void PreferencesGeneral::createLayout()
 {
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(kGap);
+    buttons->setSpacing(Spacing::kNormal);
     buttons->addWidget(mSelect);
     buttons->addWidget(mInstalled);
     buttons->addStretch(1);
 
     auto* form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    form->setHorizontalSpacing(kGap * 2);
-    form->setVerticalSpacing(kGap);
+    form->setHorizontalSpacing(Spacing::kWide);
+    form->setVerticalSpacing(Spacing::kNormal);
     form->addRow(tr("&Language"), mLanguage);
     form->addRow(tr("&Font size"), mFontSize);
     form->addRow(tr("&Profile file"), mProfile);

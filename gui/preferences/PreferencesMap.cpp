@@ -1,6 +1,7 @@
 #include "gui/preferences/PreferencesMap.h"
 
 #include "core/MapSettings.h"
+#include "gui/look/Spacing.h"
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>
@@ -20,7 +21,6 @@ constexpr double kStep = 0.1;
 constexpr int kSmallestCache = 50;   // MB
 constexpr int kLargestCache = 20000; // MB
 constexpr int kCacheStep = 50;       // MB
-constexpr int kGap = 8;
 
 } // namespace
 
@@ -43,8 +43,8 @@ PreferencesMap::PreferencesMap(QWidget* parent)
 
     auto* form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    form->setHorizontalSpacing(kGap * 2);
-    form->setVerticalSpacing(kGap);
+    form->setHorizontalSpacing(Spacing::kWide);
+    form->setVerticalSpacing(Spacing::kNormal);
     form->addRow(tr("&Tile server"), mTileServer);
     mCacheLimit = addCacheLimit(*form);
     form->addRow(QString(), mShading);

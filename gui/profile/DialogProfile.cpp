@@ -3,6 +3,7 @@
 #include "gui/look/CopyFilter.h"
 #include "gui/look/ImageHandler.h"
 #include "gui/look/Palette.h"
+#include "gui/look/Spacing.h"
 #include "gui/look/TreeColumn.h"
 #include "gui/look/WidgetHint.h"
 #include "profile/Profile.h"
@@ -24,8 +25,6 @@ namespace VELIX {
 namespace {
 
 constexpr int kBlinkMs = 250;
-constexpr int kGap = 4;
-constexpr int kMargin = 8;
 constexpr int kParameterRole = Qt::UserRole;
 constexpr int kDeviceRole = Qt::UserRole + 1;
 
@@ -120,12 +119,12 @@ QWidget* DialogProfile::createPage()
 
     auto* page = new QWidget(this);
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(kGap);
+    buttons->setSpacing(Spacing::kTight);
     buttons->addWidget(mButtonClear);
     buttons->addWidget(mButtonConfirm, 1);
     auto* layout = new QVBoxLayout(page);
-    layout->setContentsMargins(0, kMargin, 0, 0);
-    layout->setSpacing(kGap);
+    layout->setContentsMargins(0, Spacing::kNormal, 0, 0);
+    layout->setSpacing(Spacing::kTight);
     layout->addWidget(mSearch);
     layout->addWidget(mTree, 1);
     layout->addWidget(mCount);
