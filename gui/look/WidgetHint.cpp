@@ -1,18 +1,13 @@
 #include "gui/look/WidgetHint.h"
 
 #include "gui/look/Palette.h"
+#include "gui/look/Spacing.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
 #include <QVariant>
 
 namespace VELIX {
-
-namespace {
-
-constexpr int Margin = 16;
-
-} // namespace
 
 QString WidgetHint::noRecord()
 {
@@ -31,6 +26,16 @@ QString WidgetHint::installProfile()
     return tr("Install a profile");
 }
 
+WidgetHint::Message WidgetHint::withoutRecord()
+{
+    return {noRecord(), {}};
+}
+
+WidgetHint::Message WidgetHint::withoutProfile()
+{
+    return {noProfile(), installProfile()};
+}
+
 WidgetHint::WidgetHint(QWidget* parent)
     : QWidget(parent), mText(new QLabel(this)), mLink(new QLabel(this))
 {
@@ -46,7 +51,7 @@ WidgetHint::WidgetHint(QWidget* parent)
     connect(mLink, &QLabel::linkActivated, this, &WidgetHint::signalLink);
 
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Margin, Margin, Margin, Margin);
+    layout->setContentsMargins(Spacing::kWide, Spacing::kWide, Spacing::kWide, Spacing::kWide);
     layout->addStretch(1);
     layout->addWidget(mText);
     layout->addWidget(mLink);
@@ -63,6 +68,15 @@ void WidgetHint::setHint(const QString& text, const QString& linkText)
     mText->setText(text);
     mLink->setText(QStringLiteral("<a href=\"hint\">%1</a>").arg(linkText.toHtmlEscaped()));
     mLink->setVisible(!linkText.isEmpty());
+}
+
+void WidgetHint::showInsteadOf(QWidget* content, const Message& message)
+{
+    setHint(message.text, message.link);
+    setVisible(!message.isEmpty());
+    if (content != nullptr) {
+        content->setVisible(message.isEmpty());
+    }
 }
 
 QString WidgetHint::hint() const

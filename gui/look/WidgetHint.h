@@ -13,7 +13,18 @@ class WidgetHint : public QWidget
     Q_OBJECT
 
 public:
-    /// What several panes say: sentences, and the text of a link.
+    /// A sentence and the text of a link below it, both plain; an empty link text shows no link.
+    struct Message
+    {
+        QString text; ///< empty: the pane has something to show
+        QString link;
+        [[nodiscard]] bool isEmpty() const { return text.isEmpty(); }
+    };
+
+    /// What several panes say; the second one links to the installation of a profile.
+    static Message withoutRecord();
+    static Message withoutProfile();
+    /// The same as sentences, and the text of the link.
     static QString noRecord();
     static QString noProfile();
     static QString installProfile();
@@ -23,6 +34,9 @@ public:
 
     /// Both are plain text; an empty link text shows no link.
     void setHint(const QString& text, const QString& linkText = {});
+    /// Shows the message in the place of `content`, or the content again if the message is empty.
+    /// content: null if the hint only covers what it belongs to
+    void showInsteadOf(QWidget* content, const Message& message);
     [[nodiscard]] QString hint() const;
 
 signals:
