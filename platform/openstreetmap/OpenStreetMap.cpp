@@ -3,8 +3,8 @@
 
 #include "platform/openstreetmap/OpenStreetMap.h"
 
+#include "platform/openstreetmap/MapFrame.h"
 #include "platform/openstreetmap/MapPainter.h"
-#include "platform/openstreetmap/MapPicture.h"
 #include "platform/openstreetmap/ShadeSource.h"
 #include "platform/openstreetmap/TileSource.h"
 
@@ -50,7 +50,7 @@ public:
 
     MapProjection projection;
     MapPainter painter;
-    MapPicture picture{painter};
+    MapFrame picture{painter};
     TileSource source;
     ShadeSource shades;
     MapType type = Tiles;

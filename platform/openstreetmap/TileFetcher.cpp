@@ -69,7 +69,7 @@ TileFetcher::TileFetcher(QObject* parent) : QObject(parent)
 {
     mClock.start();
     mNetwork.setRedirectPolicy(QNetworkRequest::NoLessSafeRedirectPolicy);
-    setPatience({});
+    setTimeouts({});
 }
 
 TileFetcher::~TileFetcher()
@@ -78,11 +78,11 @@ TileFetcher::~TileFetcher()
     dropUnwanted({});
 }
 
-void TileFetcher::setPatience(const Patience& patience)
+void TileFetcher::setTimeouts(const Timeouts& timeouts)
 {
-    mPatience = patience;
-    mNetwork.setTransferTimeout(patience.silence);
-    mRetries.setPauses(patience.firstPause, patience.longestPause);
+    mTimeouts = timeouts;
+    mNetwork.setTransferTimeout(timeouts.silence);
+    mRetries.setPauses(timeouts.firstPause, timeouts.longestPause);
 }
 
 void TileFetcher::setServer(const QString& server)
@@ -208,7 +208,7 @@ void TileFetcher::limit(const TileAddress& tile, QNetworkReply& reply)
     connect(&reply, &QNetworkReply::metaDataChanged, this, check);
     connect(&reply, &QNetworkReply::readyRead, this, check);
     // The other limit is one of silence: a byte now and then would keep the connection for ever.
-    QTimer::singleShot(mPatience.whole, &reply, [this, tile, &reply] {
+    QTimer::singleShot(mTimeouts.whole, &reply, [this, tile, &reply] {
         stop(tile, reply, QStringLiteral("not whole in time"));
     });
 }

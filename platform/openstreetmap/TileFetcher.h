@@ -30,8 +30,8 @@ public:
         TileFreshness known; ///< of the copy that is there; without tags the tile is fetched anew
     };
 
-    /// With slow servers, and with those that fail.
-    struct Patience
+    /// How long slow servers are waited for, and how soon those that failed are asked again.
+    struct Timeouts
     {
         int silence = 15000;     ///< ms without any progress
         int whole = 30000;       ///< ms for a tile
@@ -45,7 +45,7 @@ public:
     /// Running requests to another server are dropped.
     void setServer(const QString& server);
     [[nodiscard]] const QString& server() const { return mServer; }
-    void setPatience(const Patience& patience);
+    void setTimeouts(const Timeouts& timeouts);
     void setUserAgent(const QByteArray& agent) { mUserAgent = agent; }
 
     /// The tiles that are wanted from now on, most urgent first. What was asked for and is wanted
@@ -93,7 +93,7 @@ private:
     QByteArray mUserAgent;
     std::vector<Request> mQueue; ///< most urgent last
     std::map<TileAddress, Running> mRunning;
-    Patience mPatience;
+    Timeouts mTimeouts;
     RetryPlan mRetries;
     bool mHasSent = false;                       ///< the server, a tile
     std::map<QString, RetryPlan::Failure> mTold; ///< reasons that were given

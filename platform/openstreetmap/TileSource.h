@@ -38,7 +38,7 @@ public:
     /// Tiles of another server are shown until this one has sent its own.
     void setServer(const QString& server);
     void setUserAgent(const QByteArray& agent) { mFetcher.setUserAgent(agent); }
-    void setPatience(const TileFetcher::Patience& patience) { mFetcher.setPatience(patience); }
+    void setTimeouts(const TileFetcher::Timeouts& timeouts) { mFetcher.setTimeouts(timeouts); }
     /// Tiles that failed are asked for again without waiting for their time.
     void retry() { mFetcher.retry(); }
     /// Pictures of another folder that are there already stay.

@@ -207,7 +207,7 @@ TEST_F(TileSourceTest, AServerThatForbidsKeepingIsNotAskedWithEveryPicture)
 
 TEST_F(TileSourceTest, AServerThatRefusesIsLeftAloneForAsLongAsItAsks)
 {
-    mSource.setPatience({15000, 30000, 0.01, 0.01});
+    mSource.setTimeouts({15000, 30000, 0.01, 0.01});
     mServer.setMode(TileServer::Mode::Busy);
     const std::vector<TileAddress> tiles{{4, 1, 5}, {4, 2, 5}, {4, 3, 5}, {4, 4, 5}, {4, 5, 5}};
     const auto askAgain = [&] {
@@ -281,9 +281,9 @@ TEST_F(TileSourceTest, TellsWhyThereAreNoTilesButNotForEachOfThem)
 
 TEST_F(TileSourceTest, ServersThatTakeTheirTimeOccupyNoConnectionForEver)
 {
-    TileFetcher::Patience patience;
-    patience.whole = 300;
-    mSource.setPatience(patience);
+    TileFetcher::Timeouts timeouts;
+    timeouts.whole = 300;
+    mSource.setTimeouts(timeouts);
     mServer.setMode(TileServer::Mode::Drip);
     const std::vector<TileAddress> tiles{{4, 1, 5}, {4, 2, 5}, {4, 3, 5}, {4, 4, 5}, {4, 5, 5}};
     ASSERT_TRUE(waitFor([&] {
@@ -296,9 +296,9 @@ TEST_F(TileSourceTest, ServersThatTakeTheirTimeOccupyNoConnectionForEver)
     EXPECT_EQ(mPictures.size(), 1U);
     EXPECT_EQ(mFailures, std::vector<std::string>{"not whole in time"});
 
-    patience.whole = 30000;
-    patience.silence = 300;
-    mSource.setPatience(patience);
+    timeouts.whole = 30000;
+    timeouts.silence = 300;
+    mSource.setTimeouts(timeouts);
     mServer.setMode(TileServer::Mode::Silent);
     settle(mSource, {{5, 1, 1}});
     EXPECT_EQ(mFailures.back(), "no answer in time");
@@ -315,7 +315,7 @@ TEST_F(TileSourceTest, AnAnswerWithoutEndIsCutOff)
 
 TEST_F(TileSourceTest, ATileThatFailedIsAskedForAgainAfterAWhile)
 {
-    mSource.setPatience({15000, 30000, 0.1, 0.2});
+    mSource.setTimeouts({15000, 30000, 0.1, 0.2});
     mServer.setMode(TileServer::Mode::Error);
     const TileAddress tile{4, 8, 5};
     const auto wanted = [&] {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/tessel/opengl/PictureBuffer.h"
+#include "platform/tessel/opengl/FrameCache.h"
 #include "views/graph/model/GraphModel.h"
 #include "views/graph/widget/GraphCurve.h"
 #include "views/graph/widget/GraphLook.h"
@@ -202,7 +202,7 @@ private:
     VELIX::GraphPointer mPointer;
     VELIX::GraphScene mScene;
     /// Grid and traces, smooth: a cursor that moves costs a copy of them.
-    Tessel::OpenGL::PictureBuffer mPlot{4};
+    Tessel::OpenGL::FrameCache mPlot{4};
     bool mPlotStale = true;   ///< the picture that mPlot keeps is out of date
     VELIX::GraphCurve mCurve; ///< kept for its memory
     std::vector<VELIX::GraphVertex> mLines;

@@ -82,7 +82,7 @@ void WidgetGraphBase::paintGL()
 
 void WidgetGraphBase::showPlot(const QSize& pixels)
 {
-    if (!Tessel::OpenGL::PictureBuffer::isSupported()) {
+    if (!Tessel::OpenGL::FrameCache::isSupported()) {
         drawPlot(pixels);
         return;
     }

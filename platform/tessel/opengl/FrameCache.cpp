@@ -1,4 +1,4 @@
-#include "platform/tessel/opengl/PictureBuffer.h"
+#include "platform/tessel/opengl/FrameCache.h"
 
 #include <QOpenGLContext>
 #include <QOpenGLExtraFunctions>
@@ -36,12 +36,12 @@ void copy(const QOpenGLFramebufferObject& source, GLuint target)
 
 } // namespace
 
-bool PictureBuffer::isSupported()
+bool FrameCache::isSupported()
 {
     return QOpenGLFramebufferObject::hasOpenGLFramebufferBlit();
 }
 
-bool PictureBuffer::begin(const QSize& pixels)
+bool FrameCache::begin(const QSize& pixels)
 {
     GLint target = 0; // making a buffer binds it
     functions().glGetIntegerv(GL_FRAMEBUFFER_BINDING, &target);
@@ -68,24 +68,24 @@ bool PictureBuffer::begin(const QSize& pixels)
     return true;
 }
 
-void PictureBuffer::end() const
+void FrameCache::end() const
 {
     if (mDrawn != nullptr) {
         copy(*mDrawn, mPicture->handle());
     }
 }
 
-bool PictureBuffer::holds(const QSize& pixels) const
+bool FrameCache::holds(const QSize& pixels) const
 {
     return mPicture != nullptr && mPicture->size() == pixels;
 }
 
-void PictureBuffer::copyTo(GLuint target) const
+void FrameCache::copyTo(GLuint target) const
 {
     copy(*mPicture, target);
 }
 
-void PictureBuffer::release()
+void FrameCache::release()
 {
     mDrawn.reset();
     mPicture.reset();

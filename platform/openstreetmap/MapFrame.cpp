@@ -1,23 +1,23 @@
 // First, since the toolkit includes the same headers without the functions.
 #include "platform/tessel/opengl/Gl.h"
 
+#include "platform/openstreetmap/MapFrame.h"
 #include "platform/openstreetmap/MapPainter.h"
-#include "platform/openstreetmap/MapPicture.h"
 
 #include <algorithm>
 #include <iterator>
 
 namespace OpenStreet {
 
-void MapPicture::show(const Look& look, const std::vector<PlacedTile>& placed,
-                      const std::set<TileAddress>& arrived)
+void MapFrame::show(const Look& look, const std::vector<PlacedTile>& placed,
+                    const std::set<TileAddress>& arrived)
 {
     const QSize size(look.projection.windowWidth(), look.projection.windowHeight());
     const bool isKept = !mStale && mLook == look && mBuffer.holds(size);
     GLint target = 0;
     glGetIntegerv(GL_FRAMEBUFFER_BINDING, &target);
     if (!isKept || !arrived.empty()) {
-        if (!Tessel::OpenGL::PictureBuffer::isSupported() || !mBuffer.begin(size)) {
+        if (!Tessel::OpenGL::FrameCache::isSupported() || !mBuffer.begin(size)) {
             draw(look, placed);
             return;
         }
@@ -31,13 +31,13 @@ void MapPicture::show(const Look& look, const std::vector<PlacedTile>& placed,
     mBuffer.copyTo(static_cast<GLuint>(target));
 }
 
-void MapPicture::release()
+void MapFrame::release()
 {
     mBuffer.release();
     mStale = true;
 }
 
-void MapPicture::draw(const Look& look, const std::vector<PlacedTile>& placed)
+void MapFrame::draw(const Look& look, const std::vector<PlacedTile>& placed)
 {
     if (!look.tiles) {
         mPainter.drawOutline(look.projection);
@@ -56,8 +56,8 @@ void MapPicture::draw(const Look& look, const std::vector<PlacedTile>& placed)
 
 /// Over the rest, which stays; false if what has arrived shows elsewhere, too, or shows what is
 /// behind it.
-bool MapPicture::drawArrived(const Look& look, const std::vector<PlacedTile>& placed,
-                             const std::set<TileAddress>& arrived)
+bool MapFrame::drawArrived(const Look& look, const std::vector<PlacedTile>& placed,
+                           const std::set<TileAddress>& arrived)
 {
     std::vector<PlacedTile> tiles;
     std::copy_if(placed.begin(), placed.end(), std::back_inserter(tiles),

@@ -10,11 +10,11 @@ namespace Tessel::OpenGL {
 /// Keeps what was drawn, so that a picture of which little changes costs a copy and that little.
 ///
 /// All calls but the constructor need one and the same OpenGL context to be current.
-class PictureBuffer
+class FrameCache
 {
 public:
     /// With several samples per pixel lines are smooth, at a fraction of the price of blended ones.
-    explicit PictureBuffer(int samplesPerPixel = 0) : mSamples(samplesPerPixel) {}
+    explicit FrameCache(int samplesPerPixel = 0) : mSamples(samplesPerPixel) {}
 
     /// Whether the current context can copy from one frame buffer to another.
     [[nodiscard]] static bool isSupported();

@@ -3,7 +3,7 @@
 #include "platform/openstreetmap/MapProjection.h"
 #include "platform/openstreetmap/TileAddress.h"
 #include "platform/openstreetmap/TileView.h"
-#include "platform/tessel/opengl/PictureBuffer.h"
+#include "platform/tessel/opengl/FrameCache.h"
 
 #include <set>
 #include <vector>
@@ -13,8 +13,8 @@ namespace OpenStreet {
 class MapPainter;
 
 /// The map as it was last drawn: while it does not move, showing it costs a copy and the drawing
-/// of what has arrived since. The context rule of Tessel::OpenGL::PictureBuffer holds.
-class MapPicture
+/// of what has arrived since. The context rule of Tessel::OpenGL::FrameCache holds.
+class MapFrame
 {
 public:
     /// What decides how the map looks, apart from the pictures that are there.
@@ -28,7 +28,7 @@ public:
         bool operator==(const Look&) const = default;
     };
 
-    explicit MapPicture(MapPainter& painter) : mPainter(painter) {}
+    explicit MapFrame(MapPainter& painter) : mPainter(painter) {}
 
     /// Draws the map to the current frame buffer.
     /// @param placed the tiles of the window
@@ -45,7 +45,7 @@ private:
                      const std::set<TileAddress>& arrived);
 
     MapPainter& mPainter;
-    Tessel::OpenGL::PictureBuffer mBuffer;
+    Tessel::OpenGL::FrameCache mBuffer;
     Look mLook; ///< of the picture in the buffer
     bool mStale = true;
 };
