@@ -125,7 +125,7 @@ void DialogMain::createPanes()
     mLeftPane->setMinimumWidth(kLeftPaneMinimum);
     mLeftPane->setMaximumWidth(kLeftPaneMaximum);
     auto* layout = new QVBoxLayout(mLeftPane);
-    layout->setContentsMargins(Spacing::kNormal, Spacing::kNormal, 0, Spacing::kNormal);
+    layout->setContentsMargins(Spacing::kMargin, Spacing::kMargin, 0, Spacing::kMargin);
     layout->addWidget(column);
 
     mSplitter->addWidget(mLeftPane);

@@ -53,7 +53,7 @@ QwtComboBox* MainToolBar::addSelector(const QString& label, const QString& tip)
     box->setToolTip(tip);
     auto* text = new QLabel(label, this);
     text->setBuddy(box);
-    text->setContentsMargins(Spacing::kNormal, 0, Spacing::kTight, 0);
+    text->setContentsMargins(Spacing::kMargin, 0, Spacing::kGap, 0);
     addWidget(text);
     addWidget(box);
     return box;

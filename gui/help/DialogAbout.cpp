@@ -43,7 +43,7 @@ DialogAbout::DialogAbout(QWidget* parent) : QDialog(parent)
     connect(buttons, &QDialogButtonBox::rejected, this, &DialogAbout::reject);
 
     auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(Spacing::kWide);
+    layout->setSpacing(Spacing::kGroup);
     layout->addWidget(createHeading());
     layout->addWidget(createLicences(), 1);
     layout->addWidget(buttons);
@@ -65,7 +65,7 @@ QWidget* DialogAbout::createHeading()
                            tr("Debriefing of engine data cards"), tr("Built %1").arg(buildDate())));
     auto* layout = new QHBoxLayout(heading);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Spacing::kWide);
+    layout->setSpacing(Spacing::kGroup);
     layout->addWidget(picture);
     layout->addWidget(text, 1);
     return heading;
@@ -75,7 +75,7 @@ QWidget* DialogAbout::createLicences()
 {
     auto* pane = new QWidget(this);
     mList = new QListWidget(pane);
-    mList->setSpacing(Spacing::kTight / 2); // between entries of two lines
+    mList->setSpacing(Spacing::kGap / 2); // between entries of two lines
     for (const Licences::Entry& entry : Licences::entries()) {
         mList->addItem(entry.licence.isEmpty()
                            ? entry.name
@@ -99,7 +99,7 @@ QWidget* DialogAbout::createLicences()
 
     auto* layout = new QGridLayout(pane);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(Spacing::kNormal);
+    layout->setSpacing(Spacing::kMargin);
     layout->addWidget(title, 0, 0);
     layout->addWidget(mList, 1, 0);
     layout->addWidget(mText, 1, 1);
@@ -110,7 +110,7 @@ QWidget* DialogAbout::createLicences()
 /// The size of the text is a preference, which may have changed since the last time.
 void DialogAbout::showEvent(QShowEvent* event)
 {
-    mList->setFixedWidth(mList->sizeHintForColumn(0) + 2 * Spacing::kWide);
+    mList->setFixedWidth(mList->sizeHintForColumn(0) + 2 * Spacing::kGroup);
     mText->ensurePolished();
     const QFontMetrics metrics(mText->font());
     mText->setMinimumSize(metrics.horizontalAdvance(QLatin1Char('0')) * kTextColumns,

@@ -82,9 +82,9 @@ DialogHelp::DialogHelp(VELIX::Property& settings, QWidget* parent)
     createContents();
     createPages();
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Spacing::kNormal, Spacing::kNormal, Spacing::kNormal,
-                               Spacing::kNormal);
-    layout->setSpacing(Spacing::kNormal);
+    layout->setContentsMargins(Spacing::kMargin, Spacing::kMargin, Spacing::kMargin,
+                               Spacing::kMargin);
+    layout->setSpacing(Spacing::kMargin);
     layout->addLayout(createBar());
     layout->addWidget(mSplitter, 1);
     createKeys();
@@ -124,7 +124,7 @@ void DialogHelp::createPages()
     mResults->setWordWrap(true);
     mResults->setResizeMode(QListView::Adjust);
     mResults->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    mResults->setSpacing(Spacing::kTight / 2);
+    mResults->setSpacing(Spacing::kGap / 2);
     connect(mResults, &QListWidget::currentRowChanged, this, &DialogHelp::slotResult);
     mNothing = new QLabel(this);
     mNothing->setWordWrap(true);
@@ -168,7 +168,7 @@ QToolButton* DialogHelp::addButton(QBoxLayout* row, const QIcon& icon, const QSt
 QBoxLayout* DialogHelp::createBar()
 {
     auto* row = new QHBoxLayout;
-    row->setSpacing(Spacing::kTight);
+    row->setSpacing(Spacing::kGap);
     const auto keys = [](const char* text) { return QKeySequence(QLatin1String(text)); };
 
     QToolButton* back = addButton(row, icon("history-back"), tr("Previous page"), keys("Alt+Left"));
@@ -180,7 +180,7 @@ QBoxLayout* DialogHelp::createBar()
     connect(mBrowser, &QTextBrowser::forwardAvailable, forward, &QToolButton::setEnabled);
     back->setEnabled(false);
     forward->setEnabled(false);
-    row->addSpacing(Spacing::kWide - Spacing::kTight);
+    row->addSpacing(Spacing::kGroup - Spacing::kGap);
     QToolButton* smaller = addButton(row, icon("zoom-out"), tr("Smaller text"), keys("Ctrl+-"));
     QToolButton* larger = addButton(row, icon("zoom-in"), tr("Larger text"), keys("Ctrl++"));
     connect(smaller, &QToolButton::clicked, this, [this] { zoom(mBrowser->textSize() - 1); });

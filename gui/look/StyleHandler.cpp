@@ -2,6 +2,7 @@
 
 #include "core/Diagnostics.h"
 #include "gui/look/Palette.h"
+#include "gui/look/Spacing.h"
 
 #include <QFile>
 #include <QHash>
@@ -9,6 +10,7 @@
 
 using VELIX::Diagnostics;
 using VELIX::Palette;
+namespace Spacing = VELIX::Spacing;
 
 namespace {
 
@@ -46,14 +48,19 @@ constexpr NamedColor NamedColors[] = {
 struct NamedSize
 {
     const char* name;
-    const char* value;
+    int pixels;
 };
 
-// All distances follow a rhythm of 8 pixels.
 constexpr NamedSize NamedSizes[] = {
-    {"gap", "4px"},        {"margin", "8px"},     {"group", "16px"},
-    {"toolIcon", "24px"},  {"tabIcon", "32px"},   {"radius", "4px"},
-    {"indicator", "14px"}, {"scrollBar", "12px"}, {"scrollHandle", "32px"},
+    {"gap", Spacing::kGap},
+    {"margin", Spacing::kMargin},
+    {"group", Spacing::kGroup},
+    {"toolIcon", 24},
+    {"tabIcon", 32},
+    {"radius", 4},
+    {"indicator", 14},
+    {"scrollBar", 12},
+    {"scrollHandle", 32},
 };
 
 QHash<QString, QString> valuesByName(const Palette& palette)
@@ -63,7 +70,7 @@ QHash<QString, QString> valuesByName(const Palette& palette)
         values.insert(QLatin1String(color.name), (palette.*color.member).name());
     }
     for (const NamedSize& size : NamedSizes) {
-        values.insert(QLatin1String(size.name), QLatin1String(size.value));
+        values.insert(QLatin1String(size.name), QStringLiteral("%1px").arg(size.pixels));
     }
     values.insert(QStringLiteral("look"), palette.look == Palette::Look::Dark
                                               ? QStringLiteral("dark")

@@ -51,7 +51,7 @@ WidgetHint::WidgetHint(QWidget* parent)
     connect(mLink, &QLabel::linkActivated, this, &WidgetHint::signalLink);
 
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(Spacing::kWide, Spacing::kWide, Spacing::kWide, Spacing::kWide);
+    layout->setContentsMargins(Spacing::kGroup, Spacing::kGroup, Spacing::kGroup, Spacing::kGroup);
     layout->addStretch(1);
     layout->addWidget(mText);
     layout->addWidget(mLink);

@@ -80,11 +80,11 @@ void DialogPreferences::createLayout()
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto* row = new QHBoxLayout;
-    row->setSpacing(Spacing::kWide);
+    row->setSpacing(Spacing::kGroup);
     row->addWidget(mPageList);
     row->addWidget(mPages, 1);
     auto* layout = new QVBoxLayout(this);
-    layout->setSpacing(Spacing::kWide);
+    layout->setSpacing(Spacing::kGroup);
     layout->addStrut(kContentWidth); // a minimum of the window would not grow with the font
     layout->addLayout(row, 1);
     layout->addWidget(buttons);

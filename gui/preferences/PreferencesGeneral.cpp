@@ -68,15 +68,15 @@ void PreferencesGeneral::createProfileRow()
 void PreferencesGeneral::createLayout()
 {
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(Spacing::kNormal);
+    buttons->setSpacing(Spacing::kMargin);
     buttons->addWidget(mSelect);
     buttons->addWidget(mInstalled);
     buttons->addStretch(1);
 
     auto* form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    form->setHorizontalSpacing(Spacing::kWide);
-    form->setVerticalSpacing(Spacing::kNormal);
+    form->setHorizontalSpacing(Spacing::kGroup);
+    form->setVerticalSpacing(Spacing::kMargin);
     form->addRow(tr("&Language"), mLanguage);
     form->addRow(tr("&Font size"), mFontSize);
     form->addRow(tr("&Profile file"), mProfile);

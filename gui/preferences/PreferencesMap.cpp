@@ -43,8 +43,8 @@ PreferencesMap::PreferencesMap(QWidget* parent)
 
     auto* form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-    form->setHorizontalSpacing(Spacing::kWide);
-    form->setVerticalSpacing(Spacing::kNormal);
+    form->setHorizontalSpacing(Spacing::kGroup);
+    form->setVerticalSpacing(Spacing::kMargin);
     form->addRow(tr("&Tile server"), mTileServer);
     mCacheLimit = addCacheLimit(*form);
     form->addRow(QString(), mShading);

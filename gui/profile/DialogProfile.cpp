@@ -119,12 +119,12 @@ QWidget* DialogProfile::createPage()
 
     auto* page = new QWidget(this);
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(Spacing::kTight);
+    buttons->setSpacing(Spacing::kGap);
     buttons->addWidget(mButtonClear);
     buttons->addWidget(mButtonConfirm, 1);
     auto* layout = new QVBoxLayout(page);
-    layout->setContentsMargins(0, Spacing::kNormal, 0, 0);
-    layout->setSpacing(Spacing::kTight);
+    layout->setContentsMargins(0, Spacing::kMargin, 0, 0);
+    layout->setSpacing(Spacing::kGap);
     layout->addWidget(mSearch);
     layout->addWidget(mTree, 1);
     layout->addWidget(mCount);
