@@ -7,7 +7,7 @@
 #include "gui/look/CopyFilter.h"
 #include "gui/look/WidgetHint.h"
 #include "profile/Profile.h"
-#include "views/common/ThresholdDelegate.h"
+#include "views/common/CursorTable.h"
 #include "views/events/EventItems.h"
 #include "views/events/EventPrint.h"
 
@@ -20,10 +20,8 @@
 #include <QHeaderView>
 #include <QMetaMethod>
 #include <QScopedValueRollback>
-#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStandardPaths>
-#include <QTableWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -39,14 +37,13 @@ constexpr int kGridLine = 1;
 constexpr int kTimeWidth = 80;
 constexpr int kCellMargin = 12;
 constexpr int kEventMargin = 24; // and the stripe ahead of the text
-constexpr int kBold = 75;
 
 } // namespace
 
 DialogDataEvents::DialogDataEvents(Profile& profile, DialogService& dialogs, const Texts& texts,
                                    QWidget* parent)
     : QWidget(parent),
-      mTable(new QTableWidget(this)),
+      mTable(new CursorTable(kRowHeight, kGridLine, this)),
       mProfile(profile),
       mDialogs(dialogs),
       mTexts(texts),
@@ -64,45 +61,23 @@ DialogDataEvents::DialogDataEvents(Profile& profile, DialogService& dialogs, con
 
 DialogDataEvents::~DialogDataEvents()
 {
-    mBusy = true; // rows that go are no choice of the user's
-    mCursorRow = -1;
+    mBusy = true; // rows that are removed are no choice of the user's
     delete mTable;
 }
 
 void DialogDataEvents::createTable()
 {
-    mTable->setSelectionMode(QAbstractItemView::SingleSelection);
-    mTable->setSelectionBehavior(QAbstractItemView::SelectRows);
-    mTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    mTable->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    mTable->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    mTable->setWordWrap(false);
-    mTable->setStyleSheet(QStringLiteral("selection-background-color: rgba(100, 100, 255, 255);"));
-    mTable->setItemDelegate(new ThresholdDelegate(mTable));
-    mTable->setTabKeyNavigation(false);
     mTable->setAutoScroll(false); // it would scroll aside as well, away from the times
     mTable->setAccessibleName(mTexts.header);
     mTable->verticalHeader()->setVisible(false);
-    mTable->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-
     mTable->setColumnCount(2);
     mTable->setHorizontalHeaderLabels({tr("Time"), mTexts.header});
-    // In a narrow pane the middle of the column is out of sight.
+    // In a narrow pane the middle of the column is not visible.
     mTable->horizontalHeaderItem(kColumnEvent)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    QHeaderView* header = mTable->horizontalHeader();
-    QFont bold = header->font();
-    bold.setWeight(kBold);
-    header->setFont(bold);
-    header->setHighlightSections(false);
-    header->setSectionResizeMode(kColumnEvent, QHeaderView::Stretch);
+    mTable->horizontalHeader()->setSectionResizeMode(kColumnEvent, QHeaderView::Stretch);
     fitCells();
     mTable->viewport()->installEventFilter(this);
-
-    CopyFilter::install(mTable);
     connect(mTable, &QTableWidget::itemSelectionChanged, this, &DialogDataEvents::slotSelect);
-    // A list that was not on screen yet gets its height late; then the cursor's row has to move.
-    connect(mTable->verticalScrollBar(), &QScrollBar::rangeChanged, this,
-            &DialogDataEvents::centreRow);
 }
 
 void DialogDataEvents::createActions()
@@ -114,8 +89,8 @@ void DialogDataEvents::createActions()
         return action;
     };
     mTable->setContextMenuPolicy(Qt::ActionsContextMenu);
-    mCopy = addAction(tr("Copy"), &DialogDataEvents::copy);
-    mSave = addAction(tr("Save as CSV ..."), &DialogDataEvents::saveCsv);
+    addAction(tr("Copy"), &DialogDataEvents::copy);
+    addAction(tr("Save as CSV ..."), &DialogDataEvents::saveCsv);
     mShowInGraph = addAction(tr("Show in graph"), &DialogDataEvents::showInGraph);
     mShowInGraph->setVisible(false);
 }
@@ -135,36 +110,7 @@ void DialogDataEvents::setTime(double seconds)
     const QScopedValueRollback<bool> busy(mBusy, true);
     const auto above = mKeyToRow.upper_bound(timeKey(seconds));
     const std::uint32_t row = above == mKeyToRow.begin() ? 0 : std::prev(above)->second;
-    mCursorRow = static_cast<int>(row);
-    QItemSelectionModel* selection = mTable->selectionModel();
-    const QModelIndex cell = mTable->model()->index(mCursorRow, kColumnTime);
-    if (selection->currentIndex().row() != mCursorRow || !selection->isSelected(cell)) {
-        selection->setCurrentIndex(cell,
-                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    }
-    centreRow();
-}
-
-/// Only up and down: what was scrolled aside to be read stays.
-void DialogDataEvents::centreRow()
-{
-    const auto item = mRowToItem.find(static_cast<std::uint32_t>(mCursorRow));
-    if (mCursorRow < 0 || item == mRowToItem.end()) {
-        return;
-    }
-    const int row = item->second->row();
-    mTable->verticalScrollBar()->setValue(mTable->verticalHeader()->sectionPosition(row) -
-                                          (mTable->viewport()->height() - mTable->rowHeight(row)) /
-                                              2);
-}
-
-/// Scrolls no farther than the cursor's row needs to be seen.
-void DialogDataEvents::showRow()
-{
-    QScrollBar* bar = mTable->verticalScrollBar();
-    const int top = mTable->verticalHeader()->sectionPosition(mCursorRow);
-    const int highest = top + mTable->rowHeight(mCursorRow) - mTable->viewport()->height();
-    bar->setValue(std::max(std::min(bar->value(), top), highest));
+    mTable->moveCursor(static_cast<int>(row));
 }
 
 void DialogDataEvents::updateRecord(RecordData* record)
@@ -180,7 +126,7 @@ void DialogDataEvents::updateRecord(RecordData* record)
     clearRows();
     mTable->setRowCount(static_cast<int>(mEvents.size()));
     {
-        // A record can have as many events as samples; each cell would tell the view of itself.
+        // A record can have as many events as samples; each cell would report itself to the view.
         const QSignalBlocker quiet(mTable->model());
         fillTime();
         fillEvents();
@@ -201,19 +147,15 @@ void DialogDataEvents::clear()
 void DialogDataEvents::clearRows()
 {
     const QScopedValueRollback<bool> busy(mBusy, true);
-    mRowToItem.clear();
     mKeyToRow.clear();
-    mCursorRow = -1;
-    mTable->setRowCount(0);
+    mTable->clearRows();
 }
 
 void DialogDataEvents::fillTime()
 {
     std::uint32_t row = 0;
     for (const RecordLimit* event : mEvents) {
-        auto* item = new EventTimeItem(event->time);
-        mTable->setItem(static_cast<int>(row), kColumnTime, item);
-        mRowToItem.emplace_hint(mRowToItem.end(), row, item);
+        mTable->setItem(static_cast<int>(row), kColumnTime, new EventTimeItem(event->time));
         mKeyToRow.insert_or_assign(mKeyToRow.end(), event->key, row); // of one key the last row
         ++row;
     }
@@ -229,19 +171,16 @@ void DialogDataEvents::fillEvents()
 
 void DialogDataEvents::fitCells()
 {
-    const QFontMetrics metrics = mTable->fontMetrics();
-    QHeaderView* rows = mTable->verticalHeader();
-    const int height = std::max(kRowHeight, metrics.height() + kGridLine);
-    rows->setMinimumSectionSize(height);
-    rows->setDefaultSectionSize(height);
-    const int text = metrics.horizontalAdvance(QStringLiteral("00:00:00.000")) + kCellMargin;
+    mTable->fitRows();
+    const int text =
+        mTable->fontMetrics().horizontalAdvance(QStringLiteral("00:00:00.000")) + kCellMargin;
     const int heading = mTable->horizontalHeader()->sectionSizeHint(kColumnTime);
     mTable->setColumnWidth(kColumnTime, std::max({kTimeWidth, text, heading}));
     fitEvents();
 }
 
-/// The value stands at the end of an event, so a pane that is too narrow must not cut it off: the
-/// column takes the room that is left or, if that is not enough, can be scrolled.
+/// The value is at the end of an event, so a pane that is too narrow must not cut it off: the
+/// column takes the space that is left or, if that is not enough, can be scrolled.
 void DialogDataEvents::fitEvents()
 {
     const auto longest = std::max_element(mEvents.begin(), mEvents.end(), [](auto* a, auto* b) {
@@ -276,12 +215,12 @@ void DialogDataEvents::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        // The table hears of a new font after its parent.
+        // The table gets a new font after its parent.
         QMetaObject::invokeMethod(
             this,
             [this] {
                 fitCells();
-                centreRow();
+                mTable->centerCursor();
             },
             Qt::QueuedConnection);
     }
@@ -289,15 +228,13 @@ void DialogDataEvents::changeEvent(QEvent* event)
 
 void DialogDataEvents::updateHint()
 {
-    QString text;
+    WidgetHint::Message missing;
     if (mRecord == nullptr) {
-        text = WidgetHint::noRecord();
+        missing = WidgetHint::withoutRecord();
     } else if (mEvents.empty()) {
-        text = mProfile.isEmpty() ? mTexts.noProfile : mTexts.none;
+        missing.text = mProfile.isEmpty() ? mTexts.noProfile : mTexts.none;
     }
-    mHint->setHint(text);
-    mHint->setVisible(!text.isEmpty());
-    mTable->setVisible(text.isEmpty());
+    mHint->showInsteadOf(mTable, missing);
 }
 
 const QTableWidgetItem* DialogDataEvents::selectedTime() const
@@ -314,9 +251,9 @@ void DialogDataEvents::slotSelect()
 {
     const QTableWidgetItem* item = mBusy ? nullptr : selectedTime();
     if (item != nullptr) {
-        mCursorRow = item->row();
-        showRow();
-        // Conversion to an integer would round; a cursor behind the event's first sample could
+        mTable->setCursorRow(item->row());
+        mTable->showCursor();
+        // Conversion to an integer would round; a cursor after the event's first sample could
         // already show the next one.
         emit signalTime(std::trunc(item->data(Qt::UserRole).toDouble()) * 0.001);
     }

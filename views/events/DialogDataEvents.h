@@ -11,11 +11,11 @@
 #include <vector>
 
 class QAction;
-class QTableWidget;
 class QTableWidgetItem;
 
 namespace VELIX {
 
+class CursorTable;
 class DialogService;
 class Profile;
 class WidgetHint;
@@ -31,9 +31,9 @@ class DialogDataEvents : public QWidget, public DataView, public Printable
 public:
     void setTime(double seconds) override;
     /// Finds and lists the events of a record. Null leaves the rows as they are, since another
-    /// record is about to come.
+    /// record is about to be loaded.
     void updateRecord(RecordData* record) override;
-    /// No record is open any more: an empty list, which says so.
+    /// Empties the list, since no record is open any more; its hint says so.
     void clear();
 
     /// Asks for a file and writes the list to it.
@@ -47,7 +47,7 @@ public:
 signals:
     /// The user selected the row of a time (seconds on the record's axis, whole milliseconds).
     void signalTime(double seconds);
-    /// The user wants to see what led to an event. Offered only if somebody is connected.
+    /// The user wants to see what led to an event. Offered only if something is connected.
     void signalShowInGraph(double seconds);
     /// A result or failure in words.
     void signalNotice(const QString& sentence);
@@ -86,29 +86,23 @@ private:
     void fitCells();
     void fitEvents();
     void stretchEvents();
-    void centreRow();
-    void showRow();
     void updateHint();
     void copy() const;
     void showInGraph();
     const QTableWidgetItem* selectedTime() const;
 
     std::map<std::uint32_t, std::uint32_t> mKeyToRow; ///< tenths of a second
-    std::map<std::uint32_t, QTableWidgetItem*> mRowToItem;
     RecordData* mRecord = nullptr;
-    bool mBusy = false; ///< the view itself fills or selects; nobody is told
-    QTableWidget* mTable = nullptr;
+    bool mBusy = false; ///< the view itself fills or selects and emits no signal
+    CursorTable* mTable = nullptr;
 
     Profile& mProfile;
     DialogService& mDialogs;
     const Texts mTexts;
-    Events mEvents; ///< the record's own
-    int mCursorRow = -1;
+    Events mEvents;      ///< the record's own
     int mEventWidth = 0; ///< pixels that the longest event needs
     QString mFolder;     ///< where a list was saved last
     WidgetHint* mHint = nullptr;
-    QAction* mCopy = nullptr;
-    QAction* mSave = nullptr;
     QAction* mShowInGraph = nullptr;
 };
 

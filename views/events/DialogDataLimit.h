@@ -12,7 +12,7 @@ class DialogDataLimit final : public DialogDataEvents
 public:
     DialogDataLimit(Profile& profile, DialogService& dialogs, QWidget* parent = nullptr);
 
-    /// Other thresholds or units give other events: they are found again.
+    /// Finds the events again: other thresholds or units give other ones.
     void updateProfile() override;
 
 private:

@@ -12,7 +12,8 @@ class DialogDataWarning final : public DialogDataEvents
 public:
     DialogDataWarning(Profile& profile, DialogService& dialogs, QWidget* parent = nullptr);
 
-    /// A lamp was lit whatever the profile says now: the events stay until the next record.
+    /// Does nothing: a lamp was lit whatever the profile says now, so the events stay until the
+    /// next record.
     void updateProfile() override {}
 
 private:

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "views/common/TableItems.h"
+#include "views/common/TableCell.h"
+#include "views/events/EventTint.h"
 
 #include <QColor>
 #include <QString>
@@ -17,7 +18,7 @@ public:
 
 private:
     QString cellText() const override;
-    QColor ground() const override;
+    QColor cellBackground() const override { return kTimeBackground; }
 
     double mSeconds;
 };
@@ -27,16 +28,17 @@ class EventTextItem final : public TableCell
 {
 public:
     /// color: invalid for an event without one
-    EventTextItem(const QString& text, const QColor& color);
+    EventTextItem(const QString& text, const QColor& color) : mText(text), mTint(eventTint(color))
+    {}
 
     QVariant data(int role) const override;
 
 private:
     QString cellText() const override { return mText; }
-    QColor ground() const override { return mGround; }
+    QColor cellBackground() const override { return mTint; }
 
     QString mText;
-    QColor mGround; ///< with its opacity
+    QColor mTint;
 };
 
 } // namespace VELIX

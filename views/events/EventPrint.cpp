@@ -2,6 +2,7 @@
 
 #include "gui/look/Palette.h"
 #include "views/common/CursorTime.h"
+#include "views/events/EventTint.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -18,13 +19,6 @@ constexpr double kPadding = 3.0;
 constexpr double kGap = 14.0;
 constexpr double kRule = 0.5;
 constexpr double kPointsPerInch = 72.0;
-constexpr double kTint = 60.0 / 255.0;
-
-QColor tintOf(const QColor& color)
-{
-    const auto mix = [](double channel) { return 1.0 - kTint + channel * kTint; };
-    return QColor::fromRgbF(mix(color.redF()), mix(color.greenF()), mix(color.blueF()));
-}
 
 } // namespace
 
@@ -51,10 +45,10 @@ double EventPrint::rowHeight(const RecordLimit& event, QPaintDevice& device) con
     if (metrics.horizontalAdvance(event.text) <= width) {
         return mLine;
     }
-    const QRectF place(0, 0, width, mRoom.height());
+    const QRectF area(0, 0, width, mRoom.height());
     const double text =
-        metrics.boundingRect(place, Qt::TextWrapAnywhere | Qt::TextWordWrap, event.text).height();
-    // A row that were higher than a page would never find its place.
+        metrics.boundingRect(area, Qt::TextWrapAnywhere | Qt::TextWordWrap, event.text).height();
+    // A row higher than a page would fit on none.
     return std::min(text + 2 * kPadding * mPoint, mRoom.height() - mLine);
 }
 
@@ -115,7 +109,7 @@ void EventPrint::paintRow(QPainter& painter, std::size_t row, double top) const
     const double height = mHeights[row];
     const QRectF text(mTimeWidth, top, mRoom.width() - mTimeWidth, height);
     if (event.color.isValid()) {
-        painter.fillRect(text, tintOf(event.color));
+        painter.fillRect(text, blended(eventTint(event.color), Qt::white));
     }
     painter.fillRect(QRectF(0, top + height - kRule * mPoint, mRoom.width(), kRule * mPoint),
                      Palette::light().line);

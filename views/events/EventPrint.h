@@ -11,7 +11,7 @@
 
 namespace VELIX {
 
-/// A list of events on paper: times to the left, texts on the tint that they have on screen, the
+/// Prints a list of events: times to the left, texts on the tint that they have on screen, the
 /// headings repeated on every page. Texts that are too long for a line are wrapped.
 class EventPrint final : public PrintLayout
 {
@@ -23,7 +23,7 @@ public:
         QString none;  ///< printed in place of rows if there are none
     };
 
-    /// The events outlive the layout.
+    /// The events must outlive the layout.
     EventPrint(std::vector<const RecordLimit*> events, const Texts& texts, QPaintDevice& device,
                const QSizeF& room);
 

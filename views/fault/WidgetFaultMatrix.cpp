@@ -2,8 +2,8 @@
 
 #include "card/FaultWord.h"
 #include "card/RecordData.h"
-#include "gui/look/CopyFilter.h"
 #include "gui/look/Palette.h"
+#include "views/common/RecordTable.h"
 #include "views/fault/WidgetErrorItem.h"
 #include "views/fault/WidgetErrorTime.h"
 
@@ -11,7 +11,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollBar>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace VELIX {
@@ -31,7 +30,7 @@ constexpr int kMargin = 8;
 constexpr int kSideMargin = 4; // narrow: a window of 1000 pixels then shows all columns
 constexpr int kGap = 4;
 
-/// Of a given number of columns in a row those that hold the most bits with a type: the first one.
+/// Returns the first of `shown` adjacent columns that have the most bits with a type.
 int firstColumnShown(const FaultMatrix& matrix, int bits, int shown)
 {
     const auto isUsed = [&](int column) {
@@ -53,7 +52,7 @@ int firstColumnShown(const FaultMatrix& matrix, int bits, int shown)
     return best;
 }
 
-/// What a copy of the table says of a bit: the cell itself is a widget.
+/// The text that a copy of the table has for a bit: the cell itself is a widget.
 class BitItem : public QTableWidgetItem
 {
 public:
@@ -80,7 +79,7 @@ WidgetFaultMatrix::WidgetFaultMatrix(QWidget* parent)
     : QFrame(parent),
       mTitle(new QLabel(this)),
       mTime(new WidgetErrorTime(this)),
-      mTable(new QTableWidget(1, kBits, this))
+      mTable(new RecordTable(this))
 {
     setFrameShape(QFrame::Panel);
     setFrameShadow(QFrame::Plain);
@@ -102,7 +101,7 @@ void WidgetFaultMatrix::createTitle()
     font.setPixelSize(kTitlePixels);
     font.setWeight(kBold);
     mTitle->setFont(font);
-    // A font size of the user's own, given to all widgets, would win over the font. The colour is
+    // A font size that the user gives to all widgets would override the font. The colour is
     // named because the panel's frame takes that of the inherited text.
     mTitle->setStyleSheet(QStringLiteral("font-size: %1px; font-weight: bold; color: %2;")
                               .arg(kTitlePixels)
@@ -114,16 +113,11 @@ void WidgetFaultMatrix::createTitle()
 
 void WidgetFaultMatrix::createTable()
 {
-    mTable->setSelectionMode(QAbstractItemView::SingleSelection);
-    mTable->setSelectionBehavior(QAbstractItemView::SelectRows);
-    mTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    mTable->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    mTable->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    mTable->setRowCount(1);
+    mTable->setColumnCount(kBits);
     mTable->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    mTable->setTabKeyNavigation(false);
-    mTable->setStyleSheet(QStringLiteral("selection-background-color: rgba(100, 100, 255, 255);"));
-    // A border would take pixels that the columns share out, and those that are left over at the
-    // right belong to the panel, which frames the table.
+    // A border would take pixels from the columns, and those that are left over at the right belong
+    // to the panel, which frames the table.
     setStyleSheet(QStringLiteral("QTableWidget { border: none; background: transparent; }"));
     mTable->setFrameShape(QFrame::NoFrame);
     mTable->setFixedHeight(kTableHeight);
@@ -139,7 +133,6 @@ void WidgetFaultMatrix::createTable()
                                          "QHeaderView::section { padding: 0; font-size: %1px; }")
                               .arg(kHeaderPixels));
     header->setFixedHeight(kHeaderHeight);
-    header->setHighlightSections(false);
     header->setSectionResizeMode(QHeaderView::Fixed);
     header->setMinimumSectionSize(kColumnWidth);
     QStringList labels;
@@ -148,7 +141,6 @@ void WidgetFaultMatrix::createTable()
         labels.append(QString::number(kBits - 1 - column));
     }
     mTable->setHorizontalHeaderLabels(labels);
-    CopyFilter::install(mTable);
     mTable->installEventFilter(this);
     const QScrollBar* bar = mTable->horizontalScrollBar();
     connect(bar, &QScrollBar::rangeChanged, this, &WidgetFaultMatrix::showAssigned);
@@ -239,7 +231,8 @@ void WidgetFaultMatrix::fitColumns()
     mTable->setHorizontalScrollBarPolicy(narrow ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
 }
 
-/// A table that shows only some of its columns must not look as if the matrix had no bits at all.
+/// Scrolls a table that shows only some of its columns to where the most bits are assigned, so that
+/// it does not look as if the matrix had none.
 void WidgetFaultMatrix::showAssigned()
 {
     const int width = mTable->columnWidth(0);
@@ -248,7 +241,7 @@ void WidgetFaultMatrix::showAssigned()
         return;
     }
     const int first = firstColumnShown(mMatrix, kBits, shown);
-    // Where the keyboard begins: the table would else scroll back to it with the focus.
+    // The keyboard begins there too: the table would otherwise scroll back when it gets the focus.
     mTable->selectionModel()->setCurrentIndex(mTable->model()->index(0, first),
                                               QItemSelectionModel::NoUpdate);
     mTable->horizontalScrollBar()->setValue(first * width);
@@ -262,7 +255,7 @@ bool WidgetFaultMatrix::eventFilter(QObject* watched, QEvent* event)
     return QFrame::eventFilter(watched, event);
 }
 
-/// The cells cover what a table shows of its focus, so the frame shows it.
+/// Shows the focus on the frame, since the cells cover what a table shows of it.
 void WidgetFaultMatrix::showFocus(bool focused)
 {
     QPalette frame = palette();

@@ -9,12 +9,12 @@
 #include <cstdint>
 
 class QLabel;
-class QTableWidget;
 class WidgetErrorItem;
 
 namespace VELIX {
 
 class RecordData;
+class RecordTable;
 class WidgetErrorTime;
 
 /// The panel of one fault matrix: its name, its time bar and a cell for each of its 32 bits, bit 31
@@ -27,17 +27,17 @@ public:
     explicit WidgetFaultMatrix(QWidget* parent = nullptr);
 
     void setData(const FaultMatrix& matrix);
-    /// Null for none: all cells go out. The record stays valid until the next call.
+    /// Takes a record, which must stay valid until the next call; null for none: all cells go out.
     void updateRecord(RecordData* record);
     /// Moves the cursor of the time bar (s), which is painted at once.
     void moveBar(double seconds);
-    /// Moves the time bar and shows the bits in force at a time (s); before the first and after the
-    /// last sample none is.
+    /// Moves the time bar and shows the bits that are set at a time (s); before the first and after
+    /// the last sample none is.
     void setTime(double seconds);
     /// Shows the bits of the message received last.
     void updateLiveData();
 
-    /// The cell of a bit, 0 to 31; null before setData().
+    /// Returns the cell of a bit, 0 to 31; null before setData().
     const WidgetErrorItem* item(int bit) const { return mItems[static_cast<std::size_t>(bit)]; }
 
 protected:
@@ -59,8 +59,8 @@ private:
     std::array<WidgetErrorItem*, kBits> mItems{}; ///< by bit
     QLabel* mTitle = nullptr;
     WidgetErrorTime* mTime = nullptr;
-    QTableWidget* mTable = nullptr;
-    bool mScrolled = false; ///< the user chose the columns in sight
+    RecordTable* mTable = nullptr;
+    bool mScrolled = false; ///< the user chose the visible columns
 };
 
 } // namespace VELIX

@@ -11,7 +11,8 @@ namespace VELIX {
 
 namespace {
 
-/// Rows whose texts decide how wide a column becomes. All 36,000 of an hour would take seconds.
+/// Rows whose texts decide how wide a column becomes. Measuring all 36,000 of an hour would take
+/// seconds.
 constexpr int kMeasuredRows = 24;
 
 } // namespace
@@ -26,7 +27,7 @@ int widestText(const QTableWidget& table, int column)
     };
     int width = 0;
     for (int part = 0; part < measured; ++part) {
-        // A row without a sample passes on to the next one: slow parameters have gaps.
+        // A row without a sample is skipped: slow parameters have gaps.
         for (int row = firstRow(part); row < firstRow(part + 1); ++row) {
             if (const QTableWidgetItem* item = table.item(row, column)) {
                 width = std::max(width, metrics.horizontalAdvance(item->text()));
@@ -37,7 +38,7 @@ int widestText(const QTableWidget& table, int column)
     return width;
 }
 
-// Of an enumeration the rare values are those that must not be cut off.
+// All values count, since the rare ones must not be cut off either.
 int widestLabel(const Profile& profile, const ProfileParameter& p, const QFontMetrics& metrics)
 {
     const ProfileEnum* labels = profile.enumeration(p);

@@ -1,19 +1,16 @@
 #include "views/table/DialogDataTable.h"
 
 #include "card/RecordData.h"
-#include "gui/look/CopyFilter.h"
 #include "gui/look/WidgetHint.h"
 #include "profile/Profile.h"
-#include "views/common/ThresholdDelegate.h"
+#include "views/common/CursorTable.h"
 #include "views/table/ColumnWidth.h"
 
 #include <QEvent>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QScopedValueRollback>
-#include <QScrollBar>
 #include <QSignalBlocker>
-#include <QTableWidget>
 
 #include <algorithm>
 
@@ -25,14 +22,13 @@ constexpr int kLivePeriod = 50; // ms
 constexpr int kLeastRowHeight = 22;
 constexpr int kRowMargin = 6;
 constexpr int kCellMargin = 16;
-constexpr int kBold = 75;
 
 } // namespace
 
 DialogDataTable::DialogDataTable(Profile& profile, QWidget* parent)
     : QWidget(parent),
       mProfile(profile),
-      mTable(new QTableWidget(this)),
+      mTable(new CursorTable(kLeastRowHeight, kRowMargin, this)),
       mHint(new WidgetHint(this))
 {
     createTable();
@@ -48,36 +44,15 @@ DialogDataTable::DialogDataTable(Profile& profile, QWidget* parent)
 
 DialogDataTable::~DialogDataTable()
 {
-    // The table goes while its slots and the columns that its cells point into still exist.
+    // The table is deleted while the slots and the columns that its cells point into still exist.
     mSelecting = true;
-    mCursorRow = -1;
     delete mTable;
 }
 
 void DialogDataTable::createTable()
 {
-    mTable->setSelectionMode(QAbstractItemView::SingleSelection);
-    mTable->setSelectionBehavior(QAbstractItemView::SelectRows);
-    mTable->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    mTable->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    mTable->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    mTable->setWordWrap(false);
-    mTable->setStyleSheet(QStringLiteral("selection-background-color: rgba(100, 100, 255, 255);"));
-    mTable->setItemDelegate(new ThresholdDelegate(mTable));
-    mTable->setTabKeyNavigation(false);
     mTable->setAccessibleName(tr("Values of the record"));
-    QFont bold = mTable->horizontalHeader()->font();
-    bold.setWeight(kBold);
-    mTable->horizontalHeader()->setFont(bold);
-    mTable->horizontalHeader()->setHighlightSections(false);
-    mTable->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    CopyFilter::install(mTable);
-    fitRows();
-
     connect(mTable, &QTableWidget::itemSelectionChanged, this, &DialogDataTable::slotSelect);
-    // The range is known late, when the table was laid out; then the cursor's row has to move.
-    connect(mTable->verticalScrollBar(), &QScrollBar::rangeChanged, this,
-            &DialogDataTable::centreRow);
 }
 
 void DialogDataTable::createHint()
@@ -98,27 +73,7 @@ void DialogDataTable::setTime(double seconds)
         return;
     }
     const QScopedValueRollback<bool> selecting(mSelecting, true);
-    mCursorRow = static_cast<int>(mRows.rowAt(timeKey(seconds)));
-    QItemSelectionModel* selection = mTable->selectionModel();
-    const QModelIndex cell = mTable->model()->index(mCursorRow, 0);
-    if (selection->currentIndex().row() != mCursorRow || !selection->isSelected(cell)) {
-        // Scrolling is centreRow's: the table's own would also run back to the first column.
-        mTable->setAutoScroll(false);
-        selection->setCurrentIndex(cell,
-                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-        mTable->setAutoScroll(true);
-    }
-    centreRow();
-}
-
-void DialogDataTable::centreRow()
-{
-    if (mMode == 0 && mCursorRow >= 0) {
-        const int height = mTable->rowHeight(mCursorRow);
-        mTable->verticalScrollBar()->setValue(
-            mTable->verticalHeader()->sectionPosition(mCursorRow) -
-            (mTable->viewport()->height() - height) / 2);
-    }
+    mTable->moveCursor(static_cast<int>(mRows.rowAt(timeKey(seconds))));
 }
 
 void DialogDataTable::updateRecord(RecordData* record)
@@ -186,12 +141,11 @@ void DialogDataTable::clearCells()
 {
     const QScopedValueRollback<bool> selecting(mSelecting, true);
     mTable->clearContents();
-    mTable->setRowCount(0);
+    mTable->clearRows();
     mRows = {};
-    mCursorRow = -1;
 }
 
-/// Fills the table from the record held; the cells are empty before.
+/// Fills the table from the record at hand; the cells are empty before.
 void DialogDataTable::fillRecord()
 {
     const QScopedValueRollback<bool> selecting(mSelecting, true);
@@ -202,7 +156,7 @@ void DialogDataTable::fillRecord()
         calcTime();
         mTable->setRowCount(static_cast<int>(mRows.size()));
         {
-            // A million cells would each tell the view that they have changed.
+            // A million cells would each report to the view that they have changed.
             const QSignalBlocker quiet(mTable->model());
             fillTime();
             for (std::size_t i = 0; i < mColumns.size(); ++i) {
@@ -238,7 +192,7 @@ void DialogDataTable::fillColumn(int column, const TableColumn& context)
         fillCoordinates(column, context, entries);
         return;
     }
-    const bool sorted = entries.isSorted(); // then a row that was left does not come again
+    const bool sorted = entries.isSorted(); // then no row comes again after another one
     TableValueItem* item = nullptr;
     std::size_t itemRow = 0;
     for (const RecordEntry& entry : entries) {
@@ -253,11 +207,11 @@ void DialogDataTable::fillColumn(int column, const TableColumn& context)
                 continue;
             }
         }
-        item->setEntry(entry); // the last sample of a tenth of a second stands
+        item->setEntry(entry); // the last sample of a tenth of a second counts
     }
 }
 
-/// Positions are judged by those before them, so their texts are made here, in order of time.
+/// A position is judged by those before it, so the texts are made here, in order of time.
 void DialogDataTable::fillCoordinates(int column, const TableColumn& context,
                                       const EntryList& entries)
 {
@@ -274,21 +228,13 @@ void DialogDataTable::fillCoordinates(int column, const TableColumn& context,
             item = new TableTextItem;
             mTable->setItem(at, column, item);
         }
-        item->setValue(text, valueGround(state, color));
+        item->setValue(text, valueBackground(state, color));
     }
 }
 
 const EntryList& DialogDataTable::entriesOf(const TableColumn& column) const
 {
     return mRecord->entries(static_cast<std::uint32_t>(column.parameter.id));
-}
-
-void DialogDataTable::fitRows()
-{
-    QHeaderView* header = mTable->verticalHeader();
-    const int height = std::max(kLeastRowHeight, mTable->fontMetrics().height() + kRowMargin);
-    header->setMinimumSectionSize(height);
-    header->setDefaultSectionSize(height);
 }
 
 void DialogDataTable::fitColumns()
@@ -308,13 +254,13 @@ void DialogDataTable::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        // The table hears of a new font after its parent.
+        // The table gets a new font after its parent.
         QMetaObject::invokeMethod(
             this,
             [this] {
-                fitRows();
+                mTable->fitRows();
                 fitColumns();
-                centreRow();
+                mTable->centerCursor();
             },
             Qt::QueuedConnection);
     }
@@ -327,7 +273,7 @@ void DialogDataTable::slotSelect()
     }
     for (const QTableWidgetItem* item : mTable->selectedItems()) {
         if (item->column() == 0) {
-            mCursorRow = item->row();
+            mTable->setCursorRow(item->row());
             emit signalTime(static_cast<double>(item->data(Qt::UserRole).toLongLong()) * 0.001);
         }
     }
@@ -352,36 +298,32 @@ void DialogDataTable::slotTimeout()
             QColor color;
             const QString text =
                 mProfile.getDataString(list->last, column->parameter, state, color);
-            item->setValue(text, valueGround(state, color));
+            item->setValue(text, valueBackground(state, color));
         }
         ++row;
     }
     mTable->viewport()->update();
 }
 
-/// Says what is missing where a table would only be blank.
+/// Says what is missing where the table would only be blank.
 void DialogDataTable::updateHint()
 {
-    QString text;
-    QString link;
+    WidgetHint::Message missing;
     mOffersInstall = mProfile.isEmpty();
     if (mProfile.isEmpty()) {
-        text = WidgetHint::noProfile();
-        link = WidgetHint::installProfile();
+        missing = WidgetHint::withoutProfile();
     } else if (mRecord == nullptr && mMode == 0) {
-        text = WidgetHint::noRecord();
+        missing = WidgetHint::withoutRecord();
     } else if (mColumns.empty()) {
-        text = tr("No parameter selected. Check the parameters to show in the parameter list "
-                  "and confirm the selection.");
-        link = tr("Select parameters");
+        missing = {tr("No parameter selected. Check the parameters to show in the parameter list "
+                      "and confirm the selection."),
+                   tr("Select parameters")};
     } else if (mRows.empty() && mMode == 0) {
-        text = tr("The record has no samples of the selected parameters. Select other parameters "
-                  "or choose another record.");
-        link = tr("Select parameters");
+        missing = {tr("The record has no samples of the selected parameters. Select other "
+                      "parameters or choose another record."),
+                   tr("Select parameters")};
     }
-    mHint->setHint(text, link);
-    mHint->setVisible(!text.isEmpty());
-    mTable->setVisible(text.isEmpty());
+    mHint->showInsteadOf(mTable, missing);
 }
 
 } // namespace VELIX

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "views/common/DataView.h"
-#include "views/common/TableItems.h"
+#include "views/table/TableItems.h"
 #include "views/table/TimeRows.h"
 
 #include <QTimer>
@@ -10,10 +10,9 @@
 #include <memory>
 #include <vector>
 
-class QTableWidget;
-
 namespace VELIX {
 
+class CursorTable;
 class EntryList;
 class Profile;
 class WidgetHint;
@@ -32,8 +31,8 @@ public:
 
     void setTime(double seconds) override;
     void updateRecord(RecordData* record) override;
-    /// Rebuilds headings and cells from the record held, so that they never disagree; the row at
-    /// the cursor stays.
+    /// Rebuilds headings and cells from the record at hand, so that they never disagree; the row
+    /// at the cursor stays.
     void updateProfile() override;
 
     /// 0: the record as a table; else the live layout, refreshed every 50 ms.
@@ -65,9 +64,7 @@ private:
     void fillTime();
     void fillColumn(int column, const TableColumn& context);
     void fillCoordinates(int column, const TableColumn& context, const EntryList& entries);
-    void fitRows();
     void fitColumns();
-    void centreRow();
     void updateHint();
     const EntryList& entriesOf(const TableColumn& column) const;
 
@@ -76,11 +73,10 @@ private:
     std::vector<std::unique_ptr<TableColumn>> mColumns; ///< cells point into them
     RecordData* mRecord = nullptr;
     int mMode = 0;
-    bool mSelecting = false; ///< the view itself selects; nobody is told
+    bool mSelecting = false; ///< the view itself selects and emits no signal
     double mTime = 0.0;      ///< seconds: the cursor
-    int mCursorRow = -1;
     QTimer mLiveTimer;
-    QTableWidget* mTable = nullptr;
+    CursorTable* mTable = nullptr;
     WidgetHint* mHint = nullptr;
     bool mOffersInstall = false; ///< what the link of the hint does
 };

@@ -10,7 +10,7 @@ namespace {
 
 using Keys = std::vector<std::uint32_t>;
 
-/// The keys of all lists; runs of equal keys in one list are taken once.
+/// Returns the keys of all lists; a run of equal keys in one list counts once.
 Keys collect(const std::vector<const EntryList*>& lists)
 {
     Keys keys;
@@ -32,7 +32,7 @@ void sortUnique(Keys& keys)
     keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
 }
 
-/// The same by one bit per possible key, for keys that lie close together.
+/// The same with one bit per possible key, for keys that are close together.
 void sortUniqueDense(Keys& keys, std::uint32_t lowest, std::uint64_t range)
 {
     constexpr std::uint32_t kBits = std::numeric_limits<std::uint64_t>::digits;
@@ -59,7 +59,7 @@ TimeRows::TimeRows(const std::vector<const EntryList*>& lists) : mKeys(collect(l
     }
     const auto [lowest, highest] = std::minmax_element(mKeys.begin(), mKeys.end());
     const std::uint64_t range = std::uint64_t{*highest} - *lowest + 1;
-    // A damaged time may lie years ahead; then bits would cost more memory than the keys.
+    // A damaged time may be years ahead; then bits would take more memory than the keys.
     constexpr std::uint64_t kBitsPerKey = 32;
     if (range / kBitsPerKey <= mKeys.size()) {
         sortUniqueDense(mKeys, *lowest, range);

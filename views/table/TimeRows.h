@@ -8,7 +8,7 @@
 
 namespace VELIX {
 
-/// The key of a sample's row: its time in tenths of a second, read as unsigned.
+/// Returns the key of a sample's row: its time in tenths of a second, read as unsigned.
 inline std::uint32_t rowKey(const RecordEntry& entry)
 {
     return static_cast<std::uint32_t>(entry.time10);
@@ -26,11 +26,11 @@ public:
     bool empty() const { return mKeys.empty(); }
     std::uint32_t key(std::size_t row) const { return mKeys[row]; }
 
-    /// The row of a key that one of the lists has. Samples come mostly in order, so the search
-    /// begins at the row found last.
+    /// Returns the row of a key that one of the lists has. Samples come mostly in order, so the
+    /// search begins at the row found last.
     std::size_t row(std::uint32_t key, std::size_t last) const;
-    /// The row in force at a key: that of the greatest key not above it, or row 0. Not for an
-    /// empty table.
+    /// Returns the row that applies at a key: that of the greatest key not above it, or row 0. Not
+    /// for an empty table.
     std::size_t rowAt(std::uint32_t key) const;
 
 private:

@@ -1,10 +1,7 @@
 #pragma once
 
 #include "profile/ProfileParameter.h"
-
-#include <QColor>
-#include <QString>
-#include <QTableWidgetItem>
+#include "views/common/TableCell.h"
 
 #include <cstdint>
 
@@ -21,22 +18,8 @@ struct TableColumn
     ProfileParameter parameter;
 };
 
-/// The ground that a profile gives to a value; invalid if it gives none.
-QColor valueGround(int state, const QColor& color);
-
-/// A cell that nobody edits, with the alignment and, on a ground of its own, a text colour of
-/// its own: the ground does not follow the look of the desktop.
-class TableCell : public QTableWidgetItem
-{
-public:
-    TableCell() { setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled); }
-
-    QVariant data(int role) const override;
-
-protected:
-    virtual QString cellText() const = 0;
-    virtual QColor ground() const = 0;
-};
+/// The background that a profile gives to a value; invalid if it gives none.
+QColor valueBackground(int state, const QColor& color);
 
 /// The time of a row. Its user data are milliseconds on the record's time axis.
 class TableTimeItem final : public TableCell
@@ -48,13 +31,13 @@ public:
 
 private:
     QString cellText() const override;
-    QColor ground() const override;
+    QColor cellBackground() const override { return kTimeBackground; }
 
     std::uint32_t mKey; ///< tenths of a second
 };
 
-/// The value of one sample, made into text and colour only while it is on screen: a record has
-/// a million cells, of which fifty rows are seen.
+/// The value of one sample, turned into text and colour only while it is on screen: a record has
+/// a million cells, of which fifty rows are visible.
 class TableValueItem final : public TableCell
 {
 public:
@@ -66,29 +49,29 @@ public:
 
 private:
     QString cellText() const override;
-    QColor ground() const override;
+    QColor cellBackground() const override;
 
     const TableColumn* mColumn;
     const RecordEntry* mEntry;
 };
 
-/// A value whose text depends on the samples before it and so was made when the column was
+/// A value whose text depends on the samples before it and was therefore made when the column was
 /// filled.
 class TableTextItem final : public TableCell
 {
 public:
-    void setValue(const QString& text, const QColor& ground)
+    void setValue(const QString& text, const QColor& background)
     {
         mText = text;
-        mGround = ground;
+        mBackground = background;
     }
 
 private:
     QString cellText() const override { return mText; }
-    QColor ground() const override { return mGround; }
+    QColor cellBackground() const override { return mBackground; }
 
     QString mText;
-    QColor mGround;
+    QColor mBackground;
 };
 
 } // namespace VELIX
