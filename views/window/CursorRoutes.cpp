@@ -13,7 +13,7 @@ constexpr CursorRoutes::Route kEverywhere = {Table, Graph,   Instrument, FaultMa
 constexpr CursorRoutes::Route kFromGraph = {Table, Instrument, FaultMatrix, Limit, Warning, Map};
 constexpr CursorRoutes::Route kFromTable = {Graph, Instrument, FaultMatrix, Limit, Warning, Map};
 constexpr CursorRoutes::Route kFromLimits = {Graph, Instrument, FaultMatrix, Table, Warning, Map};
-// Lamps are looked up one after the other; the map would only jump about, so it stays.
+// Lamps are looked up one after the other; the map would only jump to and fro, so it stays.
 constexpr CursorRoutes::Route kFromWarnings = {Graph, Instrument, FaultMatrix, Table, Limit};
 constexpr CursorRoutes::Route kAfterReload = {Table, Instrument, Graph, FaultMatrix,
                                               Limit, Warning,    Map};

@@ -33,7 +33,8 @@ enum class ECursorSource {
     Reload, ///< a new record or profile
 };
 
-/// Who hears of what, and in which order: the whole traffic between views in one place.
+/// Decides which views are informed of a change, and in which order: all traffic between views
+/// goes through here.
 class CursorRoutes
 {
 public:
@@ -45,7 +46,7 @@ public:
     void updateRecord(RecordData* record) const;
     void updateProfile() const;
 
-    /// The views that take a cursor time from a source.
+    /// Returns the views that take a cursor time from a source.
     static Route route(ECursorSource source);
 
 private:

@@ -8,8 +8,8 @@ class PageTabBar;
 class Printable;
 class WidgetHint;
 
-/// The pages of the data window: one in front, chosen by its tab, and all of them covered while
-/// there is nothing that they could show.
+/// The pages of the data window: one in front, chosen by its tab. A sentence covers all of them
+/// while there is nothing that they could show.
 class DataPages : public QStackedWidget
 {
     Q_OBJECT
@@ -17,17 +17,18 @@ class DataPages : public QStackedWidget
 public:
     explicit DataPages(QWidget* parent = nullptr);
 
-    /// The tabs, to be laid out by the owner: they share their row with other controls.
+    /// Returns the tabs, which the owner lays out: they share their row with other controls.
     PageTabBar& tabs() const { return *mTabs; }
 
-    /// helpTopic: the page of the manual on it.
+    /// Appends a page with its tab.
+    /// helpTopic: the page of the manual about it
     void addPage(QWidget* page, const char* icon, const QString& label, const char* helpTopic);
-    /// Brings a page to the front, as its tab would.
+    /// Brings a page to the front, as a click on its tab does.
     void showPage(QWidget* page);
 
-    /// The page in front, if it can be put onto paper; else null.
+    /// Returns the page in front if it can be printed; else null.
     const Printable* printable() const;
-    /// The page of the manual on the page in front.
+    /// Returns the page of the manual about the page in front.
     QString helpTopic() const;
 
     /// Covers the pages with a sentence.

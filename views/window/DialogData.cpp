@@ -57,12 +57,9 @@ DialogData::DialogData(Profile& profile, CardContainer& card, Property& settings
     : QWidget(parent),
       mProfile(profile),
       mCard(card),
-      mSettings(settings),
-      mDialogs(dialogs),
-      mPaths(paths),
       mClock([watch = Tessel::Misc::Timer()] { return watch.elapsed(); })
 {
-    createViews();
+    createViews(settings, dialogs, paths);
     createPages();
     auto* row = new QHBoxLayout;
     row->addWidget(&mPages->tabs(), 1);
@@ -80,23 +77,23 @@ DialogData::DialogData(Profile& profile, CardContainer& card, Property& settings
     mKeys->setEnabled(false);
 }
 
-void DialogData::createViews()
+void DialogData::createViews(Property& settings, DialogService& dialogs, const DataHandler& paths)
 {
     mTable = new DialogDataTable(mProfile, this);
     mTable->setObjectName(QStringLiteral("viewTable"));
-    mGraph = new DialogDataGraph(mProfile, mSettings, mDialogs, this);
+    mGraph = new DialogDataGraph(mProfile, settings, dialogs, this);
     mGraph->setObjectName(QStringLiteral("viewGraph"));
-    mInstrument = new DialogDataView(mProfile, mCard, mPaths, this);
+    mInstrument = new DialogDataView(mProfile, mCard, paths, this);
     mInstrument->setObjectName(QStringLiteral("viewInstrument"));
     mFaultMatrix = new DialogDataErrorMatrix(mProfile, this);
     mFaultMatrix->setObjectName(QStringLiteral("viewFaultMatrix"));
-    mLimit = new DialogDataLimit(mProfile, mDialogs, this);
+    mLimit = new DialogDataLimit(mProfile, dialogs, this);
     mLimit->setObjectName(QStringLiteral("viewLimit"));
-    mWarning = new DialogDataWarning(mProfile, mDialogs, this);
+    mWarning = new DialogDataWarning(mProfile, dialogs, this);
     mWarning->setObjectName(QStringLiteral("viewWarning"));
     mStatistic = new DialogDataStatistic(this);
     mStatistic->setObjectName(QStringLiteral("viewStatistic"));
-    mMap = new DialogDataMap(mProfile, mCard, mSettings, mPaths.dataPath(), this);
+    mMap = new DialogDataMap(mProfile, mCard, settings, paths.dataPath(), this);
     mMap->setObjectName(QStringLiteral("viewMap"));
 
     mRoutes.setView(EView::Table, *mTable);
@@ -196,7 +193,7 @@ void DialogData::releaseRecord()
 {
     mRecord = nullptr; // a running replay waits for the next record
     mRoutes.updateRecord(nullptr);
-    // Pages without a record would ask for one that is already on its way.
+    // Pages without a record would ask for one that is being loaded already.
     const QString sentence = tr("Loading the record ...");
     mPages->cover(sentence);
     mMap->showHint(sentence);
@@ -206,8 +203,8 @@ void DialogData::closeRecord()
 {
     releaseRecord();
     mPages->uncover();
-    mMap->updateRecord(nullptr); // which says so
-    mLimit->clear();             // lists wait for a next record with what they show
+    mMap->updateRecord(nullptr); // its hint says so
+    mLimit->clear();             // released lists keep showing the last record
     mWarning->clear();
     mReplayTimer.stop();
     mClock.rewind();

@@ -30,7 +30,7 @@ class ReplayControls;
 class ReplayKeys;
 
 /// The data window: it hosts all views of the open record, owns the common time cursor and the
-/// replay that moves it, and tells every view of each change.
+/// replay that moves it, and informs every view of each change.
 class DialogData : public QWidget
 {
     Q_OBJECT
@@ -39,28 +39,29 @@ public:
     /// emuOnly: hides what only someone at a desk needs (time of day, position, time editor).
     /// Without a home: it reads the resources beside the program, but keeps no files.
     DialogData(Profile& profile, CardContainer& card, bool emuOnly, QWidget* parent = nullptr);
-    /// The same with own settings and an own answer to what the views ask the user.
+    /// The same with settings, and with dialogs that ask the user on behalf of the views.
     DialogData(Profile& profile, CardContainer& card, Property& settings, DialogService& dialogs,
                bool emuOnly, QWidget* parent = nullptr);
     DialogData(Profile& profile, CardContainer& card, Property& settings, DialogService& dialogs,
                const DataHandler& paths, bool emuOnly, QWidget* parent = nullptr);
 
-    /// The card holds another record, or none: the cursor goes to its start.
+    /// Shows the record that the card holds now, if any; the cursor goes to its start.
     void updateRecord();
-    /// Takes the record from the views. To be called before the card loads, since that frees
+    /// Takes the record away from the views. To be called before the card loads, since that frees
     /// what they show.
     void releaseRecord();
-    /// The profile, its unit system or the selection of parameters changed.
+    /// Takes over a change of the profile, its unit system or the selection of parameters.
     void updateProfile();
-    /// Only the layout of the fault matrix has to be built again.
+    /// Builds the layout of the fault matrix again, and nothing else.
     void loadProfile();
 
-    /// The page in front, if it can be put onto paper; else null.
+    /// Returns the page in front if it can be printed; else null.
     const Printable* printablePage() const;
-    /// The page of the manual on the view that has the focus, or else on the page in front.
+    /// Returns the page of the manual about the view with the focus, or else about the page in
+    /// front.
     QString helpTopic() const;
 
-    /// Seconds on the record's time axis.
+    /// Returns the seconds on the record's time axis.
     double cursorTime() const { return mClock.cursor(); }
 
 signals:
@@ -69,7 +70,7 @@ signals:
     void signalSelectParameters();
     /// Another page is in front.
     void signalPageChanged();
-    /// A view has a result or failure to tell in words.
+    /// A view reports a result or failure in words.
     void signalNotice(const QString& sentence);
 
 private slots:
@@ -88,7 +89,7 @@ private slots:
     void slotShowInGraph(double time);
 
 private:
-    void createViews();
+    void createViews(Property& settings, DialogService& dialogs, const DataHandler& paths);
     void connectViews();
     void createPages();
     void createControls(bool emuOnly);
@@ -100,9 +101,6 @@ private:
 
     Profile& mProfile;
     CardContainer& mCard;
-    Property& mSettings;
-    DialogService& mDialogs;
-    const DataHandler& mPaths;
     ReplayClock mClock;
     CursorRoutes mRoutes;
     RecordData* mRecord = nullptr; ///< the card's working data; null without a record

@@ -65,7 +65,7 @@ void MapSplitter::arrange(int id)
     }
 }
 
-/// The buttons say what is so, also after the handle was dragged.
+/// The buttons show the present arrangement, also after the handle was dragged.
 void MapSplitter::followHandle()
 {
     const EMapLayout shown = orientation() == Qt::Horizontal ? eMapBeside : eMapBelow;

@@ -13,10 +13,11 @@ class MapSplitter : public QSplitter
     Q_OBJECT
 
 public:
-    /// buttonRow: takes the buttons; the widget that it lays out owns them.
+    /// buttonRow: gets the buttons; the widget that it lays out owns them
     MapSplitter(QWidget* pages, QWidget* map, QBoxLayout& buttonRow, QWidget* parent = nullptr);
 
-    /// id: 0 hides the map, 1 puts it beside the pages, 2 below them; any other changes nothing.
+    /// Moves the map.
+    /// id: 0 hides it, 1 puts it beside the pages, 2 below them; any other changes nothing
     void arrange(int id);
 
 signals:

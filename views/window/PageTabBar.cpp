@@ -9,7 +9,7 @@ namespace VELIX {
 namespace {
 
 constexpr int kIconTextGap = 4; // what a tab bar puts between its icon and its text
-constexpr int kTextRoom = 10;   // what styles reserve behind an icon for a text, beside its width
+constexpr int kTextRoom = 10;   // what styles reserve after an icon for a text, besides its width
 
 } // namespace
 
@@ -18,8 +18,8 @@ PageTabBar::PageTabBar(QWidget* parent) : QTabBar(parent)
     connect(this, &QTabBar::currentChanged, this, &PageTabBar::layOut);
 }
 
-/// Tab bars reckon with tabs that change their size when they become current only where a style
-/// sheet makes them; a change of size always counts.
+/// A tab bar expects that tabs change their size when they become current only if a style sheet
+/// says so; a resize event makes it lay out its tabs in any case.
 void PageTabBar::layOut()
 {
     QResizeEvent same(size(), size());

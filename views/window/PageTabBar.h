@@ -4,8 +4,8 @@
 
 namespace VELIX {
 
-/// Tabs with icons that stay in sight in a narrow window: where their texts do not fit, all but
-/// the current one shrink to their icon, and the tool tip says what they are.
+/// Tabs with icons that stay visible in a narrow window: where their texts do not fit, all but
+/// the current one shrink to their icon, and the tool tip has the text.
 class PageTabBar : public QTabBar
 {
     Q_OBJECT
