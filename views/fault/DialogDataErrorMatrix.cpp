@@ -60,7 +60,7 @@ void DialogDataErrorMatrix::loadProfile()
             mPanels[matrix.id] = panel;
         }
     }
-    // Panels have a height of their own; what is left stays free below them.
+    // Panels have a fixed height; the rest of the space stays free below them.
     static_cast<QVBoxLayout*>(layout)->addStretch(1);
     updateHint();
 }
@@ -76,8 +76,8 @@ void DialogDataErrorMatrix::updateRecord(RecordData* record)
 
 void DialogDataErrorMatrix::setTime(double seconds)
 {
-    // What is painted at once takes along all that waits to be painted, so the bars go ahead of the
-    // cells.
+    // Painting at once also paints all that is waiting to be painted, so the bars move before the
+    // cells change.
     for (const auto& [id, panel] : mPanels) {
         panel->moveBar(seconds);
     }
@@ -104,23 +104,19 @@ void DialogDataErrorMatrix::slotTimeoutUpdate()
     }
 }
 
-/// Cells without a record would look as if nothing had ever failed.
+/// Says what is missing where cells would look as if nothing had ever failed.
 void DialogDataErrorMatrix::updateHint()
 {
-    QString text;
-    QString link;
+    WidgetHint::Message missing;
     if (mProfile.isEmpty()) {
-        text = WidgetHint::noProfile();
-        link = WidgetHint::installProfile();
+        missing = WidgetHint::withoutProfile();
     } else if (mPanels.empty()) {
-        text = tr("The profile has no fault matrix. Choose another variant, "
-                  "or a profile that has one.");
+        missing.text = tr("The profile has no fault matrix. Choose another variant, "
+                          "or a profile that has one.");
     } else if (mRecord == nullptr && mMode == 0) {
-        text = WidgetHint::noRecord();
+        missing = WidgetHint::withoutRecord();
     }
-    mHint->setHint(text, link);
-    mHint->setVisible(!text.isEmpty());
-    mScrollArea->setVisible(text.isEmpty());
+    mHint->showInsteadOf(mScrollArea, missing);
 }
 
 } // namespace VELIX

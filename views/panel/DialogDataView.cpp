@@ -74,7 +74,7 @@ void DialogDataView::updateProfile()
     updateView();
 }
 
-/// The last values belong to another record, unit system or variant.
+/// Removes the last values, which belong to another record, unit system or variant.
 void DialogDataView::blankView()
 {
     for (const ViewParameter& shown : mParameters) {
@@ -92,7 +92,7 @@ void DialogDataView::updateView()
         for (const ViewParameter& shown : mParameters) {
             const EntryList& entries =
                 mCard.loadedData().entries(static_cast<std::uint32_t>(shown.parameter.id));
-            // Without any entry the value is 0, which must not pass for a measured one.
+            // Without any entry the value is 0, which must not look like a measured one.
             mView->setVar(shown.missingId.c_str(), entries.empty() ? 1L : 0L);
             int state = 0;
             QColor color;
@@ -108,7 +108,7 @@ void DialogDataView::updateView()
     }
 }
 
-/// Behind the last entry a look-up finds 0, but the engine has what it had.
+/// Returns the last value after the last entry, where a look-up would find 0.
 double DialogDataView::valueAtCursor(const ProfileParameter& p, const EntryList& entries,
                                      int& state, QColor& color)
 {
@@ -119,7 +119,7 @@ double DialogDataView::valueAtCursor(const ProfileParameter& p, const EntryList&
     return mProfile.getDouble(entries.back(), p, state, color, true);
 }
 
-/// The number that the current variant's entry in the profile has as its id.
+/// Returns the number that the current variant's entry in the profile has as its id.
 int DialogDataView::variantNumber() const
 {
     for (const ProfileVariant& variant : mProfile.variants()) {
@@ -136,7 +136,7 @@ void DialogDataView::slotTimeoutUpdate()
     calcParameters();
 }
 
-/// Values that are computed from others would be set here; this panel has none.
+/// Would set values that are computed from others; this panel has none.
 void DialogDataView::calcParameters() {}
 
 void DialogDataView::init()
@@ -164,9 +164,9 @@ void DialogDataView::loadView()
         mView->loadText(generatedPanel(mProfile, mParameters));
         reportErrors("generated panel");
     }
-    const QColor ground = QColor::fromRgba(mView->background());
-    mBackground = {static_cast<float>(ground.redF()), static_cast<float>(ground.greenF()),
-                   static_cast<float>(ground.blueF()), 1.0F};
+    const QColor color = QColor::fromRgba(mView->background());
+    mBackground = {static_cast<float>(color.redF()), static_cast<float>(color.greenF()),
+                   static_cast<float>(color.blueF()), 1.0F};
     calcFit();
 }
 
@@ -209,7 +209,7 @@ void DialogDataView::paintGL()
     }
     glClearColor(mBackground[0], mBackground[1], mBackground[2], mBackground[3]);
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-    // Pixels of the widget, from its upper left corner.
+    // The unit is a pixel of the widget, the origin its upper left corner.
     glMatrixMode(GL_PROJECTION);
     glLoadIdentity();
     glOrtho(0.0, width(), height(), 0.0, -1.0, 1.0);
@@ -249,26 +249,23 @@ void DialogDataView::keyReleaseEvent(QKeyEvent* event)
     QOpenGLWidget::keyReleaseEvent(event);
 }
 
-/// What is released elsewhere is not told here.
+/// Forgets held keys, since the view gets no event when they are released elsewhere.
 void DialogDataView::focusOutEvent(QFocusEvent* event)
 {
     mHeldKeys = Qt::NoModifier;
     QOpenGLWidget::focusOutEvent(event);
 }
 
-/// Instruments without a record would show the last one, or nothing.
+/// Says what is missing where instruments would show the last record, or nothing.
 void DialogDataView::updateHint()
 {
-    QString text;
-    QString link;
+    WidgetHint::Message missing;
     if (mProfile.isEmpty()) {
-        text = WidgetHint::noProfile();
-        link = WidgetHint::installProfile();
+        missing = WidgetHint::withoutProfile();
     } else if (!mHasRecord) {
-        text = WidgetHint::noRecord();
+        missing = WidgetHint::withoutRecord();
     }
-    mHint->setHint(text, link);
-    mHint->setVisible(!text.isEmpty());
+    mHint->showInsteadOf(nullptr, missing);
 }
 
 } // namespace VELIX
