@@ -68,7 +68,7 @@ int CursorTime::sliderPosition(double start, double stop, double seconds)
 
 double CursorTime::sliderTime(double start, double stop, int position)
 {
-    // Rounding must not put the end behind the record, where there is nothing to show.
+    // Rounding must not put the end after the record, where there is nothing to show.
     return std::min(start + (stop - start) / kSliderSteps * position, stop);
 }
 

@@ -4,10 +4,10 @@ namespace VELIX {
 
 class RecordData;
 
-/// What the data window asks of every view that it hosts.
+/// What every view in the data window can do.
 ///
-/// Views never call each other: one that moves the cursor itself says so by a signal, and the
-/// data window tells the others.
+/// Views never call each other: one that moves the cursor itself emits a signal, and the data
+/// window informs the others.
 class DataView
 {
 public:

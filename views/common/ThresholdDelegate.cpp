@@ -19,22 +19,22 @@ void ThresholdDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
                               const QModelIndex& index) const
 {
     const bool isSelected = (option.state & QStyle::State_Selected) != 0;
-    const bool isTime = index.data(Qt::UserRole).isValid(); // its ground says nothing
-    const QVariant ground = isTime ? QVariant() : index.data(Qt::BackgroundRole);
+    const bool isTime = index.data(Qt::UserRole).isValid(); // its background says nothing
+    const QVariant background = isTime ? QVariant() : index.data(Qt::BackgroundRole);
     QRect stripe = option.rect;
     stripe.setWidth(kStripeWidth);
 
     QStyleOptionViewItem cell = option;
-    if (ground.isValid() && isLeftAligned(index)) {
-        cell.rect.setLeft(stripe.right() + 1); // the text begins behind the stripe
+    if (background.isValid() && isLeftAligned(index)) {
+        cell.rect.setLeft(stripe.right() + 1); // the text begins after the stripe
         if (!isSelected) {
-            painter->fillRect(stripe, ground.value<QBrush>());
+            painter->fillRect(stripe, background.value<QBrush>());
         }
     }
     QStyledItemDelegate::paint(painter, cell, index);
-    if (ground.isValid() && isSelected) {
-        QColor color = ground.value<QBrush>().color();
-        color.setAlpha(255); // a tint would be lost on the ground of the selection
+    if (background.isValid() && isSelected) {
+        QColor color = background.value<QBrush>().color();
+        color.setAlpha(255); // a tint would not be seen on the colour of the selection
         painter->fillRect(stripe, color);
     }
 }

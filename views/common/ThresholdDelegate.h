@@ -4,8 +4,8 @@
 
 namespace VELIX {
 
-/// Keeps the colour of a value in sight in the selected row, whose ground would cover it: the
-/// row at the cursor is the one that is read.
+/// Paints cells so that the colour of a value stays visible in the selected row, whose background
+/// would cover it: the row at the cursor is the one that is read.
 class ThresholdDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

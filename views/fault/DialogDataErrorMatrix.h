@@ -26,20 +26,20 @@ class DialogDataErrorMatrix : public QWidget, public DataView
 public:
     explicit DialogDataErrorMatrix(Profile& profile, QWidget* parent = nullptr);
 
-    /// Makes the panels anew from the profile; they have no record then. Of matrices with the same
+    /// Makes the panels again from the profile; they have no record then. Of matrices with the same
     /// identifier all are on screen, but only the last one follows record and cursor.
     void loadProfile();
 
     void setTime(double seconds) override;
     void updateRecord(RecordData* record) override;
-    /// Nothing: units and selection do not matter here, and a new layout is loadProfile()'s.
+    /// Does nothing: units and selection do not matter here, and loadProfile() makes a new layout.
     void updateProfile() override {}
 
-    /// 0: the record at the cursor; else live.
+    /// Shows the record at the cursor in mode 0, else the messages received last.
     void setVelixMode(int mode);
 
 signals:
-    /// Never emitted: nothing in a matrix stands for one moment. The other lists have it.
+    /// Never emitted: nothing in a matrix belongs to one moment. The other lists have it.
     void signalTime(double seconds);
     /// The user followed the link of a sentence that says what is missing.
     void signalInstallProfile();

@@ -116,7 +116,8 @@ int FaultTimeline::getX(float time, int width) const
     if (mRecord == nullptr) {
         return 0;
     }
-    // Single precision throughout: places agree to the pixel with the rounding of the list's times.
+    // Single precision throughout: positions agree to the pixel with the rounding of the list's
+    // times.
     const auto start = static_cast<float>(mRecord->startTime);
     const auto end = static_cast<float>(mRecord->stopTime);
     if (!(end > start)) {
@@ -141,7 +142,7 @@ std::uint32_t FaultTimeline::wordAt(int x, int width) const
     if (!hasSamples()) {
         return 0;
     }
-    // The frame hides the outermost pixels; what they hold is told beside it.
+    // The frame hides the outermost pixels; the ones next to it include what happened there.
     const double from = timeAt(x <= 1 ? 0 : x, width);
     const bool last = x >= width - 2 || !(timeAt(width, width) > from);
     const double to = last ? mRecord->stopTime : timeAt(x + 1, width);

@@ -13,12 +13,12 @@ class EntryList;
 class RecordData;
 struct FaultMatrix;
 
-/// When any bit of each error type of a fault matrix was set during a record, and where that
-/// stands on a bar of a given width that spans the record.
+/// When any bit of each error type of a fault matrix was set during a record, and where that is on
+/// a bar of a given width that spans the record.
 class FaultTimeline
 {
 public:
-    /// From this time on some bit of the type was set, or none.
+    /// A time from which on some bit of the type was set, or none.
     struct Change
     {
         float time = 0.0F; ///< seconds on the record's time axis
@@ -26,34 +26,36 @@ public:
     };
     using Changes = std::vector<Change>;
 
-    /// Pixels of a bar, at least one.
+    /// Some pixels of a bar, at least one.
     struct Span
     {
         int left = 0;
         int width = 0;
     };
 
-    /// Forgets the record. Bits outside the 32 of the error word are ignored.
+    /// Takes a matrix and forgets the record. Bits outside the 32 of the error word are ignored.
     void setMatrix(const FaultMatrix& matrix);
-    /// Null for none. The record is kept for look-ups until the next call.
+    /// Takes a record, null for none, which must stay valid until the next call.
     void setRecord(const RecordData* record);
 
     bool hasRecord() const { return mRecord != nullptr; }
     /// Whether the record has samples of the matrix message.
     bool hasSamples() const;
 
-    /// The changes of a type (EErrorType from eErrorInfo to eErrorFault) by time. The last entry
-    /// closes the list at the last sample; without samples the list is empty.
+    /// Returns the changes of a type (EErrorType from eErrorInfo to eErrorFault) by time. The last
+    /// entry closes the list at the last sample; without samples the list is empty.
     const Changes& changes(int type) const;
-    /// Where bits of the type were set, by place and without overlaps. What lasted less than a
-    /// pixel takes one within the bar's frame, so that no short fault is lost.
+    /// Returns where bits of the type were set, from left to right and without overlaps. What
+    /// lasted less than a pixel takes one within the bar's frame, so that no short fault is lost.
     std::vector<Span> spans(int type, int width) const;
 
-    /// Pixel of a time, also outside of the bar; 0 without a record and for one of a single moment.
+    /// Returns the pixel of a time, also outside of the bar; 0 without a record and for one of a
+    /// single moment.
     int getX(float time, int width) const;
-    /// Time (s) at the left edge of a pixel; the record's start where getX() is always 0.
+    /// Returns the time (s) at the left edge of a pixel; the record's start where getX() is always
+    /// 0.
     double timeAt(int x, int width) const;
-    /// All bits that were set at some time within a pixel of the bar.
+    /// Returns all bits that were set at some time within a pixel of the bar.
     std::uint32_t wordAt(int x, int width) const;
 
 private:

@@ -8,7 +8,7 @@ constexpr int kFontPixels = 10;
 constexpr int kTextStart = 4; // pixels from the bottom edge
 constexpr int kTextEnd = 2;   // pixels left free at the top edge
 
-/// In one line if it fits, else in as many as the cell is wide for, else shortened.
+/// Draws a text in one line if it fits, else in as many as the cell has space for, else shortened.
 void drawFitting(QPainter& painter, const QRect& area, const QString& text)
 {
     constexpr int kWrapped = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
@@ -53,9 +53,9 @@ void WidgetErrorItem::setErrorState(bool state)
 void WidgetErrorItem::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const QColor ground = VELIX::errorColor(mType, mErrorState);
-    if (ground.isValid()) {
-        painter.fillRect(rect(), ground);
+    const QColor background = VELIX::errorColor(mType, mErrorState);
+    if (background.isValid()) {
+        painter.fillRect(rect(), background);
     }
     if (mType == VELIX::eErrorNone) {
         return;

@@ -16,10 +16,10 @@ public:
 
     void setText(const QString& text);
     const QString& text() const { return mText; }
-    /// VELIX::EErrorType
+    /// Takes a VELIX::EErrorType.
     void setType(int type);
     int type() const { return mType; }
-    /// Lit or not.
+    /// Lights the cell or puts it out.
     void setErrorState(bool state);
     bool errorState() const { return mErrorState; }
 

@@ -18,7 +18,7 @@ constexpr int kHeight = 30;
 constexpr int kNotePixels = 12;
 constexpr int kNoteMargin = 8;
 
-/// From top to bottom.
+/// The types of the bands from top to bottom.
 constexpr int kBandTypes[] = {eErrorFault, eErrorWarning, eErrorInfo};
 constexpr int kBands = 3;
 
@@ -42,9 +42,9 @@ WidgetErrorTime::WidgetErrorTime(QWidget* parent) : QWidget(parent)
 {
     setFixedHeight(kHeight);
     setAutoFillBackground(true);
-    QPalette ground = palette();
-    ground.setColor(QPalette::Window, Qt::white);
-    setPalette(ground);
+    QPalette white = palette();
+    white.setColor(QPalette::Window, Qt::white);
+    setPalette(white);
 }
 
 void WidgetErrorTime::setData(const FaultMatrix& matrix)
@@ -52,13 +52,13 @@ void WidgetErrorTime::setData(const FaultMatrix& matrix)
     mMatrix = matrix;
     mTimeline.setMatrix(matrix);
     setAccessibleName(tr("Times of the errors of %1").arg(matrix.name));
-    forgetPicture();
+    forgetFrame();
 }
 
 void WidgetErrorTime::updateRecord(RecordData* record)
 {
     mTimeline.setRecord(record);
-    forgetPicture();
+    forgetFrame();
 }
 
 void WidgetErrorTime::setTime(double seconds)
@@ -102,7 +102,7 @@ bool WidgetErrorTime::event(QEvent* event)
     if (event->type() == QEvent::ToolTip) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const int x = help->pos().x();
-        // The next pixel has a text of its own. The first line is a time, so that no name from the
+        // The next pixel has a text of its own. The first line is a time, so no name from the
         // profile can turn the text into rich text.
         QToolTip::showText(help->globalPos(), tipText(x), this, QRect(x, 0, 1, height()));
         return true;
@@ -112,42 +112,42 @@ bool WidgetErrorTime::event(QEvent* event)
 
 void WidgetErrorTime::resizeEvent(QResizeEvent*)
 {
-    forgetPicture();
+    forgetFrame();
 }
 
-void WidgetErrorTime::forgetPicture()
+void WidgetErrorTime::forgetFrame()
 {
-    mPicture = QPixmap();
+    mFrame = QPixmap();
     update();
 }
 
 void WidgetErrorTime::paintEvent(QPaintEvent*)
 {
-    if (mPicture.isNull() || mPicture.devicePixelRatioF() != devicePixelRatioF()) {
-        drawPicture();
+    if (mFrame.isNull() || mFrame.devicePixelRatioF() != devicePixelRatioF()) {
+        drawFrame();
     }
     QPainter painter(this);
-    painter.drawPixmap(0, 0, mPicture);
+    painter.drawPixmap(0, 0, mFrame);
     const int x = cursorX();
     if (x >= 0 && x < width()) {
         painter.fillRect(x, 0, 1, height(), Qt::black);
     }
 }
 
-void WidgetErrorTime::drawPicture()
+void WidgetErrorTime::drawFrame()
 {
     const double ratio = devicePixelRatioF();
-    mPicture = QPixmap(size() * ratio);
-    mPicture.setDevicePixelRatio(ratio);
-    mPicture.fill(Qt::white);
-    QPainter painter(&mPicture);
+    mFrame = QPixmap(size() * ratio);
+    mFrame.setDevicePixelRatio(ratio);
+    mFrame.fill(Qt::white);
+    QPainter painter(&mFrame);
     drawBands(painter);
     if (mTimeline.hasRecord() && !mTimeline.hasSamples()) {
         drawNote(painter);
     }
 }
 
-/// An empty bar would say that there was no error.
+/// Writes why the bar is empty, which would otherwise mean that there was no error.
 void WidgetErrorTime::drawNote(QPainter& painter) const
 {
     QFont small = font();
@@ -158,7 +158,7 @@ void WidgetErrorTime::drawNote(QPainter& painter) const
     const QRect area = painter.fontMetrics().boundingRect(rect(), Qt::AlignCenter, note);
     // The lines between the bands would run through the text.
     painter.fillRect(area.adjusted(-kNoteMargin, 0, kNoteMargin, 0), Qt::white);
-    painter.setPen(Palette::light().mutedText); // the ground is white in every look
+    painter.setPen(Palette::light().mutedText); // the background is white in every look
     painter.drawText(rect(), Qt::AlignCenter, note);
 }
 

@@ -8,8 +8,8 @@
 
 namespace VELIX {
 
-/// Time bar of a fault matrix: over the whole record, when any bit of each error type was set, in
-/// one band per type, the gravest on top; and the cursor.
+/// Time bar of a fault matrix: shows over the whole record when any bit of each error type was set,
+/// in one band per type, the gravest on top; and the cursor.
 class WidgetErrorTime : public QWidget
 {
     Q_OBJECT
@@ -17,16 +17,16 @@ class WidgetErrorTime : public QWidget
 public:
     explicit WidgetErrorTime(QWidget* parent = nullptr);
 
-    /// Forgets the record.
+    /// Takes a matrix and forgets the record.
     void setData(const FaultMatrix& matrix);
-    /// Null for none. The record stays valid until the next call.
+    /// Takes a record, null for none, which must stay valid until the next call.
     void updateRecord(RecordData* record);
-    /// Seconds on the record's time axis.
+    /// Moves the cursor (seconds on the record's time axis) and paints it at once.
     void setTime(double seconds);
 
-    /// Pixel of a time (s), also outside of the bar.
+    /// Returns the pixel of a time (s), also outside of the bar.
     int getX(float time) const { return mTimeline.getX(time, width()); }
-    /// The time at a pixel and the names of the bits set there; what is so where there are none.
+    /// Returns the time at a pixel and the names of the bits set there, or that there are none.
     QString tipText(int x) const;
 
 protected:
@@ -36,15 +36,15 @@ protected:
 
 private:
     int cursorX() const { return getX(static_cast<float>(mCursor)); }
-    void forgetPicture();
-    void drawPicture();
+    void forgetFrame();
+    void drawFrame();
     void drawBands(QPainter& painter) const;
     void drawNote(QPainter& painter) const;
 
     FaultMatrix mMatrix;
     FaultTimeline mTimeline;
     double mCursor = 0.0; ///< seconds
-    QPixmap mPicture;     ///< all but the cursor; null when it has to be drawn anew
+    QPixmap mFrame;       ///< all but the cursor; null when it has to be drawn again
 };
 
 } // namespace VELIX

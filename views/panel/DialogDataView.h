@@ -25,8 +25,8 @@ class EntryList;
 class Profile;
 class WidgetHint;
 
-/// The engine's own display at the cursor: a panel of instruments, drawn from a view description
-/// and fed with the parameters that name its variables.
+/// Shows the engine's own display at the cursor: a panel of instruments, drawn from a view
+/// description, whose variables are the parameters that name them.
 ///
 /// A profile that names none of the panel's variables gets a panel of plain figures instead.
 class DialogDataView : public QOpenGLWidget, public DataView
@@ -44,12 +44,12 @@ public:
     void updateRecord(RecordData* record) override;
     void updateProfile() override;
 
-    /// Hands the values at the cursor to the panel. What is not a number is not handed on, so that
-    /// its instrument stays at the last value since the record and profile were taken.
+    /// Gives the values at the cursor to the panel. A value that is not a number is left out, so
+    /// that its instrument stays at the last value since the record and profile were taken.
     void updateView();
 
     [[nodiscard]] const ViewFit& fit() const { return mFit; }
-    /// Of these, what is down as far as the view was told.
+    /// Returns which of Shift, Ctrl and Alt are down, according to the key events of the view.
     [[nodiscard]] Qt::KeyboardModifiers heldKeys() const { return mHeldKeys; }
 
 signals:

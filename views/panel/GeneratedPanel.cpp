@@ -20,9 +20,9 @@ constexpr int kFieldWidth = 216;
 constexpr int kFieldHeight = 44;
 constexpr int kGap = 16;
 constexpr int kMostDecimals = 6;
-// More fields than a screen can show at a size that can be read would help nobody.
+// More fields than this could not be read on any screen.
 constexpr int kMostFields = 150;
-// Characters, and labels of all fields together: far from where the view's text would end.
+// Characters, and labels of all fields together: far below what a view description may have.
 constexpr int kLongestId = 100;
 constexpr int kLongestName = 60;
 constexpr int kLongestUnit = 12;
@@ -33,7 +33,7 @@ constexpr double kWideRoom = 1.4;
 constexpr double kTallRoom = 0.55;
 constexpr double kLowRoom = 2.5;
 
-/// A text as a view description writes it.
+/// Returns a text as a view description writes it.
 QString quoted(const QString& text)
 {
     QString out = QStringLiteral("\"");
@@ -58,7 +58,8 @@ bool canName(const QString& id)
            std::all_of(id.begin(), id.end(), [](QChar c) { return c.isPrint(); });
 }
 
-/// Decimals that tell the steps of an integer type apart, or those that the profile prescribes.
+/// Returns the decimals that distinguish the steps of an integer type, or those that the profile
+/// prescribes.
 int decimalsOf(const ProfileParameter& p, bool isImperial)
 {
     const double converted = isImperial ? std::fabs(p.toImperial.factor) : 1.0;
@@ -104,7 +105,7 @@ struct Grid
     int columns = 1;
     int rows = 1;
 
-    /// The one nearest to the proportions of a window: width divided by height.
+    /// Returns the grid nearest to the proportions of a window: width divided by height.
     static Grid of(int fields, double proportion)
     {
         Grid best;
@@ -125,7 +126,7 @@ struct Grid
         return pair(2 * kMargin + columns * (kFieldWidth + kGap) - kGap,
                     2 * kMargin + rows * kFieldHeight);
     }
-    [[nodiscard]] QString place(int field) const
+    [[nodiscard]] QString position(int field) const
     {
         return pair(kMargin + field / rows * (kFieldWidth + kGap),
                     kMargin + field % rows * kFieldHeight);
@@ -211,8 +212,8 @@ std::string generatedPanel(const Profile& profile, const std::vector<ViewParamet
     QTextStream out(&text);
     out << "view size=" << wide.size() << " tall=" << tall.size() << " low=" << low.size() << "\n";
     for (int i = 0; i < cells; ++i) {
-        out << "group at=" << wide.place(i) << " tall=" << tall.place(i) << " low=" << low.place(i)
-            << " {\n";
+        out << "group at=" << wide.position(i) << " tall=" << tall.position(i)
+            << " low=" << low.position(i) << " {\n";
         if (const auto field = static_cast<std::size_t>(i); field < fields.size()) {
             writeField(out, profile, *fields[field], labelsLeft);
         } else {

@@ -13,7 +13,7 @@ ViewFit ViewFit::of(double width, double height, double viewWidth, double viewHe
     const double wide = width / viewWidth;
     const double high = height / viewHeight;
     fit.scale = std::min(wide, high);
-    // Only the axis with spare room gets any, or rounding would shift the other one.
+    // Only the axis with spare space gets an offset, or rounding would shift the other one.
     if (wide > high) {
         fit.offsetX = (width - fit.scale * viewWidth) / 2.0;
     } else if (high > wide) {

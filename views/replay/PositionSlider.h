@@ -4,7 +4,7 @@
 
 namespace VELIX {
 
-/// A horizontal slider that goes where it is clicked, and can be dragged on from there.
+/// A horizontal slider whose handle jumps to where it is clicked and can be dragged from there.
 class PositionSlider : public QSlider
 {
     Q_OBJECT

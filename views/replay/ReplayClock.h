@@ -4,13 +4,13 @@
 
 namespace VELIX {
 
-/// What the replay does; the numbers are those that other windows see.
+/// What the replay is doing. Other windows see these numbers.
 enum EReplayState : int { eReplayStopped = 0, eReplayRunning = 1, eReplayPaused = 2 };
 
 /// The common time cursor and the clock that moves it through a record.
 ///
 /// Steps follow the time that really passed, so that a busy machine shows fewer positions but
-/// never falls behind. Record times are seconds on the record's own axis.
+/// does not fall behind. Record times are seconds on the record's own axis.
 class ReplayClock
 {
 public:
@@ -25,19 +25,21 @@ public:
     double stop() const { return mStop; }
     double speed() const { return mSpeed; }
 
-    /// A new record: the cursor goes to its start, a running replay goes on from there.
+    /// Takes a new record: the cursor goes to its start, a running replay continues from there.
     void setRecord(double start, double stop);
     void setCursor(double seconds) { mCursor = seconds; }
-    /// Moves the cursor by seconds, but not out of the record.
+    /// Moves the cursor by some seconds, but not out of the record.
     void step(double seconds);
-    /// factor: seconds of the record per second that passes.
+    /// Sets the speed.
+    /// factor: seconds of the record per second that passes
     void setSpeed(double factor) { mSpeed = factor; }
 
-    /// Starts, pauses or goes on.
+    /// Starts, pauses or resumes the replay.
     void toggle();
     /// Ends the replay and returns to the start of the record.
     void rewind();
-    /// Moves the cursor by what passed since the last tick; true once it is beyond the record.
+    /// Moves the cursor by the time that passed since the last tick; true once it is beyond the
+    /// record.
     [[nodiscard]] bool tick();
 
 private:

@@ -47,7 +47,7 @@ QLCDNumber* createDisplay(const QString& placeholder, const QString& name)
     return display;
 }
 
-/// A display keeps no text that could be read aloud, so it is described by it as well.
+/// A screen reader cannot read what a display shows, so its description has the same text.
 void showText(QLCDNumber* display, const QString& text)
 {
     if (display->accessibleDescription() != text) {
@@ -66,7 +66,7 @@ QToolButton* createReplayButton(const QString& icon)
     return button;
 }
 
-/// Room for every text that the button will show, so that it keeps its width.
+/// Makes room for every text that the button will show, so that it keeps its width.
 void reserveWidth(QToolButton* button, const QStringList& texts)
 {
     const QFontMetrics metrics = button->fontMetrics();
@@ -99,7 +99,7 @@ void ReplayControls::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        // The controls hear of a new font after their parent.
+        // The controls get a new font after their parent.
         QMetaObject::invokeMethod(this, &ReplayControls::fitWidths, Qt::QueuedConnection);
     }
 }
@@ -135,7 +135,7 @@ QLayout* ReplayControls::createGrid()
     grid->addWidget(mReplayButton, 0, 0, 2, 1);
     grid->addWidget(mStopButton, 0, 1, 2, 1);
     auto* sliderRow = new QHBoxLayout;
-    sliderRow->setContentsMargins(kGap, 0, kGap, 0); // apart from the slider of the speed
+    sliderRow->setContentsMargins(kGap, 0, kGap, 0); // keeps it apart from the slider of the speed
     sliderRow->addWidget(mPositionSlider);
     grid->addLayout(sliderRow, 0, 2);
     grid->addWidget(mSpeedSlider, 0, 3);
@@ -216,7 +216,7 @@ void ReplayControls::connectControls()
             });
 }
 
-/// By replay state.
+/// The texts of the replay button; the replay state is the index.
 QStringList ReplayControls::replayTexts()
 {
     return {tr("Replay Start"), tr("Replay Pause"), tr("Replay Run")};
@@ -243,7 +243,7 @@ void ReplayControls::showCursor(const ReplayClock& clock, const QDateTime& start
     showText(mTimeDisplay, CursorTime::timeText(ms));
     mTimeEdit->setTime(CursorTime::timeOfDay(ms));
 
-    // A slider that already stands for this very time stays: rounding would push it back.
+    // A slider that already shows this very time stays: rounding would push it back.
     const int position = CursorTime::sliderPosition(clock.start(), clock.stop(), cursor);
     const double shown =
         CursorTime::sliderTime(clock.start(), clock.stop(), mPositionSlider->value());

@@ -17,7 +17,7 @@ namespace VELIX {
 
 /// The displays of the cursor and the controls of the replay, below the views.
 ///
-/// Its signals tell what the user did; what the program shows in it raises none.
+/// Its signals report what the user did; what the program shows in it emits none.
 class ReplayControls : public QWidget
 {
     Q_OBJECT
@@ -27,10 +27,10 @@ public:
     explicit ReplayControls(bool emuOnly, QWidget* parent = nullptr);
 
     void showReplay(const ReplayClock& clock);
-    /// The cursor as date and time, as time of day and as position in the record.
+    /// Shows the cursor as date and time, as time of day and as position in the record.
     void showCursor(const ReplayClock& clock, const QDateTime& start);
-    /// Without a record there is nothing to replay: placeholders, and controls that are disabled
-    /// and say why.
+    /// Enables the controls. Without a record there is nothing to replay: placeholders, and
+    /// disabled controls whose tool tips say why.
     void setRecordOpen(bool open);
 
 signals:

@@ -49,7 +49,7 @@ bool ReplayKeys::usesSpace(const QWidget* widget)
     if (const auto* list = qobject_cast<const QAbstractItemView*>(widget)) {
         const QModelIndex current = list->currentIndex();
         const Qt::ItemFlags flags = current.flags();
-        // Items may be checked unless told otherwise; only those with a state have a box.
+        // All items may be checked by default; only those with a state have a box.
         const bool checks =
             flags.testFlag(Qt::ItemIsUserCheckable) && current.data(Qt::CheckStateRole).isValid();
         const bool edits = flags.testFlag(Qt::ItemIsEditable) &&

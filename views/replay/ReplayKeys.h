@@ -12,8 +12,8 @@ namespace VELIX {
 
 /// The keys that move the cursor from anywhere in the window.
 ///
-/// Shortcuts would take them from a widget that has its own use for them; editors claim theirs,
-/// and this class claims the space bar for buttons, lists with check boxes and the like.
+/// Shortcuts would take them from a widget that has its own use for them. Editors claim their keys
+/// themselves; this class claims the space bar for buttons, lists with check boxes and the like.
 class ReplayKeys : public QObject
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     explicit ReplayKeys(QWidget* widget);
 
     void setEnabled(bool enabled);
-    /// Whether the space bar does something in a widget that has the focus.
+    /// Whether a widget that has the focus uses the space bar itself.
     static bool usesSpace(const QWidget* widget);
 
 signals:

@@ -56,15 +56,15 @@ QString DialogDataStatistic::printTitle() const
 
 QString DialogDataStatistic::unprintableReason() const
 {
-    const bool something =
+    const bool hasFigures =
         mRecord != nullptr && (mRecord->flight.statistic.valid || !mRecord->cycleFlights.empty());
-    return something ? QString() : tr("No flight selected");
+    return hasFigures ? QString() : tr("No flight selected");
 }
 
 std::unique_ptr<PrintLayout> DialogDataStatistic::printLayout(QPaintDevice& device,
                                                               const QSizeF& room) const
 {
-    // What the overview says about choosing a flight makes no sense on paper.
+    // The sentence of the overview about choosing a flight makes no sense on paper.
     const bool overview = mRecord != nullptr && !mRecord->flight.statistic.valid;
     return std::make_unique<TextPrint>(
         overview ? FlightText::flights(mRecord->cycleFlights) : mText, device, room);

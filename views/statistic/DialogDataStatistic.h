@@ -10,8 +10,8 @@ class QTextEdit;
 
 namespace VELIX {
 
-/// The figures of the chosen flight or, for a whole cycle, an overview of its flights. They were
-/// computed when the cycle was loaded; the view only writes them out and ignores the cursor.
+/// Shows the figures of the chosen flight or, for a whole cycle, an overview of its flights. They
+/// were computed when the cycle was loaded; the view only writes them out and ignores the cursor.
 class DialogDataStatistic : public QWidget, public DataView, public Printable
 {
     Q_OBJECT

@@ -34,7 +34,7 @@ QString climbText(const FlightStatistic& s, double climb)
     return number(climb, 0, s.heightUnit.isEmpty() ? QStringLiteral("m") : s.heightUnit);
 }
 
-/// A sum of flight times may exceed a day, which a time of day cannot show.
+/// Writes a sum of flight times, which may exceed a day and so cannot be written as a time of day.
 QString duration(double seconds)
 {
     if (!(std::abs(seconds) < 1e9)) {
@@ -48,14 +48,14 @@ QString duration(double seconds)
         .arg(whole % 60, 2, 10, QLatin1Char('0'));
 }
 
-/// Time of day, or the time on the unit's clock in a cycle without a date.
+/// Returns the time of day, or in a cycle without a date the time on the unit's clock.
 QString takeoff(const RecordFlight& flight)
 {
     return flight.dateTime.isValid() ? flight.dateTime.toString(kTimeFormat)
                                      : FlightText::timeOfDay(flight.takeoffTime);
 }
 
-/// What names the row stands to the left, figures stand to the right.
+/// Writes a row: the first cell names it and is aligned to the left, figures to the right.
 QString cells(const QString& tag, const QStringList& texts)
 {
     QString row = QStringLiteral("<tr>");

@@ -13,7 +13,7 @@ namespace VELIX {
 
 namespace {
 
-/// What of a paragraph lies in the selection.
+/// Returns the selected part of a paragraph.
 QString selectedPart(const QTextBlock& block, const QTextCursor& selection)
 {
     const int from = std::max(selection.selectionStart() - block.position(), 0);
@@ -28,7 +28,7 @@ QString cellText(const QString& text)
     return name.endsWith(QLatin1Char(':')) ? name.chopped(1).trimmed() : name;
 }
 
-/// Cells of one table, of which a selection never holds parts.
+/// Returns the selected cells of one table; a selection never has only a part of a cell.
 QString selectedCells(const QTextCursor& selection)
 {
     int firstRow = 0;
@@ -76,7 +76,7 @@ QString TableTextEdit::plainText(const QTextCursor& selection)
         const int row = table == nullptr ? -1 : table->cellAt(at).row();
         const QString part = selectedPart(block, selection);
         if (table == nullptr && part.isEmpty()) {
-            continue; // tables stand between empty paragraphs
+            continue; // tables have empty paragraphs around them
         }
         if (!first) {
             text +=

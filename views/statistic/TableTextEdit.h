@@ -7,7 +7,7 @@ class QTextCursor;
 namespace VELIX {
 
 /// A read-only text whose tables are copied row by row, cells separated by tabs, so that a
-/// spreadsheet or a plain text gets what is seen. The rich form goes along unchanged.
+/// spreadsheet or a plain text gets what is seen. The rich form is copied unchanged.
 class TableTextEdit : public QTextEdit
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ class TableTextEdit : public QTextEdit
 public:
     explicit TableTextEdit(QWidget* parent = nullptr);
 
-    /// The selected text. The colon behind the name of a value is left out.
+    /// Returns the selected text, without the colon after the name of a value.
     [[nodiscard]] static QString plainText(const QTextCursor& selection);
 
 protected:

@@ -7,7 +7,7 @@
 
 namespace VELIX {
 
-/// Rich text on paper.
+/// Prints rich text.
 class TextPrint final : public PrintLayout
 {
 public:
