@@ -8,24 +8,24 @@ namespace VELIX {
 
 class DemoStage;
 
-/// A state of the main window to be pictured.
+/// A state of the main window for a screenshot.
 struct DemoScene
 {
     const char* name;
     const char* caption;
-    bool (*prepare)(DemoStage& stage); ///< on top of the scene before; null: nothing to do
-    const char* view;                  ///< whose tab is chosen, by object name; null: as it is
+    bool (*prepare)(DemoStage& stage); ///< after the scene before; null: nothing to do
+    const char* view;                  ///< whose tab is chosen, by object name; null: no other
 };
 
-/// A window or dialog of its own to be pictured.
+/// A window or dialog of its own for screenshots.
 struct DemoDialog
 {
     enum class End { Close, Accept };
 
-    const char* name; ///< of the pictures; with a number behind where there are several pages
+    const char* name; ///< of the screenshots; followed by a number where there are several pages
     const char* caption;
     bool (*open)(DemoStage& stage);
-    int pages;      ///< most pages that are pictured
+    int pages;      ///< the number of screenshots at most
     int manualPage; ///< the page that the manual shows, counted from 1
     End end;
     const char* writes; ///< suffix of the file that accepting it leaves; null: none
@@ -38,7 +38,7 @@ struct DemoPart
     QWidget* (*find)(DemoStage& stage);
 };
 
-/// In the order in which they are visited. A picture more is a line more in these tables.
+/// Return what is visited, in this order. A line more in these tables is a screenshot more.
 const std::vector<DemoScene>& demoScenes();
 const std::vector<DemoDialog>& demoDialogs();
 const std::vector<DemoPart>& demoParts();

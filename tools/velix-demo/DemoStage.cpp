@@ -21,7 +21,7 @@ namespace VELIX {
 
 namespace {
 
-constexpr int kPatienceMs = 30000;
+constexpr int kTimeoutMs = 30000;
 constexpr unsigned long kPollMs = 10;
 constexpr double kReplaySeconds = 0.5;
 
@@ -108,7 +108,7 @@ bool DemoStage::waitFor(const std::function<bool()>& condition, const QString& s
     QElapsedTimer clock;
     clock.start();
     while (!condition()) {
-        if (clock.elapsed() > kPatienceMs) {
+        if (clock.elapsed() > kTimeoutMs) {
             return fail(sentence);
         }
         runEventsFor(kPollMs);

@@ -7,7 +7,7 @@
 #include "tools/velix-demo/DemoScenes.h"
 #include "tools/velix-demo/DemoStage.h"
 #include "tools/velix-demo/DialogVisit.h"
-#include "tools/velix-demo/PictureBook.h"
+#include "tools/velix-demo/ScreenshotFolder.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -21,23 +21,23 @@ namespace VELIX {
 
 namespace {
 
-using Kind = PictureBook::Kind;
+using Kind = ScreenshotFolder::Kind;
 
 constexpr int kStartMs = 1300; ///< start-up sizes its panes one second after the window came up
 constexpr int kSettleMs = 600; ///< the graph has caught up with its final size
 
 } // namespace
 
-DemoTour::DemoTour(PictureBook& book) : mBook(book) {}
+DemoTour::DemoTour(ScreenshotFolder& screenshots) : mScreenshots(screenshots) {}
 
 bool DemoTour::run(AppContext& context)
 {
     DialogMain window(context);
-    window.resize(mBook.kind() == Kind::Windows ? QSize(1280, 800) : QSize(1000, 700));
+    window.resize(mScreenshots.kind() == Kind::Windows ? QSize(1280, 800) : QSize(1000, 700));
     QApplication::setActiveWindow(&window); // a virtual display has no window manager to do it
     QCursor::setPos(window.screen()->geometry().bottomRight()); // nothing is hovered
     DemoStage::runEventsFor(kStartMs);
-    // Its own sizes depend on when the window system answered.
+    // The sizes that it chooses itself depend on when the window system answered.
     const auto* cards = window.findChild<DialogCard*>();
     if (auto* column = qobject_cast<QSplitter*>(cards->parentWidget())) {
         column->setSizes({1, 2});
@@ -60,23 +60,23 @@ bool DemoTour::visitScenes(DemoStage& stage)
         }
         DemoStage::runEventsFor(kSettleMs);
         QWidget* shown = &stage.window();
-        if (mBook.kind() == Kind::Manual && scene.view != nullptr) {
+        if (mScreenshots.kind() == Kind::Manual && scene.view != nullptr) {
             shown = stage.window().findChild<QWidget*>(QLatin1String(scene.view));
         }
-        return mBook.add(*shown, QLatin1String(scene.name), QLatin1String(scene.caption)) ||
+        return mScreenshots.add(*shown, QLatin1String(scene.name), QLatin1String(scene.caption)) ||
                stage.fail(QStringLiteral("The pictures cannot be written."));
     });
 }
 
 bool DemoTour::visitParts(DemoStage& stage)
 {
-    if (mBook.kind() == Kind::Windows) {
-        return true; // they are in the pictures of the window
+    if (mScreenshots.kind() == Kind::Windows) {
+        return true; // they are in the screenshots of the window
     }
     const auto& parts = demoParts();
     return std::all_of(parts.begin(), parts.end(), [&](const DemoPart& part) {
         QWidget* widget = part.find(stage);
-        return (widget != nullptr && mBook.add(*widget, QLatin1String(part.name), {})) ||
+        return (widget != nullptr && mScreenshots.add(*widget, QLatin1String(part.name), {})) ||
                stage.fail(QStringLiteral("There is no %1.").arg(QLatin1String(part.name)));
     });
 }
@@ -88,7 +88,7 @@ bool DemoTour::visitDialogs(DemoStage& stage)
     if (!QDir().mkpath(exports.path())) {
         return stage.fail(QStringLiteral("%1 cannot be made.").arg(exports.path()));
     }
-    DialogVisit visit(stage, mBook, exports.path());
+    DialogVisit visit(stage, mScreenshots, exports.path());
     const auto& dialogs = demoDialogs();
     return std::all_of(dialogs.begin(), dialogs.end(),
                        [&](const DemoDialog& dialog) { return visit.run(dialog); });

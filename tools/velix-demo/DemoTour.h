@@ -5,15 +5,15 @@
 namespace VELIX {
 
 class DemoStage;
-class PictureBook;
+class ScreenshotFolder;
 struct AppContext;
 
 /// One visit to the program: opens the window, loads the first cycle and its first flight, replays
-/// a little, looks at every view and dialog, exports what is loaded, and saves pictures on the way.
+/// a little, shows every view and dialog, exports what is loaded, and saves screenshots on the way.
 class DemoTour
 {
 public:
-    explicit DemoTour(PictureBook& book);
+    explicit DemoTour(ScreenshotFolder& screenshots);
 
     /// False if something was not as a user would find it; error() then says what.
     [[nodiscard]] bool run(AppContext& context);
@@ -24,7 +24,7 @@ private:
     bool visitParts(DemoStage& stage);
     bool visitDialogs(DemoStage& stage);
 
-    PictureBook& mBook;
+    ScreenshotFolder& mScreenshots;
     QString mError;
 };
 

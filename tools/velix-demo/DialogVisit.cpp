@@ -2,7 +2,7 @@
 
 #include "gui/DialogMain.h"
 #include "tools/velix-demo/DemoStage.h"
-#include "tools/velix-demo/PictureBook.h"
+#include "tools/velix-demo/ScreenshotFolder.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -26,8 +26,8 @@ constexpr int kSettleMs = 200; ///< a window has its final layout
 
 } // namespace
 
-DialogVisit::DialogVisit(DemoStage& stage, PictureBook& book, QString exports)
-    : mStage(stage), mBook(book), mExports(std::move(exports))
+DialogVisit::DialogVisit(DemoStage& stage, ScreenshotFolder& screenshots, QString exports)
+    : mStage(stage), mScreenshots(screenshots), mExports(std::move(exports))
 {
     mTimer.setInterval(kLookMs);
     QObject::connect(&mTimer, &QTimer::timeout, [this] { look(); });
@@ -56,7 +56,7 @@ void DialogVisit::look()
         return;
     }
     if (!mVisited) {
-        mTimer.stop(); // pictures run the event loop
+        mTimer.stop(); // screenshots run the event loop
         visit(*window);
         mTimer.start();
     } else if (auto* box = qobject_cast<QMessageBox*>(window)) {
@@ -88,7 +88,7 @@ void DialogVisit::visit(QWidget& window)
         path->setText(mExports);
     }
     auto* wizard = qobject_cast<QWizard*>(&window);
-    const bool done = wizard != nullptr ? pictureWizard(*wizard) : picturePages(window);
+    const bool done = wizard != nullptr ? captureWizard(*wizard) : capturePages(window);
     mVisited = true;
     if (done && wizard != nullptr && mDialog->end == DemoDialog::End::Accept) {
         wizard->button(QWizard::FinishButton)->click();
@@ -97,11 +97,11 @@ void DialogVisit::visit(QWidget& window)
     }
 }
 
-bool DialogVisit::pictureWizard(QWizard& wizard)
+bool DialogVisit::captureWizard(QWizard& wizard)
 {
     const int pages = wizard.pageIds().size();
     for (int page = 1;; ++page) {
-        if (!picture(wizard, page, pages)) {
+        if (!capture(wizard, page, pages)) {
             return false;
         }
         if (wizard.nextId() == -1) {
@@ -117,8 +117,8 @@ bool DialogVisit::pictureWizard(QWizard& wizard)
     }
 }
 
-/// The pages of a list or a row of tabs in turn.
-bool DialogVisit::picturePages(QWidget& window)
+/// Saves the pages of a list or a row of tabs in turn.
+bool DialogVisit::capturePages(QWidget& window)
 {
     auto* tabs = window.findChild<QTabWidget*>();
     auto* list = window.findChild<QListWidget*>();
@@ -135,18 +135,18 @@ bool DialogVisit::picturePages(QWidget& window)
         } else if (pages > 1) {
             list->setCurrentRow(page - 1);
         }
-        if (!picture(window, page, pages)) {
+        if (!capture(window, page, pages)) {
             return false;
         }
     }
     return true;
 }
 
-/// page: counted from 1.
-bool DialogVisit::picture(QWidget& window, int page, int pages)
+/// Saves a screenshot of a page, counted from 1.
+bool DialogVisit::capture(QWidget& window, int page, int pages)
 {
     DemoStage::runEventsFor(kSettleMs);
-    const bool forManual = mBook.kind() == PictureBook::Kind::Manual;
+    const bool forManual = mScreenshots.kind() == ScreenshotFolder::Kind::Manual;
     if (forManual && page != mDialog->manualPage) {
         return true;
     }
@@ -156,7 +156,7 @@ bool DialogVisit::picture(QWidget& window, int page, int pages)
         name += QStringLiteral("-%1").arg(page);
         caption += QStringLiteral(", page %1").arg(page);
     }
-    return mBook.add(window, name, caption) ||
+    return mScreenshots.add(window, name, caption) ||
            mStage.fail(QStringLiteral("The picture %1 could not be written.").arg(name));
 }
 

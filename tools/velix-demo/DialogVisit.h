@@ -9,30 +9,31 @@ class QWizard;
 namespace VELIX {
 
 class DemoStage;
-class PictureBook;
+class ScreenshotFolder;
 
-/// One visit to a window or dialog: has it opened, pictures its pages and leaves it again. A
-/// message box that comes up meanwhile is a failure, and is closed.
+/// One visit to a window or dialog: opens it, saves a screenshot of each page and closes it again.
+/// A message box that comes up meanwhile is a failure, and is closed.
 class DialogVisit
 {
 public:
-    /// exports: existing folder for what wizards write.
-    DialogVisit(DemoStage& stage, PictureBook& book, QString exports);
+    /// exports: existing folder for what wizards write
+    DialogVisit(DemoStage& stage, ScreenshotFolder& screenshots, QString exports);
 
+    /// Visits a dialog; false if something was not as a user would find it.
     [[nodiscard]] bool run(const DemoDialog& dialog);
 
 private:
     void look();
     void visit(QWidget& window);
     QWidget* newWindow() const;
-    bool picturePages(QWidget& window);
-    bool pictureWizard(QWizard& wizard);
-    bool picture(QWidget& window, int page, int pages);
+    bool capturePages(QWidget& window);
+    bool captureWizard(QWizard& wizard);
+    bool capture(QWidget& window, int page, int pages);
     void leave(QWidget& window);
     bool isWritten() const;
 
     DemoStage& mStage;
-    PictureBook& mBook;
+    ScreenshotFolder& mScreenshots;
     QString mExports;
     const DemoDialog* mDialog = nullptr;
     bool mVisited = false;

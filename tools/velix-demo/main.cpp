@@ -1,4 +1,4 @@
-// velix-demo: shows the program to whoever has no display, and proves that it runs.
+// velix-demo: saves screenshots of the program where there is no display, and proves that it runs.
 
 #include "core/CmdLine.h"
 #include "core/DataHandler.h"
@@ -9,7 +9,7 @@
 #include "gui/look/Palette.h"
 #include "gui/look/Resources.h"
 #include "tools/velix-demo/DemoTour.h"
-#include "tools/velix-demo/PictureBook.h"
+#include "tools/velix-demo/ScreenshotFolder.h"
 
 #include <QApplication>
 #include <QDir>
@@ -28,8 +28,8 @@ int complain(const QString& sentence)
     return 1;
 }
 
-/// Pictures show nothing that depends on the desktop or the moment.
-void prepareForPictures(QApplication& application, const std::string& look)
+/// Makes sure that screenshots show nothing that depends on the desktop or the moment.
+void prepareForScreenshots(QApplication& application, const std::string& look)
 {
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans")));
     QApplication::setCursorFlashTime(0);
@@ -61,12 +61,12 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C"); // the toolkit takes the user's; files need the point
     initResources();
-    prepareForPictures(application, look);
+    prepareForScreenshots(application, look);
     Kernel::instance().setApplication(&application);
     Property& settings = Property::instance();
     settings.setConfigFile(DataHandler::instance().dataPath() + "/VELIX.ini");
     settings.readXmlFile();
-    settings.setString("TileServer", ""); // pictures are the same with and without a network
+    settings.setString("TileServer", ""); // screenshots are the same with and without a network
     const std::string locale = settings.getString("Locale", "us");
     const Language language(locale);
 
@@ -74,14 +74,15 @@ int main(int argc, char** argv)
     if (!QDir().mkpath(folder)) {
         return complain(QStringLiteral("The folder %1 cannot be made.").arg(folder));
     }
-    PictureBook book(manual.empty() ? PictureBook::Kind::Windows : PictureBook::Kind::Manual,
-                     folder, locale == "de" ? QStringLiteral("de") : QStringLiteral("en"));
-    DemoTour tour(book);
+    ScreenshotFolder screenshots(
+        manual.empty() ? ScreenshotFolder::Kind::Windows : ScreenshotFolder::Kind::Manual, folder,
+        locale == "de" ? QStringLiteral("de") : QStringLiteral("en"));
+    DemoTour tour(screenshots);
     AppContext context = Kernel::instance().makeContext();
     if (!tour.run(context)) {
         return complain(tour.error());
     }
-    if (manual.empty() && !book.writeIndex()) {
+    if (manual.empty() && !screenshots.writeIndex()) {
         return complain(QStringLiteral("The index of the pictures cannot be written."));
     }
     std::printf("velix-demo: pictures are in %s\n", folder.toLocal8Bit().constData());

@@ -1,4 +1,4 @@
-#include "tools/velix-demo/PictureBook.h"
+#include "tools/velix-demo/ScreenshotFolder.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -10,11 +10,11 @@
 
 namespace VELIX {
 
-PictureBook::PictureBook(Kind kind, QString folder, QString language)
+ScreenshotFolder::ScreenshotFolder(Kind kind, QString folder, QString language)
     : mKind(kind), mFolder(std::move(folder)), mLanguage(std::move(language))
 {}
 
-bool PictureBook::add(QWidget& widget, const QString& name, const QString& caption)
+bool ScreenshotFolder::add(QWidget& widget, const QString& name, const QString& caption)
 {
     mIndex << QStringLiteral("## %1\n").arg(caption)
            << QStringLiteral("![English](en/%1.png) ![German](de/%1.png)\n").arg(name);
@@ -22,7 +22,7 @@ bool PictureBook::add(QWidget& widget, const QString& name, const QString& capti
     return QDir().mkpath(file.path()) && widget.grab().save(file.filePath());
 }
 
-bool PictureBook::writeIndex() const
+bool ScreenshotFolder::writeIndex() const
 {
     QSaveFile file(QDir(mFolder).filePath(QStringLiteral("README.md")));
     if (!file.open(QIODevice::WriteOnly)) {
