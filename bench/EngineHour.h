@@ -1,18 +1,17 @@
 #pragma once
 
+#include "bench/Require.h"
 #include "profile/Profile.h"
 #include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
 
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 
 namespace VELIX {
 
-/// An hour of engine data, ten rows a second: 30 selected parameters, two of them a position, a
-/// third of them with thresholds.
+/// An hour of engine data, ten rows a second: 30 selected parameters, two of which are a position
+/// and a third of which have thresholds.
 struct EngineHour
 {
     static constexpr int kRows = 36'000;
@@ -44,10 +43,7 @@ private:
             }
         }
         auto profile = std::make_unique<Profile>();
-        if (!builder.load(*profile)) {
-            std::fprintf(stderr, "the profile of the benchmark does not load\n");
-            std::abort();
-        }
+        require(builder.load(*profile), "the profile of the benchmark does not load");
         Test::ProfileBuilder::selectAll(*profile);
         return profile;
     }

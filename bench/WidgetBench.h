@@ -6,7 +6,7 @@
 
 namespace VELIX {
 
-/// What main() of a benchmark of widgets does.
+/// Does what main() of a benchmark of widgets has to.
 inline int runWidgetBenchmarks(int argc, char** argv)
 {
     QApplication application(argc, argv);
@@ -15,7 +15,8 @@ inline int runWidgetBenchmarks(int argc, char** argv)
     return 0;
 }
 
-/// The same for widgets that need no OpenGL: without a display, so that no other process paints.
+/// Does the same for widgets that need no OpenGL, without a display, so that no other process
+/// paints.
 inline int runOffscreenBenchmarks(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");

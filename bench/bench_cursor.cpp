@@ -29,7 +29,7 @@ constexpr int kMatrices = 3;
 constexpr int kBits = 32;
 constexpr int kFirstMatrixId = 0x4F0;
 
-/// Fault matrices of which every bit has a type.
+/// Adds fault matrices in which every bit has a type.
 void addMatrices(Profile& profile)
 {
     for (int i = 0; i < kMatrices; ++i) {
@@ -43,7 +43,7 @@ void addMatrices(Profile& profile)
     }
 }
 
-/// Their messages, ten a second, the bits at random.
+/// Adds their messages, ten a second, with random bits.
 void addFaultWords(RecordData& record)
 {
     std::mt19937 random(3);
@@ -61,7 +61,7 @@ void addFaultWords(RecordData& record)
     record.finish(record.stopTime);
 }
 
-/// The pages of the data window, and the order in which it tells them of the cursor.
+/// The pages of the data window, and the order in which it informs them of the cursor.
 struct Pages
 {
     EngineHour hour;
@@ -92,14 +92,14 @@ struct Pages
 
 private:
     template <class View>
-    void add(EView place, View* view)
+    void add(EView kind, View* view)
     {
         stack.addWidget(view);
-        routes.setView(place, *view);
+        routes.setView(kind, *view);
     }
 };
 
-/// To times at random, with one page in front.
+/// Moves the cursor to random times, with one page in front.
 void moveCursor(benchmark::State& state, bool paint)
 {
     static Pages* const pages = new Pages; // the application ends before what is static does
@@ -120,13 +120,13 @@ void moveCursor(benchmark::State& state, bool paint)
     }
 }
 
-/// Without what is painted later: of the fault matrix only the time bars.
+/// Leaves out what is painted later: of the fault matrix only the time bars count.
 void setTime(benchmark::State& state)
 {
     moveCursor(state, false);
 }
 
-/// With all of it: a tick of the replay.
+/// Paints everything: this is a tick of the replay.
 void setTimeAndPaint(benchmark::State& state)
 {
     moveCursor(state, true);

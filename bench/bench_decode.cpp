@@ -1,5 +1,6 @@
 // Decoding of single messages: what every cell, curve point and exported field costs.
 
+#include "bench/Require.h"
 #include "core/Diagnostics.h"
 #include "profile/Profile.h"
 #include "tests/support/ProfileBuilder.h"
@@ -7,8 +8,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 
 namespace {
@@ -18,7 +17,7 @@ using namespace VELIX::Test;
 
 enum Id : int { kFloat = 500, kUShort, kBLong, kLatitude };
 
-/// Messages of one parameter: enough that neither branches nor values are learnt, few enough to
+/// Messages of one parameter: too many for a processor to learn branches and values, few enough to
 /// stay in the cache.
 constexpr int kMessages = 4096;
 
@@ -60,10 +59,7 @@ private:
         b.set("enumId", "Mode").set("startBit", "3").set("endBit", "4");
         b.parameter(kLatitude, QStringLiteral("Latitude"), "FLOAT");
         b.set("velixDataType", "Latitude").set("precision", "6");
-        if (!b.load(profile)) {
-            std::fprintf(stderr, "the profile of the benchmark does not load\n");
-            std::abort();
-        }
+        require(b.load(profile), "the profile of the benchmark does not load");
         fill();
     }
 

@@ -1,5 +1,6 @@
 // Finding and listing the events of a record with 1,000,000 samples.
 
+#include "bench/Require.h"
 #include "bench/WidgetBench.h"
 #include "card/LimitFinder.h"
 #include "card/WarningFinder.h"
@@ -10,8 +11,6 @@
 #include "views/events/DialogDataLimit.h"
 
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <memory>
 
 namespace {
@@ -53,10 +52,7 @@ private:
                 builder.set("thresholdId", "Hot").set("precision", "1");
             }
         }
-        if (!builder.load(profile)) {
-            std::fprintf(stderr, "the profile of the benchmark does not load\n");
-            std::abort();
-        }
+        require(builder.load(profile), "the profile of the benchmark does not load");
         record = samples().data();
     }
 

@@ -19,7 +19,7 @@ constexpr int kColumns = 1'600;
 constexpr int kTraces = 30;
 constexpr int kRows = 36'000;
 
-/// A value as a sensor of an engine gives it: slow swings with some noise, now and then a gap.
+/// Returns a value as a sensor of an engine gives it: slow swings with some noise, sometimes a gap.
 double engineValue(std::size_t i, std::minstd_rand& random)
 {
     if (i % 200 == 0) {
@@ -29,7 +29,7 @@ double engineValue(std::size_t i, std::minstd_rand& random)
            static_cast<double>(random() % 1000) * 0.01;
 }
 
-/// One trace of kSamples samples, spread evenly over so many seconds.
+/// Fills one trace with kSamples samples, spread evenly over some seconds.
 void fill(GraphModel& model, double seconds)
 {
     std::minstd_rand random(1);
@@ -44,7 +44,7 @@ void fill(GraphModel& model, double seconds)
     model.calcFrame();
 }
 
-/// The same for a whole day, made once.
+/// Returns such a trace of a whole day, made once.
 GraphModel& longModel()
 {
     static GraphModel model;
@@ -73,7 +73,7 @@ void feedThirtyTraces(benchmark::State& state)
     }
 }
 
-/// The peer of recalcWholeRecord: the least that a walk over the samples costs.
+/// Measures for recalcWholeRecord() the least that a walk over the samples costs.
 void sumSamples(benchmark::State& state)
 {
     const auto& entries = longModel().parameter(0).trace.entries();
@@ -96,7 +96,8 @@ void recalcWholeRecord(benchmark::State& state)
     }
 }
 
-/// Pans through a record by one pixel, a thousandth of it visible, and zooms in and out between.
+/// Pans through a record of which a thousandth is visible by one pixel, and zooms in and out in
+/// between.
 void panAndZoom(benchmark::State& state, GraphModel& model, double seconds)
 {
     const double width = seconds / 1000.0;
@@ -117,7 +118,7 @@ void panAndZoomInADay(benchmark::State& state)
     panAndZoom(state, longModel(), GraphModel::kSecondsPerDay);
 }
 
-/// The same samples in ten seconds: a million in each element of the index.
+/// Measures the same samples in ten seconds: a million in each element of the index.
 void panAndZoomInTenSeconds(benchmark::State& state)
 {
     constexpr double kSeconds = 10.0;

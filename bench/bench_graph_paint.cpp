@@ -1,5 +1,5 @@
-// One picture of the graph: 30 traces at 1600 x 900 with four samples per pixel; and what it costs
-// to move the cursor over it. Needs a display.
+// One frame of the graph: 30 traces at 1600 x 900 with four samples per pixel; and what it costs to
+// move the cursor over it. Needs a display.
 
 #include "views/graph/widget/WidgetGraph.h"
 #include "views/graph/widget/WidgetGraphES.h"
@@ -23,9 +23,9 @@ constexpr int kSamples = 36'000;
 constexpr double kRate = 10.0; ///< samples per second
 constexpr double kDuration = kSamples / kRate;
 
-enum class Picture { Engine, Noise };
+enum class Content { Engine, Noise };
 
-/// Counts nothing but the painting: no layers above, no exchange of buffers.
+/// Paints and nothing else: no layers above, no exchange of buffers.
 template <class Widget>
 class PaintedGraph : public Widget
 {
@@ -39,7 +39,7 @@ public:
     }
 };
 
-/// Start, climb, cruise and descent of an engine, with the noise of its sensors.
+/// Returns a value of an engine in start, climb, cruise and descent, with the noise of its sensors.
 double engineValue(unsigned int trace, double time, double noise)
 {
     const double part = time / kDuration;
@@ -48,7 +48,7 @@ double engineValue(unsigned int trace, double time, double noise)
     return 50.0 + 10.0 * trace * (power + swing) + noise * (0.1 + 0.05 * (trace % 4));
 }
 
-void fill(WidgetGraphBase& graph, Picture picture)
+void fill(WidgetGraphBase& graph, Content content)
 {
     std::mt19937 random(7);
     std::normal_distribution<double> normal;
@@ -63,21 +63,21 @@ void fill(WidgetGraphBase& graph, Picture picture)
         graph.setTime(time);
         for (unsigned int trace = 0; trace < kTraces; ++trace) {
             graph.putValue(trace,
-                           picture == Picture::Engine ? engineValue(trace, time, normal(random))
+                           content == Content::Engine ? engineValue(trace, time, normal(random))
                                                       : uniform(random),
                            false);
         }
     }
-    graph.setDisplayMode(picture == Picture::Engine ? VELIX::GraphModel::DisplaySplit
+    graph.setDisplayMode(content == Content::Engine ? VELIX::GraphModel::DisplaySplit
                                                     : VELIX::GraphModel::DisplaySingle);
     graph.setVisibleRange(0.0, kDuration);
     graph.setCursorPosition(kDuration / 3.0);
 }
 
 template <class Widget>
-void show(PaintedGraph<Widget>& graph, Picture picture)
+void show(PaintedGraph<Widget>& graph, Content content)
 {
-    fill(graph, picture);
+    fill(graph, content);
     graph.resize(1600, 900);
     graph.show();
     QApplication::processEvents();
@@ -87,21 +87,21 @@ void show(PaintedGraph<Widget>& graph, Picture picture)
 template <class Widget>
 void paint(benchmark::State& state)
 {
-    const auto picture = static_cast<Picture>(state.range(0));
+    const auto content = static_cast<Content>(state.range(0));
     PaintedGraph<Widget> graph;
-    show(graph, picture);
+    show(graph, content);
     for (auto step : state) {
         (void)step;
-        graph.activateGrid(true); // any setting of the look has all drawn again
+        graph.activateGrid(true); // any setting of the look makes the graph draw everything again
         graph.paintOnce();
     }
-    state.SetLabel(picture == Picture::Engine ? "split, limit 45 ms" : "noise, limit 600 ms");
+    state.SetLabel(content == Content::Engine ? "split, limit 45 ms" : "noise, limit 600 ms");
 }
 
 void moveCursor(benchmark::State& state)
 {
     PaintedGraph<WidgetGraph> graph;
-    show(graph, static_cast<Picture>(state.range(0)));
+    show(graph, static_cast<Content>(state.range(0)));
     double time = 0.0;
     for (auto step : state) {
         (void)step;

@@ -1,5 +1,6 @@
 // Writing the KML document of a four-hour flight: positions and 30 chosen parameters at 10 Hz.
 
+#include "bench/Require.h"
 #include "card/LimitFinder.h"
 #include "card/RecordData.h"
 #include "core/Diagnostics.h"
@@ -15,7 +16,6 @@
 #include <bit>
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 #include <memory>
 
 namespace {
@@ -35,10 +35,7 @@ class Flight
 public:
     Flight()
     {
-        if (!describe().load(profile)) {
-            std::fprintf(stderr, "the profile of the benchmark does not load\n");
-            std::abort();
-        }
+        require(describe().load(profile), "the profile of the benchmark does not load");
         fly();
         record->limits = findLimits(*record, profile);
         options.directory = folder.path().toStdString();

@@ -19,7 +19,7 @@ using namespace VELIX;
 using namespace VELIX::Test;
 
 constexpr int kFiles = 1000;
-constexpr int kSamples = 2000; // a file: the header and the last entry lie on different pages
+constexpr int kSamples = 2000; // in a file: the header and the last entry are on different pages
 
 bool writeCard(const QString& folder)
 {

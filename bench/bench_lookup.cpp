@@ -1,5 +1,6 @@
 // The value of a parameter at a time: what every view asks for at every move of the cursor.
 
+#include "bench/Require.h"
 #include "card/CardContainer.h"
 #include "core/Diagnostics.h"
 #include "profile/Profile.h"
@@ -10,8 +11,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cstdio>
-#include <cstdlib>
 #include <random>
 
 namespace {
@@ -25,7 +24,8 @@ constexpr int kId = 500;
 
 enum Order : int { kInOrder, kSomeLate, kMostLate };
 
-/// Every how many samples one comes as late as a buffer of the unit can hold it back; 0: none.
+/// Returns how many samples there are for each that is as late as a buffer of the unit can delay
+/// it; 0: none is late.
 int lateEvery(int order)
 {
     switch (order) {
@@ -36,12 +36,6 @@ int lateEvery(int order)
     default:
         return 0;
     }
-}
-
-[[noreturn]] void fail(const char* sentence)
-{
-    std::fprintf(stderr, "bench_lookup: %s\n", sentence);
-    std::abort();
 }
 
 /// A card with one file of samples, loaded as the program does it.
@@ -55,9 +49,7 @@ public:
         b.threshold("Hot", {{0.0, "lime", "OK"}, {90.0, "yellow", "WARNING"}});
         b.device("Lane A").parameter(kId, QStringLiteral("Oil temperature"), "FLOAT");
         b.set("thresholdId", "Hot");
-        if (!b.load(mProfile)) {
-            fail("the profile does not load");
-        }
+        require(b.load(mProfile), "the profile of the benchmark does not load");
         const QTemporaryDir folder;
         RecordBuilder record;
         record.id(kId);
@@ -67,11 +59,10 @@ public:
             record.at(late ? std::max(0, i - 50) * kStep : i * kStep);
             record.floatValue(static_cast<float>(i % 100));
         }
-        if (!record.write(folder.filePath(QStringLiteral("R0.CAN"))) ||
-            !mCard.readContainer(folder.path()) ||
-            mCard.loadFiles({QStringLiteral("R0.CAN")}) != 1) {
-            fail("the card does not load");
-        }
+        require(record.write(folder.filePath(QStringLiteral("R0.CAN"))) &&
+                    mCard.readContainer(folder.path()) &&
+                    mCard.loadFiles({QStringLiteral("R0.CAN")}) == 1,
+                "the card does not load");
     }
 
     CardContainer& card() { return mCard; }

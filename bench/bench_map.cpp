@@ -1,4 +1,4 @@
-// The map: a picture with everything there, a path made ready, and tiles from a server to the
+// The map: a frame with all tiles loaded, the preparation of a path, and tiles from a server to the
 // screen. Needs a display.
 
 #include "bench/WidgetBench.h"
@@ -27,7 +27,7 @@ namespace {
 
 using namespace VELIX;
 
-/// Circles over the Alps, ten positions a second.
+/// Returns circles over the Alps, ten positions a second.
 std::vector<FlightPathPoint> circles(int count)
 {
     std::vector<FlightPathPoint> path(static_cast<std::size_t>(count));
@@ -42,7 +42,7 @@ std::vector<FlightPathPoint> circles(int count)
     return path;
 }
 
-/// Counts nothing but the painting: no layers above, no exchange of buffers.
+/// Paints and nothing else: no layers above, no exchange of buffers.
 class PaintedMap : public WidgetMap
 {
 public:
@@ -56,22 +56,22 @@ public:
     }
 };
 
-/// A tile server on a thread of its own, so that its work is not taken for that of the map.
+/// A tile server on a thread of its own, so that its work does not count as that of the map.
 class ServerThread
 {
 public:
     ServerThread()
     {
-        mPlace.moveToThread(&mThread);
+        mWorker.moveToThread(&mThread);
         mThread.start();
-        there([this] {
+        onThread([this] {
             mServer = std::make_unique<Test::TileServer>();
             mUrl = mServer->url();
         });
     }
     ~ServerThread()
     {
-        there([this] { mServer.reset(); });
+        onThread([this] { mServer.reset(); });
         mThread.quit();
         mThread.wait();
     }
@@ -82,23 +82,23 @@ public:
     int requests()
     {
         int count = 0;
-        there([this, &count] { count = mServer->requests(); });
+        onThread([this, &count] { count = mServer->requests(); });
         return count;
     }
 
 private:
-    void there(const std::function<void()>& work)
+    void onThread(const std::function<void()>& work)
     {
-        QMetaObject::invokeMethod(&mPlace, work, Qt::BlockingQueuedConnection);
+        QMetaObject::invokeMethod(&mWorker, work, Qt::BlockingQueuedConnection);
     }
 
     QThread mThread;
-    QObject mPlace; ///< lives on the thread
+    QObject mWorker; ///< belongs to the thread
     std::unique_ptr<Test::TileServer> mServer;
     QString mUrl;
 };
 
-/// A map of its own folder, so that every tile comes from the server.
+/// A map with a folder of its own, so that every tile comes from the server.
 struct MapWindow
 {
     MapWindow(int width, int height, const std::vector<FlightPathPoint>& path)
@@ -119,7 +119,7 @@ struct MapWindow
             map->setRecordData(&record);
         }
     }
-    /// Without a server yet: what the drivers prepare is no matter of tiles.
+    /// Shows the map without a server yet: what the drivers prepare does not belong to the tiles.
     bool show()
     {
         frame.show();
@@ -150,7 +150,7 @@ struct MapWindow
     std::unique_ptr<PaintedMap> map;
 };
 
-/// Of a map that stands still (only the aircraft moves) or that is dragged.
+/// Paints a map that does not move (only the aircraft does) or that is dragged.
 void frame(benchmark::State& state, double step)
 {
     const std::vector<FlightPathPoint> path = circles(static_cast<int>(state.range(0)));
@@ -177,8 +177,8 @@ void pathToVertices(benchmark::State& state)
     }
 }
 
-/// Until all tiles of the view are on screen; blockedMs is the longest time that the event loop was
-/// away: a picture drawn by software included.
+/// Measures until all tiles of the view are on screen; blockedMs is the longest time without the
+/// event loop, which includes a frame drawn by software.
 void tilesToScreen(benchmark::State& state)
 {
     const std::vector<FlightPathPoint> nowhere;
@@ -200,7 +200,7 @@ void tilesToScreen(benchmark::State& state)
             between.restart();
         });
         if (!window.show()) {
-            state.SkipWithError("no picture came");
+            state.SkipWithError("no frame was drawn");
             break;
         }
         const Tessel::Misc::Timer watch;

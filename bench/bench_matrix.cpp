@@ -1,5 +1,6 @@
 // Fault matrices with an hour of error words: what the cursor costs, and how much memory it takes.
 
+#include "bench/Require.h"
 #include "bench/WidgetBench.h"
 #include "profile/Profile.h"
 #include "tests/support/ProfileBuilder.h"
@@ -8,8 +9,6 @@
 #include "views/fault/FaultTimeline.h"
 
 #include <atomic>
-#include <cstdio>
-#include <cstdlib>
 #include <dlfcn.h>
 #include <memory>
 #include <random>
@@ -20,7 +19,7 @@ std::atomic<std::size_t> gAllocations{0};
 
 } // namespace
 
-// Stands before the library's own, so that what Qt takes counts as well.
+// Hides the C library's own malloc(), so that what Qt allocates counts as well.
 extern "C" void* malloc(std::size_t size)
 {
     using Function = void* (*)(std::size_t);
@@ -70,10 +69,7 @@ struct Fixture
                     .set("errorType", types[bit % 3]);
             }
         }
-        if (!builder.load(*profile)) {
-            std::fprintf(stderr, "the profile of the benchmark does not load\n");
-            std::abort();
-        }
+        require(builder.load(*profile), "the profile of the benchmark does not load");
     }
 
     void makeRecord()
@@ -97,7 +93,7 @@ struct Fixture
     }
 };
 
-/// Moves the cursor at random; counts what setTime() takes, without the painting that follows.
+/// Moves the cursor to random times; counts what setTime() takes, without the painting after it.
 void jump(benchmark::State& state, DialogDataErrorMatrix& view)
 {
     const std::vector<double>& times = Fixture::instance().times;
@@ -121,7 +117,7 @@ void moveCursor(benchmark::State& state)
 }
 BENCHMARK(moveCursor)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
-/// On screen the time bars are painted within setTime(), the cells later.
+/// Measures a view on screen, where the time bars are painted within setTime() and the cells later.
 void moveCursorOnScreen(benchmark::State& state)
 {
     DialogDataErrorMatrix view(*Fixture::instance().profile);
@@ -132,7 +128,7 @@ void moveCursorOnScreen(benchmark::State& state)
 }
 BENCHMARK(moveCursorOnScreen)->Unit(benchmark::kMicrosecond)->UseRealTime();
 
-/// The change lists of one matrix, every bit changing all the time.
+/// Makes the change lists of one matrix in which every bit changes all the time.
 void makeTimeline(benchmark::State& state)
 {
     Fixture& fixture = Fixture::instance();

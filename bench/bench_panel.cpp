@@ -1,5 +1,5 @@
 // One frame of the instrument panel at 1000 x 714, every value changed since the last one; and the
-// first frame at a size, for which all that stands still is painted anew. Needs a display.
+// first frame at a size, for which all that does not move is painted again. Needs a display.
 
 #include "platform/tessel/opengl/Gl.h"
 #include "platform/viewlib/VistaView.h"
@@ -47,9 +47,9 @@ struct Panel
             std::fprintf(stderr, "no OpenGL, or no view in %s\n", PANEL_FILE);
             std::abort();
         }
-        picture = std::make_unique<QOpenGLFramebufferObject>(
+        target = std::make_unique<QOpenGLFramebufferObject>(
             kWidth, kHeight, QOpenGLFramebufferObject::CombinedDepthStencil);
-        picture->bind();
+        target->bind();
         view.startView(1);
         view.setVar("UNIT", 0L);
         view.setVar("VARIANT", 2L);
@@ -77,7 +77,7 @@ struct Panel
 
     QOffscreenSurface surface;
     QOpenGLContext context;
-    std::unique_ptr<QOpenGLFramebufferObject> picture;
+    std::unique_ptr<QOpenGLFramebufferObject> target;
     Vista2D::VistaView view;
 };
 

@@ -47,7 +47,7 @@ void fillTable(benchmark::State& state)
     double additional = 0.0;
     for (auto _ : state) {
         table->updateRecord(record);
-        QApplication::processEvents(); // the first picture belongs to it
+        QApplication::processEvents(); // the first frame is part of it
         state.PauseTiming();
         additional = std::max(additional, residentMb() - before);
         table->updateRecord(nullptr);

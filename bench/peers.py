@@ -1,4 +1,4 @@
-"""What the drivers share: running programs, medians, and one line per figure with its target."""
+"""Shared by the drivers: running programs, medians, and one line per figure with its target."""
 
 import json
 import statistics
@@ -17,7 +17,7 @@ def run_json(*command):
 
 
 def alternate(rounds, *measures):
-    """Calls the measures in turn, after a round of warming up; one list of seconds for each."""
+    """Calls the measures in turn, after one round to warm up; returns a list of seconds for each."""
     seconds = [[] for _ in measures]
     for turn in range(rounds + 1):
         for measure, kept in zip(measures, seconds):
@@ -33,7 +33,7 @@ def milliseconds(seconds):
 
 
 class Report:
-    """Prints figures and keeps in mind whether one misses its target."""
+    """Prints figures and remembers whether one misses its target."""
 
     def __init__(self):
         self.missed = False

@@ -1,5 +1,5 @@
 // Reads one record file in this fresh process and prints what it took, as JSON.
-// With --cycle the whole road of a load runs: files, index, flights, path, a flight's working data.
+// With --cycle all steps of a load run: files, index, flights, path, a flight's working data.
 
 #include "card/CardContainer.h"
 #include "card/RecordData.h"
@@ -27,8 +27,8 @@ double seconds(Clock::duration d)
     return std::chrono::duration<double>(d).count();
 }
 
-/// Most memory that was resident at a time. The resource usage of a process cannot tell: a child
-/// starts with the peak of the process that started it.
+/// Returns the most memory that was resident at a time. The resource usage of a process does not
+/// say it: a child starts with the peak of the process that started it.
 long peakBytes()
 {
     std::ifstream status("/proc/self/status");
@@ -44,7 +44,7 @@ long peakBytes()
     return 0;
 }
 
-/// The entries of each identifier and a sum over them, to be compared with the peer's.
+/// Prints the entries of each identifier and a sum over them, to be compared with the peer's.
 void printLists(const VELIX::RecordData& data)
 {
     std::printf("\"lists\": {");
@@ -64,7 +64,7 @@ void printLists(const VELIX::RecordData& data)
     std::printf("}");
 }
 
-/// The roles of run_reading.py's file.
+/// Makes a profile of the roles in the file that run_reading.py writes.
 bool fillProfile(VELIX::Profile& profile)
 {
     VELIX::Test::ProfileBuilder b;

@@ -42,7 +42,7 @@ def main():
         peer_path = Path(folder) / "peer.csv"
 
         def write_ours():
-            # The second round: the peer's process is warm, too.
+            # The second round: the peer's process is warm too.
             return run_json(writer, path, 2)["seconds"][1]
 
         def write_peer():

@@ -32,7 +32,7 @@ def write_flight(entries):
 
 
 def write_card_file(path):
-    """One file of both lanes, with its identifiers in an order that does not repeat soon."""
+    """Writes one file of both lanes, with its identifiers in random order."""
     random = numpy.random.default_rng(1)
     entries = numpy.zeros(ENTRIES, dtype=ENTRY)
     entries["data"] = random.integers(0, 256, size=(ENTRIES, 8), dtype=numpy.uint8)

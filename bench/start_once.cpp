@@ -23,7 +23,7 @@ using namespace VELIX;
 
 namespace {
 
-/// Ends the event loop after the first picture of a window is on screen.
+/// Ends the event loop after the first frame of a window is on screen.
 class PaintWatcher : public QObject
 {
 public:
@@ -36,7 +36,7 @@ protected:
     {
         if (event->type() == QEvent::Paint && !mSeen) {
             mSeen = true;
-            QTimer::singleShot(0, watched, [this] { // the children are painted now, too
+            QTimer::singleShot(0, watched, [this] { // the children are painted now too
                 const auto now = std::chrono::steady_clock::now().time_since_epoch();
                 seconds = std::chrono::duration<double>(now).count();
                 QCoreApplication::quit();

@@ -33,7 +33,7 @@ bool fillProfile(Profile& profile)
     return b.load(profile);
 }
 
-/// Row r of parameter p: whole hundredths spread over 0 to 2000, the same in both programs.
+/// Returns the value of a parameter in a row: hundredths from 0 to 2000, the same in both programs.
 float value(int row, int parameter)
 {
     const int hundredths = static_cast<int>(

@@ -1,7 +1,7 @@
-// What the map takes from servers and disks: pictures of tiles, notes of their freshness, terrain
-// files and coast lines.
+// What the map reads from servers and disks: tile images, notes of their freshness, terrain files
+// and coast lines.
 //
-// The last byte of the input chooses which of them the rest is.
+// The last byte of the input says which of them the rest is.
 
 #include "fuzz/FuzzFolder.h"
 #include "platform/openstreetmap/CoastLines.h"
@@ -28,7 +28,7 @@ void useTile(const QByteArray& bytes)
 {
     const QImage image = decodeTile(bytes);
     require(image.isNull() || std::max(image.width(), image.height()) <= 1024,
-            "a picture larger than a tile was taken");
+            "an image larger than a tile was accepted");
 }
 
 void useMeta(const FuzzFolder& folder, const std::uint8_t* bytes, std::size_t size)
@@ -39,7 +39,7 @@ void useMeta(const FuzzFolder& folder, const std::uint8_t* bytes, std::size_t si
     const TileStore store(folder.path());
     const TileAddress tile{1, 0, 1};
     const auto read = store.read(tile);
-    require(read.has_value(), "a picture with a damaged note was lost");
+    require(read.has_value(), "an image with a damaged note was lost");
     require(store.refresh(tile, read->freshness), "a note could not be written");
     const auto again = store.read(tile);
     require(again.has_value() && again->freshness.expires == read->freshness.expires,
@@ -77,7 +77,7 @@ void useCoast(const QByteArray& bytes)
         projection.setCentre({48.0, 179.0});
         projection.setVisibleRange(range, range);
         for (const WindowPoint& point : coast.segments(projection)) {
-            require(std::isfinite(point.x) && std::isfinite(point.y), "a coast at no place");
+            require(std::isfinite(point.x) && std::isfinite(point.y), "a coast without a position");
         }
     }
 }

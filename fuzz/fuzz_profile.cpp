@@ -1,4 +1,4 @@
-// A damaged profile: its variants, every parameter of three of them, and messages decoded by it.
+// A damaged profile: its variants, every parameter of three of them, and messages that it decodes.
 
 #include "fuzz/FuzzFolder.h"
 #include "profile/Profile.h"
@@ -107,7 +107,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const bool isProfile = profile.loadProfile(path) != 0;
     require((profile.loadProfile(path, QString()) != 0) == isProfile,
             "the variant list and the profile disagree about the file");
-    require(isProfile || profile.isEmpty(), "something was read out of no profile");
+    require(isProfile || profile.isEmpty(), "something was read from a file that is no profile");
     useProfile(profile);
     const std::vector<ProfileVariant> variants = profile.variants();
     for (std::size_t i = 0; i < variants.size() && i < kMostVariants; ++i) {

@@ -1,8 +1,8 @@
 // A card of up to three damaged record files: listed, loaded, searched for flights and events,
 // looked up by time, exported.
 //
-// The last byte of the input chooses how many files it is spread over and how much memory a load
-// may take; all before it is the record file itself, so that any real file is an input, too.
+// The last byte of the input says how many files it is spread over and how much memory a load may
+// take; all before it is the record file itself, so that any real file is an input too.
 
 #include "card/CardContainer.h"
 #include "card/FaultWord.h"
@@ -28,7 +28,7 @@ constexpr const char* kNames[] = {"R0.CAN", "R1.can", "R2.xcb"};
 constexpr std::size_t kHeader = 128;
 constexpr std::size_t kMatrixId = 509;
 
-/// Identifiers and types that make_corpus.py writes.
+/// Makes a profile of the identifiers and types that make_corpus.py writes.
 void fillProfile(Profile& profile)
 {
     Test::ProfileBuilder b;
@@ -56,7 +56,7 @@ void fillProfile(Profile& profile)
     require(b.load(profile), "the profile of the target does not load");
 }
 
-/// The answer that a binary search over entries out of order must give, too.
+/// Returns what a binary search must also find, even over entries that are out of order.
 std::size_t scan(const EntryList& entries, double time)
 {
     std::size_t i = 0;
@@ -92,7 +92,7 @@ void checkLists(const RecordData& data)
     require(filed <= data.entryCount, "more entries filed than read");
 }
 
-/// The table must be readable: in the aligned form every row has every column.
+/// Checks that the table is readable: in the aligned form every row has every column.
 void checkTable(const QByteArray& table, char delimiter)
 {
     int columns = 0;

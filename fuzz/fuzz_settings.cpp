@@ -17,7 +17,7 @@ using namespace VELIX::Fuzz;
 constexpr const char* kFile = "VELIX.ini";
 constexpr const char* kBroken = "VELIX.ini.broken";
 
-/// The keys of a settings file; none if it cannot be read.
+/// Returns the keys of a settings file; none if it cannot be read.
 std::vector<std::string> keysOf(const QString& path, bool& readable)
 {
     std::vector<std::string> keys;

@@ -21,8 +21,8 @@ constexpr double kEdges[] = {0.0,
                              std::numeric_limits<double>::infinity(),
                              std::numeric_limits<double>::quiet_NaN()};
 
-/// Fonts need an application, if no display. It is never destroyed, since what the platform leaves
-/// behind then would count as a leak.
+/// Makes an application, which fonts need although they need no display. It is never destroyed,
+/// since what the platform then leaves behind would count as a leak.
 void provideApplication()
 {
     static int count = 1;
@@ -40,21 +40,21 @@ void paint(const ViewModel& model, ViewVariables& variables)
         for (const int slot : model.slotsUsed) {
             variables.set(slot, edge);
         }
-        // At most some hundred pixels wide, or large views would take all the time.
+        // At most some hundred pixels wide, or large views would take too long.
         const double longest = std::max(model.size.width(), model.size.height());
         for (const double pixels : {40.0, 200.0}) {
             const double scale = ViewCanvas::usableScale(model, pixels / longest);
-            const QImage& picture = canvas.picture(model, variables, scale, true);
-            require(!picture.isNull() && picture.width() <= 201 && picture.height() <= 201,
-                    "the picture has not the size that was asked for");
-            require(!canvas.isOutdated(variables), "a picture is outdated at once");
+            const QImage& frame = canvas.picture(model, variables, scale, true);
+            require(!frame.isNull() && frame.width() <= 201 && frame.height() <= 201,
+                    "the frame does not have the requested size");
+            require(!canvas.isOutdated(variables), "a frame is outdated at once");
         }
     }
 }
 
 } // namespace
 
-/// What the system's fonts keep for ever is no leak of the code under test.
+/// Memory that the system's fonts keep is no leak of the code under test.
 extern "C" const char* __lsan_default_suppressions() // NOLINT: the sanitizer prescribes the name
 {
     return "leak:libfontconfig";

@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """Writes the seeds of the fuzz targets: make_corpus.py FOLDER
 
-The same files every time, in a folder per target. Inputs that once broke something belong here,
-too, under a name that says what they are.
+The files are the same every time, in one folder per target. Inputs that once broke something
+belong here too, under a name that says what they are.
 """
 
 import math
@@ -183,10 +183,10 @@ def profiles():
         for variant in ("Tow", "!Tow", "Tow,School", "!Tow, !School", ",", "!", " Tow ,!Tow")))
     yield "identifiers-twice-or-zero", profile(element(
         "Device", "".join(parameter(i) for i in (0, 0, 7, 7, -1, "0x10", "010", "abc", "")), name="A"))
-    places = (-1, 0, 24, 25, 27, 28, 2147483647, -2147483648, 99999999999)
+    offsets = (-1, 0, 24, 25, 27, 28, 2147483647, -2147483648, 99999999999)
     yield "places-outside-of-the-entry", profile(element("Device", "".join(
-        parameter(i, type_, startByte=place)
-        for i, (type_, place) in enumerate((t, p) for t in TYPES[:12] for p in places)), name="A"))
+        parameter(i, type_, startByte=offset)
+        for i, (type_, offset) in enumerate((t, o) for t in TYPES[:12] for o in offsets)), name="A"))
     bits = ((0, 31), (31, 0), (-1, 3), (3, 32), (15, 16), (2147483647, 2147483647), (-2147483648, 0))
     yield "bits-outside-of-the-word", profile(*LISTS, element("Device", "".join(
         parameter(i, type_, startBit=a, endBit=b, enumId="WarningLamp")
@@ -246,7 +246,7 @@ TILE, META, TERRAIN, COAST = (bytes((choice,)) for choice in range(4))  # see fu
 
 
 def png(width=4, height=4, depth=8, interlace=0):
-    """A grey picture; its head may say more than there is."""
+    """A grey image; its header may announce more than there is."""
     def chunk(kind, content):
         return (struct.pack(">I", len(content)) + kind + content
                 + struct.pack(">I", zlib.crc32(kind + content)))

@@ -1,5 +1,5 @@
 // Runs a fuzz target over files, without a fuzzer: replay PATH...
-// A folder stands for the files in it. The sanitizers report what goes wrong.
+// A folder means all files in it. The sanitizers report what goes wrong.
 
 #include <QDir>
 #include <QFile>
@@ -38,7 +38,7 @@ int main(int argc, char** argv)
                 std::fprintf(stderr, "replay: cannot read %s\n", qUtf8Printable(path));
                 return 1;
             }
-            // Named before it runs, so that a crash can be told apart.
+            // Named before it runs, so that a crash says which input caused it.
             std::printf("%s\n", qUtf8Printable(path));
             std::fflush(stdout);
             const QByteArray bytes = file.readAll();

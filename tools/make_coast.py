@@ -3,17 +3,17 @@
 
 Usage: make_coast.py land-50m.json resources/map/coast.bin
 
-The input is that file of the npm package "world-atlas" (version 2.0.2), which holds Natural
-Earth's land areas at 1:50 million, public domain. How to get it, and what was done with it, is
-written in resources/map/README.md. platform/openstreetmap/CoastLines.h describes the output.
+The input is that file of the npm package "world-atlas" (version 2.0.2), which has Natural Earth's
+land areas at 1:50 million, public domain. resources/map/README.md says how to get it and what was
+done with it. platform/openstreetmap/CoastLines.h describes the output.
 """
 
 import json
 import struct
 import sys
 
-# Longer than any stretch of coast between two points; what is longer closes an area along the
-# edge of the map.
+# Degrees: no stretch of coast between two points is that long. A longer one closes an area along
+# the edge of the map.
 LONGEST_STEP = 20.0
 
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Draws the picture of the splash screen: tools/make_splash.py > core/splash.xpm
+"""Draws the image of the splash screen: tools/make_splash.py > core/startup/splash.xpm
 
 The left half stays light, since the start-up lines are written on it in dark blue. The result is
 the same on every machine; it is kept in the repository so that building needs no Python.
@@ -7,7 +7,7 @@ the same on every machine; it is kept in the repository so that building needs n
 import math
 import sys
 
-WIDTH, HEIGHT, COLOURS = 536, 403, 67
+WIDTH, HEIGHT, COLORS = 536, 403, 67
 
 INK = (28, 39, 51)
 LINE = (203, 212, 222)
@@ -27,10 +27,10 @@ class Canvas:
         self.rows = []
         for y in range(HEIGHT):
             share = y / (HEIGHT - 1)
-            colour = tuple(255 - share * d for d in (20, 15, 10))
-            self.rows.append([colour] * WIDTH)
+            color = tuple(255 - share * d for d in (20, 15, 10))
+            self.rows.append([color] * WIDTH)
 
-    def shape(self, box, distance, colour, opacity=1.0):
+    def shape(self, box, distance, color, opacity=1.0):
         """Fills where distance(x, y), in pixels, is negative."""
         left, top, right, bottom = box
         for y in range(max(0, int(top) - 1), min(HEIGHT, int(bottom) + 2)):
@@ -38,9 +38,9 @@ class Canvas:
             for x in range(max(0, int(left) - 1), min(WIDTH, int(right) + 2)):
                 cover = min(1.0, max(0.0, 0.5 - distance(x + 0.5, y + 0.5))) * opacity
                 if cover > 0.0:
-                    row[x] = tuple(a + (b - a) * cover for a, b in zip(row[x], colour))
+                    row[x] = tuple(a + (b - a) * cover for a, b in zip(row[x], color))
 
-    def line(self, x0, y0, x1, y1, width, colour, opacity=1.0):
+    def line(self, x0, y0, x1, y1, width, color, opacity=1.0):
         dx, dy = x1 - x0, y1 - y0
         length = dx * dx + dy * dy or 1.0
 
@@ -49,9 +49,9 @@ class Canvas:
             return math.hypot(x - x0 - t * dx, y - y0 - t * dy) - width / 2
 
         box = (min(x0, x1) - width, min(y0, y1) - width, max(x0, x1) + width, max(y0, y1) + width)
-        self.shape(box, distance, colour, opacity)
+        self.shape(box, distance, color, opacity)
 
-    def polyline(self, points, width, colour):
+    def polyline(self, points, width, color):
         """One shape, so that joints are not painted twice."""
 
         def distance(x, y):
@@ -66,13 +66,13 @@ class Canvas:
 
         xs, ys = [p[0] for p in points], [p[1] for p in points]
         box = (min(xs) - width, min(ys) - width, max(xs) + width, max(ys) + width)
-        self.shape(box, distance, colour)
+        self.shape(box, distance, color)
 
-    def disc(self, cx, cy, radius, colour):
+    def disc(self, cx, cy, radius, color):
         box = (cx - radius, cy - radius, cx + radius, cy + radius)
-        self.shape(box, lambda x, y: math.hypot(x - cx, y - cy) - radius, colour)
+        self.shape(box, lambda x, y: math.hypot(x - cx, y - cy) - radius, color)
 
-    def arc(self, cx, cy, radius, width, start, stop, colour):
+    def arc(self, cx, cy, radius, width, start, stop, color):
         """Angles in degrees, clockwise from the top."""
         middle, half = math.radians((start + stop) / 2), math.radians((stop - start) / 2)
 
@@ -83,7 +83,7 @@ class Canvas:
             return max(abs(r - radius) - width / 2, (abs(angle) - half) * r)
 
         reach = radius + width
-        self.shape((cx - reach, cy - reach, cx + reach, cy + reach), distance, colour)
+        self.shape((cx - reach, cy - reach, cx + reach, cy + reach), distance, color)
 
 
 def polar(cx, cy, radius, degrees):
@@ -95,8 +95,8 @@ def draw_gauge(canvas, cx, cy, radius, value):
     """An engine instrument from -130 to 130 degrees with a green, an amber and a red band."""
     canvas.disc(cx + 2, cy + 4, radius + 3, LINE)
     canvas.disc(cx, cy, radius, PANEL)
-    for start, stop, colour in ((-130, 60, GREEN), (63, 94, AMBER), (97, 130, RED)):
-        canvas.arc(cx, cy, radius * 0.86, radius * 0.055, start, stop, colour)
+    for start, stop, color in ((-130, 60, GREEN), (63, 94, AMBER), (97, 130, RED)):
+        canvas.arc(cx, cy, radius * 0.86, radius * 0.055, start, stop, color)
     for step in range(27):
         angle = -130 + step * 10
         long = step % 5 == 0
@@ -131,14 +131,14 @@ def draw_traces(canvas, left, top, right, bottom):
         (BLUE, lambda t: 0.06 + 0.84 * step(t, .3, .06) - 0.84 * step(t, .7, .055)),
     )
     span, height = right - left - 16, bottom - top - 12
-    for colour, curve in curves:
+    for color, curve in curves:
         points = [(left + 8 + span * i / 120, bottom - 6 - height * curve(i / 120))
                   for i in range(121)]
-        canvas.polyline(points, 2.2, colour)
+        canvas.polyline(points, 2.2, color)
     cursor = left + 8 + span * 0.42
     canvas.line(cursor, top + 4, cursor, bottom - 4, 1.4, (230, 235, 241))
-    for colour, curve in curves:
-        canvas.disc(cursor, bottom - 6 - height * curve(0.42), 4, colour)
+    for color, curve in curves:
+        canvas.disc(cursor, bottom - 6 - height * curve(0.42), 4, color)
 
 
 def draw_name(canvas, left, top, height):
@@ -159,7 +159,7 @@ def draw_name(canvas, left, top, height):
 
 
 def reduced(rows):
-    """The picture in exactly COLOURS colours (median cut), as rows of indices and a palette."""
+    """The image in exactly COLORS colours (median cut), as rows of indices and a palette."""
     counts = {}
     for row in rows:
         for pixel in row:
@@ -172,7 +172,7 @@ def reduced(rows):
         return widths[widest] * math.sqrt(sum(counts[c] for c in box)), widest
 
     boxes = [sorted(counts)]
-    while len(boxes) < COLOURS:
+    while len(boxes) < COLORS:
         box = max(boxes, key=lambda b: spread(b)[0] if len(b) > 1 else -1)
         boxes.remove(box)
         channel = spread(box)[1]
@@ -192,7 +192,7 @@ def reduced(rows):
                       key=lambda i: sum((a - b) ** 2 for a, b in zip(c, palette[i])))
                for c in counts}
     indices = [[nearest[tuple(int(c + 0.5) for c in pixel)] for pixel in row] for row in rows]
-    assert len({i for row in indices for i in row}) == COLOURS, "colours fell together"
+    assert len({i for row in indices for i in row}) == COLORS, "colours fell together"
     return indices, palette
 
 
@@ -207,13 +207,13 @@ def main():
     draw_traces(canvas, 0, 311, WIDTH, HEIGHT)
 
     indices, palette = reduced(canvas.rows)
-    symbols = [chr(c) for c in range(32, 127) if chr(c) not in '"\\?'][:COLOURS]
+    symbols = [chr(c) for c in range(32, 127) if chr(c) not in '"\\?'][:COLORS]
     out = sys.stdout.write
     out('/* XPM */\n/* clang-format off */\n/* Made by tools/make_splash.py. */\n')
     out('static const char* const splash_xpm[] = {\n')
-    out(f'"{WIDTH} {HEIGHT} {COLOURS} 1",\n')
-    for symbol, colour in zip(symbols, palette):
-        out('"%s c #%02x%02x%02x",\n' % ((symbol,) + colour))
+    out(f'"{WIDTH} {HEIGHT} {COLORS} 1",\n')
+    for symbol, color in zip(symbols, palette):
+        out('"%s c #%02x%02x%02x",\n' % ((symbol,) + color))
     out(',\n'.join('"' + ''.join(symbols[i] for i in row) + '"' for row in indices))
     out('\n};\n')
 
