@@ -1,6 +1,6 @@
 #include "core/startup/DialogSplash.h"
 
-#include "core/splash.xpm"
+#include "core/startup/splash.xpm"
 
 #include <QCoreApplication>
 #include <QPainter>
