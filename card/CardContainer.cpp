@@ -11,22 +11,39 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLocale>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace VELIX {
 
 namespace {
-
-constexpr std::uint64_t kBytesPerEntry = 72; // of memory, an entry with its place in two lists
 
 bool isRecordFile(const QString& name)
 {
     const QString extension = QFileInfo(name).suffix();
     return extension == QLatin1String("CAN") || extension == QLatin1String("can") ||
            extension == QLatin1String("xcb");
+}
+
+/// The record files of a folder with what their headers say; incomplete if it was cancelled.
+std::map<QString, RecordFile> listFiles(const QString& path, Progress& progress)
+{
+    const QStringList names = QDir(path).entryList(QDir::Files, QDir::Unsorted);
+    Diagnostics::print("CardContainer::readContainer: Path <%s> NrFiles %d\n",
+                       path.toUtf8().constData(), static_cast<int>(names.size()));
+    std::map<QString, RecordFile> files;
+    for (const QString& name : names) {
+        if (isRecordFile(name)) {
+            files[name].readRecordInfo(QStringLiteral("%1/%2").arg(path, name));
+        }
+        if (!progress.restart()) { // whole files only: 0 until the listing is complete
+            return files;
+        }
+    }
+    (void)progress.reach(100.0); // the caller sees whether that was cancelled
+    return files;
 }
 
 } // namespace
@@ -44,38 +61,34 @@ CardContainer::CardContainer(Profile& profile)
 void CardContainer::clear()
 {
     mRecordFiles.clear();
+    mCycles.clear();
 }
 
 bool CardContainer::readContainer(const QString& path)
 {
+    Progress nobody;
+    return readContainer(path, nobody).ok;
+}
+
+Outcome CardContainer::readContainer(const QString& path, Progress& progress)
+{
     if (path.isEmpty() || !QDir(path).exists()) {
-        return false;
+        return Outcome::failure(
+            tr("The folder %1 cannot be opened. Is the card in its reader?").arg(path));
     }
-    mName = path;
+    std::map<QString, RecordFile> files = listFiles(path, progress);
+    if (progress.cancelled()) {
+        return Outcome::cancellation();
+    }
     clear();
-    listFiles(path);
+    mName = path;
+    mRecordFiles = std::move(files);
     for (auto& [name, file] : mRecordFiles) {
         file.setDateInvalid(!file.recordInfo().dateTime.isValid());
     }
     repairDates();
     calcCycles();
-    return true;
-}
-
-void CardContainer::listFiles(const QString& path)
-{
-    const QStringList names = QDir(path).entryList(QDir::Files, QDir::Unsorted);
-    const int count = static_cast<int>(names.size());
-    Diagnostics::print("CardContainer::readContainer: Path <%s> NrFiles %d\n",
-                       path.toUtf8().constData(), count);
-    for (int i = 0; i < count; ++i) {
-        const QString& name = names[i];
-        if (isRecordFile(name) && mRecordFiles.count(name) == 0) {
-            mRecordFiles[name].readRecordInfo(QStringLiteral("%1/%2").arg(path, name));
-        }
-        Progress::report(i / count * 100); // whole files only: 0 until the listing is complete
-    }
-    Progress::report(100);
+    return Outcome::success();
 }
 
 // Forward only: of a run of invalid dates just the last one finds a valid neighbour.
@@ -109,104 +122,53 @@ void CardContainer::calcCycles()
     }
 }
 
-bool CardContainer::fitsMemory(const std::list<QString>& names, std::uint64_t limit)
+const RecordFile* CardContainer::listedFile(const QString& name) const
 {
-    std::uint64_t entries = 0;
-    for (const QString& path : names) {
-        const auto found = mRecordFiles.find(name(path));
-        entries += found == mRecordFiles.end() ? 0 : found->second.recordInfo().sampleCount;
-    }
-    if (limit == 0 || entries * kBytesPerEntry <= limit) {
-        return true;
-    }
-    mLastError = tr("The selection holds %1 samples, more than half of "
-                    "the free memory can take. Select fewer files.")
-                     .arg(QLocale().toString(static_cast<qulonglong>(entries)));
-    Diagnostics::print("CardContainer::loadFiles: %llu entries exceed the memory limit\n",
-                       static_cast<unsigned long long>(entries));
-    return false;
+    const auto found = mRecordFiles.find(name);
+    const bool listed =
+        found != mRecordFiles.end() && !found->second.recordInfo().fileName.isEmpty();
+    return listed ? &found->second : nullptr;
 }
 
-// A card that was pulled out must not cost the record that is shown. Names that the card never
-// listed are no sign of that: they load nothing, as ever.
-bool CardContainer::canOpenAny(const std::list<QString>& names)
+std::uint64_t CardContainer::memoryLimit() const
 {
-    bool anyListed = false;
-    for (const QString& path : names) {
-        const auto found = mRecordFiles.find(name(path));
-        if (found != mRecordFiles.end() && !found->second.recordInfo().fileName.isEmpty()) {
-            anyListed = true;
-            if (QFileInfo(found->second.recordInfo().fileName).isReadable()) {
-                return true;
-            }
-            RecordData none;
-            found->second.readRecordData(none); // says what is wrong with the file
-        }
-    }
-    return !anyListed;
+    return mMemoryLimit != 0 ? mMemoryLimit : freeMemory() / 2;
 }
 
 int CardContainer::loadFiles(const std::list<QString>& names)
 {
-    return load(names) == ELoad::Some ? 1 : 0;
+    Progress nobody;
+    return loadFiles(names, nobody).ok ? 1 : 0;
 }
 
-CardContainer::ELoad CardContainer::load(const std::list<QString>& names)
+Outcome CardContainer::loadFiles(const std::list<QString>& names, Progress& progress)
 {
-    mLastError.clear();
-    const std::uint64_t limit = mMemoryLimit != 0 ? mMemoryLimit : freeMemory() / 2;
-    if (!fitsMemory(names, limit)) {
-        return ELoad::Refused; // what is loaded stays
+    std::vector<RecordLoader::Source> sources;
+    for (const QString& path : names) {
+        sources.push_back({path, listedFile(name(path))});
     }
-    if (!canOpenAny(names)) {
-        mLastError = tr("None of the selected files can be opened. Is the card in its reader?");
-        return ELoad::Refused;
-    }
-    mWorking.reset(); // free the old data before the new takes its room
-    mLoaded = std::make_shared<RecordData>();
-    mWorking = mLoaded;
-    mStartDateTime = QDateTime();
-    mStartTime = mStopTime = 0.0;
-
-    bool first = true;
-    ELoad result = ELoad::Nothing;
-    for (const QString& file : names) {
-        if (loadFile(file, first, limit)) {
-            result = ELoad::Some;
+    LoadedRecord record;
+    Outcome outcome = RecordLoader(memoryLimit(), progress).load(sources, record);
+    if (record.data != nullptr) {
+        for (const RecordLoader::Source& source : sources) {
+            mRecordFiles.try_emplace(name(source.name)); // unknown names are listed from then on
         }
-        first = false;
+        take(std::move(record));
     }
-    if (mLoaded->entryCount > 0) { // a file that ended early has still given what it had
-        result = ELoad::Some;
-    }
-    mLoaded->startDateTime = mStartDateTime;
+    return outcome;
+}
+
+void CardContainer::take(LoadedRecord record)
+{
+    mLoaded = std::move(record.data);
+    mWorking = mLoaded;
+    mStartDateTime = record.startDateTime;
+    mStartTime = record.startTime;
+    mStopTime = record.stopTime;
+    mIsLoaded = record.isLoaded;
     mProfile.resetCoordinates();
     calcIndex();
     calcFlightPath();
-    mIsLoaded = result == ELoad::Some;
-    return result;
-}
-
-bool CardContainer::loadFile(const QString& path, bool first, std::uint64_t memoryLimit)
-{
-    RecordFile& file = mRecordFiles[name(path)];
-    const RecordInfo listed = file.recordInfo();
-    const bool known = !listed.fileName.isEmpty();
-    const bool complete = known && file.readRecordData(*mLoaded, memoryLimit);
-    file.setRecordInfo(listed); // the listing keeps the times of the file as a whole
-    Diagnostics::print("load Files <%s>\n", path.toUtf8().constData());
-    if (first) {
-        mStartTime = listed.startTime;
-        mStartDateTime = listed.dateTime;
-        Diagnostics::print("date valid %d\n", listed.dateTime.isValid() ? 1 : 0);
-    }
-    mStopTime = listed.stopTime;
-    if (!complete) {
-        const QString text = known ? tr("The file %1 could not be read completely.")
-                                   : tr("The card has no file %1.");
-        mLastError = text.arg(name(path));
-    }
-    return complete;
 }
 
 void CardContainer::calcIndex()
@@ -217,18 +179,30 @@ void CardContainer::calcIndex()
 
 int CardContainer::loadCycle(std::uint32_t cycle, int flight)
 {
-    const auto found = mCycles.find(cycle);
-    if (found == mCycles.end()) {
+    if (mCycles.count(cycle) == 0) {
         return 0;
     }
-    mProfile.resetCoordinates();
-    std::list<QString> names;
+    Progress nobody;
+    (void)loadCycle(cycle, flight, nobody); // a load that fails is none of a missing cycle
+    return 1;
+}
+
+Outcome CardContainer::loadCycle(std::uint32_t cycle, int flight, Progress& progress)
+{
+    const auto found = mCycles.find(cycle);
+    if (found == mCycles.end()) {
+        return Outcome::failure(tr("The card has no cycle %1.").arg(cycle));
+    }
+    std::vector<RecordLoader::Source> sources;
     for (const RecordFile& file : found->second.files) {
-        names.push_back(file.recordInfo().fileName);
+        sources.push_back({file.recordInfo().fileName, &file});
     }
-    if (load(names) == ELoad::Refused) {
-        return 1;
+    LoadedRecord record;
+    Outcome outcome = RecordLoader(memoryLimit(), progress).load(sources, record);
+    if (record.data == nullptr) {
+        return outcome; // without it, the flight would be cut out of another record
     }
+    take(std::move(record));
     calcFlights(found->second);
     const std::vector<RecordFlight>& flights = found->second.flights;
     if (flight >= 0 && static_cast<std::size_t>(flight) < flights.size()) {
@@ -239,7 +213,7 @@ int CardContainer::loadCycle(std::uint32_t cycle, int flight)
     } else {
         mWorking->cycleFlights = flights;
     }
-    return 1;
+    return outcome;
 }
 
 void CardContainer::calcFlights(RecordCycle& cycle)

@@ -4,6 +4,7 @@
 #include "card/RecordCycle.h"
 #include "card/RecordData.h"
 #include "card/RecordFile.h"
+#include "card/RecordLoader.h"
 
 #include <QColor>
 #include <QCoreApplication>
@@ -19,6 +20,7 @@
 namespace VELIX {
 
 class Profile;
+class Progress;
 struct ProfileParameter;
 
 /// One data card: its record files, power cycles and flights, and the data loaded from it.
@@ -38,22 +40,28 @@ public:
     static CardContainer& instance();
     explicit CardContainer(Profile& profile);
 
-    /// Lists a card folder by the headers of its record files; false if there is no such folder
-    /// (nothing changes then). The loaded data stays.
+    /// Lists a card folder by the headers of its record files. Fails if there is no such folder;
+    /// nothing changes then, nor by a listing that is cancelled. The loaded data stays.
+    Outcome readContainer(const QString& path, Progress& progress);
     bool readContainer(const QString& path);
+    /// Forgets the listing: its files and its cycles. The loaded data stays.
     void clear();
     const QString& name() const { return mName; }
     const std::map<QString, RecordFile>& recordFiles() const { return mRecordFiles; }
     const std::map<std::uint32_t, RecordCycle>& recordCycles() const { return mCycles; }
 
-    /// Loads files of the listing, by base name, in the order of the list.
-    /// 1 if at least one could be read, else 0.
+    /// Loads files of the listing, by base name, in the order of the list. Succeeds if at least one
+    /// could be read, with a reason if another one could not. The progress counts from 0 to 100 for
+    /// each file. A load that is cancelled, or refused before anything is read, leaves what is
+    /// loaded as it is.
+    Outcome loadFiles(const std::list<QString>& names, Progress& progress);
+    /// 1 for a success, else 0.
     int loadFiles(const std::list<QString>& names);
-    /// Loads a cycle and narrows it to one flight if the index is that of a flight of it.
-    /// 0 if there is no such cycle.
+    /// Loads the files of a cycle, in the same way, and narrows the record to one flight if the
+    /// index is that of a flight of it.
+    Outcome loadCycle(std::uint32_t cycle, int flight, Progress& progress);
+    /// 0 if there is no such cycle, else 1.
     int loadCycle(std::uint32_t cycle, int flight);
-    /// A sentence for the user about the last load that went wrong; empty if it went well.
-    const QString& lastError() const { return mLastError; }
     /// Bytes that a load may need at most; 0 (the default) is half of the free memory.
     void setMemoryLimit(std::uint64_t bytes) { mMemoryLimit = bytes; }
 
@@ -93,13 +101,10 @@ public:
                              std::vector<Sample>& output);
 
 private:
-    void listFiles(const QString& path);
     void repairDates();
-    bool fitsMemory(const std::list<QString>& names, std::uint64_t limit);
-    bool canOpenAny(const std::list<QString>& names);
-    enum class ELoad { Refused, Nothing, Some };
-    ELoad load(const std::list<QString>& names);
-    bool loadFile(const QString& path, bool first, std::uint64_t memoryLimit);
+    const RecordFile* listedFile(const QString& name) const;
+    std::uint64_t memoryLimit() const;
+    void take(LoadedRecord record);
     void calcIndex();
 
     Profile& mProfile;
@@ -113,7 +118,6 @@ private:
     QDateTime mStartDateTime;
     double mStartTime = 0.0;
     double mStopTime = 0.0;
-    QString mLastError;
     std::uint64_t mMemoryLimit = 0;
 };
 

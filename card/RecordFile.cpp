@@ -7,6 +7,7 @@
 #include "core/Truncate.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -81,31 +82,27 @@ RecordEntry decodeEntry(const RecordFieldReader& in, const std::byte* at)
     return entry;
 }
 
-/// Reports whole percents of a file, each once.
-class PercentReport
+/// Reports the progress through the entries of one file.
+class EntryProgress
 {
 public:
-    explicit PercentReport(std::int64_t count) : mCount(count) { Progress::report(0); }
+    EntryProgress(std::int64_t count, Progress& progress) : mCount(count), mProgress(progress) {}
 
-    void at(std::int64_t index)
-    {
-        if (index < mNext) {
-            return;
-        }
-        const int percent =
-            static_cast<int>(static_cast<float>(index) / static_cast<float>(mCount) * 100.0F);
-        if (percent != mLast) {
-            mLast = percent;
-            Progress::report(percent);
-        }
-        // The next percent cannot come before this; asking only then keeps the division rare.
-        mNext = std::max(index + 1, (static_cast<std::int64_t>(mLast) + 1) * mCount / 100);
-    }
+    /// False once the operation is cancelled.
+    [[nodiscard]] bool at(std::int64_t index) { return index < mNext || report(index); }
 
 private:
+    bool report(std::int64_t index)
+    {
+        const float percent = static_cast<float>(index) / static_cast<float>(mCount) * 100.0F;
+        // The next percent cannot come before this; asking only then keeps the division rare.
+        mNext = std::max(index + 1, (static_cast<std::int64_t>(percent) + 1) * mCount / 100);
+        return mProgress.reach(static_cast<double>(percent));
+    }
+
     std::int64_t mCount;
     std::int64_t mNext = 0;
-    int mLast = 0;
+    Progress& mProgress;
 };
 
 } // namespace
@@ -126,18 +123,38 @@ bool RecordFile::readRecordInfo(const QString& path)
     return true;
 }
 
-bool RecordFile::readRecordData(RecordData& data, std::uint64_t memoryLimit)
+void RecordFile::reportUnreadable() const
+{
+    Diagnostics::print("RecordFile::readRecordData: Could not open %s\n",
+                       mInfo.fileName.toUtf8().constData());
+}
+
+bool RecordFile::checkReadable() const
+{
+    const bool readable = QFileInfo(mInfo.fileName).isReadable();
+    if (!readable) {
+        reportUnreadable();
+    }
+    return readable;
+}
+
+bool RecordFile::readRecordData(RecordData& data)
+{
+    Progress nobody;
+    return readRecordData(data, 0, nobody);
+}
+
+bool RecordFile::readRecordData(RecordData& data, std::uint64_t memoryLimit, Progress& progress)
 {
     RecordFieldReader in(QFile::encodeName(mInfo.fileName).constData());
     if (!in.isOpen()) {
-        Diagnostics::print("RecordFile::readRecordData: Could not open %s\n",
-                           mInfo.fileName.toUtf8().constData());
+        reportUnreadable();
         return false;
     }
     mCount = wholeEntries(in.size());
     mInfo.sampleCount = shownCount(mCount);
     readInfo(in, false);
-    return readData(in, data, memoryLimit);
+    return progress.restart() && readData(in, data, memoryLimit, progress);
 }
 
 void RecordFile::readInfo(RecordFieldReader& in, bool setTimes)
@@ -179,10 +196,11 @@ void RecordFile::readInfo(RecordFieldReader& in, bool setTimes)
 
 // Decoded block by block while the bytes are in the processor's cache: a buffer for the whole file
 // would double the memory that a load touches first.
-bool RecordFile::readData(RecordFieldReader& in, RecordData& data, std::uint64_t memoryLimit)
+bool RecordFile::readData(RecordFieldReader& in, RecordData& data, std::uint64_t memoryLimit,
+                          Progress& progress)
 try {
     std::vector<std::byte> buffer(static_cast<std::size_t>(std::min(mCount, kBlock) * kEntrySize));
-    PercentReport progress(mCount);
+    EntryProgress entryProgress(mCount, progress);
     std::int64_t index = 0;
     while (index < mCount) {
         const auto wanted = static_cast<std::size_t>(std::min(mCount - index, kBlock) * kEntrySize);
@@ -196,7 +214,9 @@ try {
             mInfo.startTime = std::min(mInfo.startTime, entry.time);
             mInfo.stopTime = std::max(mInfo.stopTime, entry.time);
             data.append(entry);
-            progress.at(index);
+            if (!entryProgress.at(index)) {
+                return false;
+            }
         }
         if (got * kEntrySize < wanted) {
             Diagnostics::print("RecordFile::readRecordData: %s ends after %lld of %lld entries\n",
@@ -210,8 +230,7 @@ try {
             return false;
         }
     }
-    Progress::report(100);
-    return true;
+    return progress.reach(100.0);
 } catch (const std::bad_alloc&) {
     Diagnostics::print("RecordFile::readRecordData: No memory for %s\n",
                        mInfo.fileName.toUtf8().constData());

@@ -4,20 +4,27 @@
 
 namespace VELIX {
 
-namespace {
-Progress::Hook gHook;
-} // namespace
+Progress::Progress(Listener listener) : mListener(std::move(listener)) {}
 
-void Progress::setHook(Hook hook)
+bool Progress::restart()
 {
-    gHook = std::move(hook);
+    mPercent = -1;
+    return reach(0.0);
 }
 
-void Progress::report(int percent)
+bool Progress::reach(double from, double to, std::size_t done, std::size_t all)
 {
-    if (gHook) {
-        gHook(percent);
+    const double share = all > 0 ? static_cast<double>(done) / static_cast<double>(all) : 1.0;
+    return reach(from + (to - from) * share);
+}
+
+bool Progress::pass(int percent)
+{
+    if (!mCancelled) {
+        mPercent = percent;
+        mCancelled = mListener && !mListener(percent);
     }
+    return !mCancelled;
 }
 
 } // namespace VELIX

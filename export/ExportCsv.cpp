@@ -2,7 +2,7 @@
 
 #include "card/DecodingOrder.h"
 #include "card/RecordData.h"
-#include "export/ExportMeter.h"
+#include "core/Progress.h"
 #include "export/OutputFile.h"
 #include "profile/Profile.h"
 
@@ -106,8 +106,8 @@ class TableWriter
 {
 public:
     TableWriter(const std::vector<Column>& columns, const CsvExportOptions& options,
-                ExportMeter& meter)
-        : mColumns(columns), mOptions(options), mMeter(meter), mNext(columns.size(), 0)
+                Progress& progress)
+        : mColumns(columns), mOptions(options), mProgress(progress), mNext(columns.size(), 0)
     {
         for (const Column& column : columns) {
             mCells += column.cells.size();
@@ -138,7 +138,7 @@ private:
         const auto size = static_cast<qint64>(mBuffer.size());
         const bool written = out.write(mBuffer.data(), size) == size;
         mBuffer.clear();
-        return written && mMeter.reach(kColumnsRead, 100.0, mWritten, mCells);
+        return written && mProgress.reach(kColumnsRead, 100.0, mWritten, mCells);
     }
 
     /// A field as it is or, in the aligned form, quoted where a reader of the table needs it.
@@ -215,7 +215,7 @@ private:
 
     const std::vector<Column>& mColumns;
     const CsvExportOptions& mOptions;
-    ExportMeter& mMeter;
+    Progress& mProgress;
     std::size_t mCells = 0;
     std::size_t mWritten = 0;       ///< of the cells
     std::vector<std::size_t> mNext; ///< per column: its first cell that is not written yet
@@ -225,11 +225,6 @@ private:
 } // namespace
 
 ExportCsv::ExportCsv(Profile& profile) : mProfile(profile) {}
-
-void ExportCsv::setProgress(ExportProgress progress)
-{
-    mProgress = std::move(progress);
-}
 
 std::vector<const ProfileParameter*> ExportCsv::columns(const CsvExportOptions& options) const
 {
@@ -245,32 +240,36 @@ std::vector<const ProfileParameter*> ExportCsv::columns(const CsvExportOptions& 
 }
 
 bool ExportCsv::writeTable(const RecordData& record, const CsvExportOptions& options,
-                           QIODevice& out)
+                           QIODevice& out, Progress& progress)
 {
     CsvExportOptions valid = options;
     valid.resolution = validResolution(options.resolution);
-    ExportMeter meter(mProgress);
     const std::vector<const ProfileParameter*> parameters = columns(options);
     std::vector<Column> filled;
     filled.reserve(parameters.size());
     bool written = true;
     for (const ProfileParameter* p : parameters) {
-        written = written && meter.reach(0.0, kColumnsRead, filled.size(), parameters.size());
+        written = written && progress.reach(0.0, kColumnsRead, filled.size(), parameters.size());
         if (written) {
             filled.push_back(fillColumn(record, *p, valid.resolution, mProfile));
         }
     }
-    written = written && TableWriter(filled, valid, meter).write(out);
-    mCancelled = meter.cancelled();
+    written = written && TableWriter(filled, valid, progress).write(out);
     return written;
 }
 
 int ExportCsv::exportData(const RecordData& record, const CsvExportOptions& options)
 {
-    mCancelled = false;
+    Progress nobody;
+    return exportData(record, options, nobody).ok ? 1 : 0;
+}
+
+Outcome ExportCsv::exportData(const RecordData& record, const CsvExportOptions& options,
+                              Progress& progress)
+{
     return writeExport(
         options.directory, options.fileName,
-        [&](QIODevice& out) { return writeTable(record, options, out); }, mCancelled, mLastError);
+        [&](QIODevice& out) { return writeTable(record, options, out, progress); }, progress);
 }
 
 std::size_t ExportCsv::rows(const RecordData& record, const CsvExportOptions& options) const

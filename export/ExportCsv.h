@@ -1,9 +1,7 @@
 #pragma once
 
+#include "core/Outcome.h"
 #include "export/CsvExportOptions.h"
-#include "export/ExportProgress.h"
-
-#include <QString>
 
 #include <cstddef>
 #include <vector>
@@ -13,6 +11,7 @@ class QIODevice;
 namespace VELIX {
 
 class Profile;
+class Progress;
 class RecordData;
 struct ProfileParameter;
 
@@ -22,16 +21,16 @@ class ExportCsv
 public:
     explicit ExportCsv(Profile& profile);
 
-    void setProgress(ExportProgress progress);
-    /// Writes the file of the options; 0 if it was not written (an old file is then kept).
+    /// Writes the file of the options. An export that fails, for the system's reason in its own
+    /// words, or is cancelled keeps an old file.
+    Outcome exportData(const RecordData& record, const CsvExportOptions& options,
+                       Progress& progress);
+    /// 1 for a success, else 0.
     int exportData(const RecordData& record, const CsvExportOptions& options);
-    /// The system's reason for the last failure, in its own words; none after a cancellation.
-    const QString& lastError() const { return mLastError; }
-    /// Whether the last export was cancelled.
-    bool cancelled() const { return mCancelled; }
     /// Writes the table to an open device, UTF-8.
     /// False if it was cancelled or the device does not take it all.
-    bool writeTable(const RecordData& record, const CsvExportOptions& options, QIODevice& out);
+    bool writeTable(const RecordData& record, const CsvExportOptions& options, QIODevice& out,
+                    Progress& progress);
     /// The rows that exportData() would write, heading left out; decodes nothing.
     std::size_t rows(const RecordData& record, const CsvExportOptions& options) const;
 
@@ -39,9 +38,6 @@ private:
     std::vector<const ProfileParameter*> columns(const CsvExportOptions& options) const;
 
     Profile& mProfile;
-    ExportProgress mProgress;
-    QString mLastError;
-    bool mCancelled = false;
 };
 
 } // namespace VELIX

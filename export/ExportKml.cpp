@@ -3,8 +3,8 @@
 #include "card/CardContainer.h"
 #include "card/DecodingOrder.h"
 #include "card/RecordData.h"
+#include "core/Progress.h"
 #include "core/Truncate.h"
-#include "export/ExportMeter.h"
 #include "export/KmlDocument.h"
 #include "export/KmzArchive.h"
 #include "export/OutputFile.h"
@@ -94,11 +94,11 @@ class KmlWriter
 {
 public:
     KmlWriter(const RecordData& record, const KmlExportOptions& options, Profile& profile,
-              ExportMeter& meter)
+              Progress& progress)
         : mRecord(record),
           mOptions(options),
           mProfile(profile),
-          mMeter(meter),
+          mProgress(progress),
           mPath(record, profile, options.timeStep, KmlPath::Log::On)
     {}
 
@@ -114,7 +114,7 @@ private:
     const RecordData& mRecord;
     const KmlExportOptions& mOptions;
     Profile& mProfile;
-    ExportMeter& mMeter;
+    Progress& mProgress;
     KmlPath mPath;
     std::map<std::int32_t, KmlExportPlacemark> mPlacemarks;
     std::vector<KmlExportError> mErrors;
@@ -123,16 +123,16 @@ private:
 bool KmlWriter::exportPlaceMarks()
 {
     if (!mOptions.placeMarkOn || mPath.points().empty()) {
-        return mMeter.reach(kMarksMade);
+        return mProgress.reach(kMarksMade);
     }
     std::size_t done = 0;
     for (const ProfileParameter* p : mOptions.parameters) {
-        if (!mMeter.reach(kPathRead, kMarksMade, done++, mOptions.parameters.size())) {
+        if (!mProgress.reach(kPathRead, kMarksMade, done++, mOptions.parameters.size())) {
             return false;
         }
         addParameter(*p);
     }
-    return mMeter.reach(kMarksMade);
+    return mProgress.reach(kMarksMade);
 }
 
 void KmlWriter::addParameter(const ProfileParameter& p)
@@ -164,7 +164,7 @@ bool KmlWriter::exportErrors()
             addEvents(mRecord.warnings);
         }
     }
-    return mMeter.reach(kMarksMade);
+    return mProgress.reach(kMarksMade);
 }
 
 template <class Event>
@@ -190,13 +190,13 @@ bool KmlWriter::exportFile(QIODevice& out)
     std::size_t done = 0;
     for (const auto& [key, mark] : mPlacemarks) {
         document.addPlacemark(mark);
-        if (!mMeter.reach(kMarksMade, kMarksWritten, ++done, all)) {
+        if (!mProgress.reach(kMarksMade, kMarksWritten, ++done, all)) {
             return false;
         }
     }
     for (const KmlExportError& error : mErrors) {
         document.addEvent(error);
-        if (!mMeter.reach(kMarksMade, kMarksWritten, ++done, all)) {
+        if (!mProgress.reach(kMarksMade, kMarksWritten, ++done, all)) {
             return false;
         }
     }
@@ -209,33 +209,31 @@ bool KmlWriter::exportFile(QIODevice& out)
 
 ExportKml::ExportKml(Profile& profile) : mProfile(profile) {}
 
-void ExportKml::setProgress(ExportProgress progress)
-{
-    mProgress = std::move(progress);
-}
-
 bool ExportKml::writeDocument(const RecordData& record, const KmlExportOptions& options,
-                              QIODevice& out)
+                              QIODevice& out, Progress& progress)
 {
     const KmlExportOptions valid = validOptions(options);
-    ExportMeter meter(mProgress);
     bool written = false;
-    if (meter.reach(0.0)) {
-        KmlWriter writer(record, valid, mProfile, meter);
-        written = meter.reach(kPathRead) && writer.exportPlaceMarks() && writer.exportErrors() &&
-                  writer.exportFile(out) && meter.reach(100.0);
+    if (progress.reach(0.0)) {
+        KmlWriter writer(record, valid, mProfile, progress);
+        written = progress.reach(kPathRead) && writer.exportPlaceMarks() && writer.exportErrors() &&
+                  writer.exportFile(out) && progress.reach(100.0);
     }
-    mCancelled = meter.cancelled();
     return written;
 }
 
 int ExportKml::exportData(const RecordData& record, const KmlExportOptions& options)
 {
-    mCancelled = false;
+    Progress nobody;
+    return exportData(record, options, nobody).ok ? 1 : 0;
+}
+
+Outcome ExportKml::exportData(const RecordData& record, const KmlExportOptions& options,
+                              Progress& progress)
+{
     return writeExport(
         options.directory, options.fileName,
-        [&](QIODevice& out) { return writeDocument(record, options, out); }, mCancelled,
-        mLastError);
+        [&](QIODevice& out) { return writeDocument(record, options, out, progress); }, progress);
 }
 
 KmlSummary ExportKml::summary(const RecordData& record, const KmlExportOptions& options)

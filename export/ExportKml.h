@@ -1,9 +1,7 @@
 #pragma once
 
-#include "export/ExportProgress.h"
+#include "core/Outcome.h"
 #include "export/KmlExportOptions.h"
-
-#include <QString>
 
 #include <cstddef>
 
@@ -12,6 +10,7 @@ class QIODevice;
 namespace VELIX {
 
 class Profile;
+class Progress;
 class RecordData;
 
 /// What a KML export would write.
@@ -30,24 +29,21 @@ class ExportKml
 public:
     explicit ExportKml(Profile& profile);
 
-    void setProgress(ExportProgress progress);
-    /// Writes the file of the options; 0 if it was not written (an old file is then kept).
+    /// Writes the file of the options. An export that fails, for the system's reason in its own
+    /// words, or is cancelled keeps an old file.
+    Outcome exportData(const RecordData& record, const KmlExportOptions& options,
+                       Progress& progress);
+    /// 1 for a success, else 0.
     int exportData(const RecordData& record, const KmlExportOptions& options);
-    /// The system's reason for the last failure, in its own words; none after a cancellation.
-    const QString& lastError() const { return mLastError; }
-    /// Whether the last export was cancelled.
-    bool cancelled() const { return mCancelled; }
     /// Writes the document to an open device, zipped if the options' file name ends in ".kmz".
     /// False if it was cancelled or the device does not take it all.
-    bool writeDocument(const RecordData& record, const KmlExportOptions& options, QIODevice& out);
+    bool writeDocument(const RecordData& record, const KmlExportOptions& options, QIODevice& out,
+                       Progress& progress);
     /// What exportData() would write; takes some milliseconds for an hour of flight.
     KmlSummary summary(const RecordData& record, const KmlExportOptions& options);
 
 private:
     Profile& mProfile;
-    ExportProgress mProgress;
-    QString mLastError;
-    bool mCancelled = false;
 };
 
 } // namespace VELIX

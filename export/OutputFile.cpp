@@ -1,6 +1,7 @@
 #include "export/OutputFile.h"
 
 #include "core/Diagnostics.h"
+#include "core/Progress.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -10,60 +11,58 @@ namespace VELIX {
 
 namespace {
 
-/// What is still buffered counts as well: closing a file tells nobody that the disk was full.
+/// What is still buffered counts as well: closing a file does not report a full disk.
 bool filled(QFileDevice& file, const std::function<bool(QIODevice&)>& fill)
 {
     return fill(file) && file.flush();
 }
 
-QString reason(const QFileDevice& file)
+Outcome failure(const QFileDevice& file)
 {
     const QString text = file.errorString();
-    return text.isEmpty() ? QStringLiteral("Unknown error") : text;
+    return Outcome::failure(text.isEmpty() ? QStringLiteral("Unknown error") : text);
 }
 
 } // namespace
 
-QString writeOutputFile(const QString& path, const std::function<bool(QIODevice&)>& fill)
+Outcome writeOutputFile(const QString& path, const std::function<bool(QIODevice&)>& fill)
 {
     const QFileInfo target(path);
     if (target.exists() && !target.isFile() && !target.isDir()) {
         QFile device(path);
         const bool written =
             device.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && filled(device, fill);
-        return written ? QString() : reason(device);
+        return written ? Outcome::success() : failure(device);
     }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) {
-        return reason(file);
+        return failure(file);
     }
     if (!filled(file, fill)) {
-        // A write that stopped half-way has told no reason yet: the next one gets it.
+        // A write that stopped half-way has no reason yet: the next one gets it.
         file.write("\n");
         file.flush();
-        QString why = reason(file);
+        Outcome outcome = failure(file);
         file.cancelWriting();
-        return why;
+        return outcome;
     }
-    return file.commit() ? QString() : reason(file);
+    return file.commit() ? Outcome::success() : failure(file);
 }
 
-int writeExport(const std::string& directory, const std::string& fileName,
-                const std::function<bool(QIODevice&)>& fill, const bool& cancelled, QString& error)
+Outcome writeExport(const std::string& directory, const std::string& fileName,
+                    const std::function<bool(QIODevice&)>& fill, const Progress& progress)
 {
     const QString path =
         QString::fromStdString(directory) + QLatin1Char('/') + QString::fromStdString(fileName);
-    error = writeOutputFile(path, fill);
-    if (cancelled) {
-        error.clear();
-        return 0;
+    Outcome outcome = writeOutputFile(path, fill);
+    if (progress.cancelled()) {
+        return Outcome::cancellation();
     }
-    if (!error.isEmpty()) {
+    if (!outcome.ok) {
         Diagnostics::print("could not write file <%s>: %s\n", path.toUtf8().constData(),
-                           error.toUtf8().constData());
-        return 0;
+                           outcome.reason.toUtf8().constData());
     }
-    return 1;
+    return outcome;
 }
 
 } // namespace VELIX

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Outcome.h"
+
 #include <QString>
 
 #include <functional>
@@ -9,19 +11,21 @@ class QIODevice;
 
 namespace VELIX {
 
+class Progress;
+
 /// Writes an exported file as a whole or not at all.
 ///
 /// `fill` writes the content and returns false if the device does not take it. A plain or new file
 /// is written beside its target and renamed over it, so that a failure leaves the old one; devices
-/// and pipes are written to directly, since renaming would replace them. The system's reason for a
-/// failure; none if everything was written.
-[[nodiscard]] QString writeOutputFile(const QString& path,
+/// and pipes are written to directly, since renaming would replace them. Fails for the system's
+/// reason.
+[[nodiscard]] Outcome writeOutputFile(const QString& path,
                                       const std::function<bool(QIODevice&)>& fill);
 
-/// Writes an export's file and says on failure why, in `error` and to the diagnostics. 1 if it was
-/// written, else 0; if `fill` cancelled itself, which `cancelled` tells then, without a reason.
-[[nodiscard]] int writeExport(const std::string& directory, const std::string& fileName,
-                              const std::function<bool(QIODevice&)>& fill, const bool& cancelled,
-                              QString& error);
+/// Writes an export's file in the same way and says in the diagnostics why that failed.
+/// progress: that of `fill`, which returns false once it is cancelled.
+[[nodiscard]] Outcome writeExport(const std::string& directory, const std::string& fileName,
+                                  const std::function<bool(QIODevice&)>& fill,
+                                  const Progress& progress);
 
 } // namespace VELIX

@@ -8,6 +8,7 @@
 #include "card/FaultWord.h"
 #include "card/LimitFinder.h"
 #include "card/WarningFinder.h"
+#include "core/Progress.h"
 #include "export/ExportCsv.h"
 #include "fuzz/FuzzFolder.h"
 #include "profile/Profile.h"
@@ -134,7 +135,9 @@ void useRecord(CardContainer& card, Profile& profile)
     options.resolution = 10;
     QBuffer out;
     out.open(QIODevice::WriteOnly);
-    require(ExportCsv(profile).writeTable(record, options, out), "a table in memory failed");
+    Progress nobody;
+    require(ExportCsv(profile).writeTable(record, options, out, nobody),
+            "a table in memory failed");
     checkTable(out.data(), options.delimiter);
 }
 

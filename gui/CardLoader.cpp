@@ -46,9 +46,10 @@ CardLoader::CardLoader(CardContainer& card, DialogCard& browser, DialogData& vie
 bool CardLoader::openCard(const QString& path)
 {
     const Work work(mStatusBar, tr("Reading the card %1...").arg(path));
-    if (!mCard.readContainer(path)) {
-        mStatusBar.showNotice(
-            tr("The folder %1 cannot be opened. Is the card in its reader?").arg(path));
+    Progress progress = shownProgress();
+    const Outcome outcome = mCard.readContainer(path, progress);
+    if (!outcome.ok) {
+        mStatusBar.showNotice(outcome.reason);
         return false;
     }
     mBrowser.reloadCardInfo();
@@ -59,37 +60,42 @@ bool CardLoader::openCard(const QString& path)
 
 void CardLoader::loadFiles(const std::list<QString>& files)
 {
-    load(LoadSummary::files(files.size()), [&] {
-        return mCard.loadFiles(files) != 0 ? LoadSummary::files(files.size()) : QString();
-    });
+    const auto name = [&] { return LoadSummary::files(files.size()); };
+    load(name, [&](Progress& progress) { return mCard.loadFiles(files, progress); });
 }
 
 void CardLoader::loadCycle(unsigned int cycle, int flight)
 {
-    load(LoadSummary::cycle(mCard, cycle, flight), [&] {
-        return mCard.loadCycle(cycle, flight) != 0 ? LoadSummary::cycle(mCard, cycle, flight)
-                                                   : QString();
-    });
+    const auto name = [&] { return LoadSummary::cycle(mCard, cycle, flight); };
+    load(name, [&](Progress& progress) { return mCard.loadCycle(cycle, flight, progress); });
 }
 
-/// job: loads and names what is loaded then; empty if that failed.
-void CardLoader::load(const QString& text, const std::function<QString()>& job)
+/// name: of what is loaded; a cycle whose flights are not known yet has another one afterwards.
+void CardLoader::load(const std::function<QString()>& name,
+                      const std::function<Outcome(Progress&)>& job)
 {
-    const Work work(mStatusBar, tr("Loading %1...").arg(text));
-    const RecordData* before = &mCard.loadedData();
+    const Work work(mStatusBar, tr("Loading %1...").arg(name()));
     mViews.releaseRecord();
-    const QString name = job();
+    Progress progress = shownProgress();
+    const Outcome outcome = job(progress);
     mViews.updateRecord();
 
-    // A load that the card refused leaves what was loaded before.
-    const bool replaced = &mCard.loadedData() != before;
+    // A load that failed may have left what was loaded before.
     if (!mCard.hasRecord()) {
         mLoaded = {};
-    } else if (replaced && !name.isEmpty()) {
-        mLoaded = {LoadSummary::withCounts(name, mCard), mCard.name(), name};
+    } else if (outcome.ok) {
+        mLoaded = {LoadSummary::withCounts(name(), mCard), mCard.name(), name()};
     }
     showLoaded();
-    mStatusBar.showNotice(mCard.lastError());
+    mStatusBar.showNotice(outcome.reason);
+}
+
+Progress CardLoader::shownProgress()
+{
+    return Progress([this](int percent) {
+        mStatusBar.setProgress(percent);
+        return true;
+    });
 }
 
 /// Another card may have been opened since; then the views still show the one before.

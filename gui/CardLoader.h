@@ -1,5 +1,8 @@
 #pragma once
 
+#include "core/Outcome.h"
+#include "core/Progress.h"
+
 #include <QObject>
 #include <QString>
 
@@ -13,9 +16,9 @@ class DialogCard;
 class DialogData;
 class DialogStatusBar;
 
-/// Opens cards and loads from them, and tells in the status bar how far it is and what came of it.
+/// Opens cards and loads from them, and reports its progress and the outcome in the status bar.
 ///
-/// The event loop stands still meanwhile; the status bar repaints the window.
+/// The event loop is blocked meanwhile; the status bar repaints the window.
 class CardLoader : public QObject
 {
     Q_OBJECT
@@ -24,7 +27,7 @@ public:
     CardLoader(CardContainer& card, DialogCard& browser, DialogData& views, DialogStatusBar& bar,
                QObject* parent = nullptr);
 
-    /// Lists the card in the browser; what is loaded stays. False if there is no such folder.
+    /// Lists the card in the browser; what is loaded stays. False, with a notice, if that failed.
     bool openCard(const QString& path);
     void loadFiles(const std::list<QString>& files);
     /// flight: -1 for the whole cycle.
@@ -35,7 +38,9 @@ public:
     const QString& loadedCard() const { return mLoaded.card; }
 
 private:
-    void load(const QString& text, const std::function<QString()>& job);
+    void load(const std::function<QString()>& name, const std::function<Outcome(Progress&)>& job);
+    /// Moves the bar of the status bar.
+    Progress shownProgress();
     void showLoaded();
 
     /// What the views show.

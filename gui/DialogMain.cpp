@@ -2,7 +2,6 @@
 
 #include "core/DataHandler.h"
 #include "core/Diagnostics.h"
-#include "core/Progress.h"
 #include "core/Property.h"
 #include "gui/CardLoader.h"
 #include "gui/DialogStatusBar.h"
@@ -83,10 +82,7 @@ DialogMain::DialogMain(AppContext& context, DialogService& dialogs)
     updateUnit();
 }
 
-DialogMain::~DialogMain()
-{
-    Progress::setHook(nullptr);
-}
+DialogMain::~DialogMain() = default;
 
 /// On a small screen the replay controls at the foot have to stay in sight.
 QSize DialogMain::startSize() const
@@ -215,7 +211,6 @@ void DialogMain::createStatusBar()
     connect(mDialogData, &DialogData::signalNotice, mStatusBar, &DialogStatusBar::showNotice);
     connect(mExports, &ExportController::signalNotice, mStatusBar, &DialogStatusBar::showNotice);
     connect(mPrints, &PrintController::signalNotice, mStatusBar, &DialogStatusBar::showNotice);
-    Progress::setHook([this](int percent) { setProgress(percent); });
     mLoader = new CardLoader(mContext.card, *mDialogCard, *mDialogData, *mStatusBar, this);
 }
 

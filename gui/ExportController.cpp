@@ -1,6 +1,7 @@
 #include "gui/ExportController.h"
 
 #include "card/CardContainer.h"
+#include "core/Progress.h"
 #include "core/Property.h"
 #include "export/wizard/DialogExportCsv.h"
 #include "export/wizard/DialogExportKml.h"
@@ -36,26 +37,25 @@ void ExportController::takeProfile()
     mProfile = mContext.profile;
 }
 
-/// False for a failure that the user has to be told; a cancelled export is none.
+/// False for a failure, which the user has to know of; a cancelled export is none.
 template <typename Engine, typename Options>
 bool ExportController::write(Engine& engine, const Options& options, const QString& title)
 {
     const QDir folder(QString::fromStdString(options.directory));
     const QString file = folder.absoluteFilePath(QString::fromStdString(options.fileName));
-    int written = 0;
+    Outcome outcome;
     {
         const QScopedValueRollback<bool> writing(mWriting, true);
         ExportProgressBox box(mWindow, title, tr("Writing %1").arg(file), mPatience);
-        engine.setProgress([&box](int percent) { return box.report(percent); });
-        written = engine.exportData(mContext.card.recordData(), options);
-        engine.setProgress({});
+        Progress progress([&box](int percent) { return box.report(percent); });
+        outcome = engine.exportData(mContext.card.recordData(), options, progress);
     }
-    if (engine.cancelled()) {
+    if (outcome.cancelled) {
         emit signalNotice(tr("The export was cancelled. Nothing was written."));
         return true;
     }
-    if (written == 0) {
-        emit signalNotice(tr("The file %1 could not be written: %2").arg(file, engine.lastError()));
+    if (!outcome.ok) {
+        emit signalNotice(tr("The file %1 could not be written: %2").arg(file, outcome.reason));
         return false;
     }
     emit signalNotice(tr("Written to %1").arg(file));

@@ -93,7 +93,7 @@ void PrintController::writePdf(const QString& path, const Printable& view,
                                PrintPages::Range range)
 {
     const WaitCursor wait;
-    const QString reason = writeOutputFile(path, [&](QIODevice& file) {
+    const Outcome outcome = writeOutputFile(path, [&](QIODevice& file) {
         QPdfWriter writer(&file);
         writer.setResolution(kPdfResolution);
         writer.setPageLayout(paper);
@@ -102,9 +102,9 @@ void PrintController::writePdf(const QString& path, const Printable& view,
         return PrintPages::paint(writer, view, header, range) > 0;
     });
     const QString native = QDir::toNativeSeparators(path);
-    emit signalNotice(reason.isEmpty()
+    emit signalNotice(outcome.ok
                           ? tr("Saved as %1.").arg(native)
-                          : tr("The file %1 could not be written: %2").arg(native, reason));
+                          : tr("The file %1 could not be written: %2").arg(native, outcome.reason));
 }
 
 QString PrintController::suggestedFile(const Printable& view, const PrintHeader& header) const

@@ -63,6 +63,14 @@
 <context>
     <name>VELIX::CardContainer</name>
     <message>
+        <source>The folder %1 cannot be opened. Is the card in its reader?</source>
+        <translation>Der Ordner %1 lässt sich nicht öffnen. Steckt die Datenkarte im Leser?</translation>
+    </message>
+    <message>
+        <source>The card has no cycle %1.</source>
+        <translation>Auf der Datenkarte gibt es keinen Zyklus %1.</translation>
+    </message>
+    <message>
         <source>Cycle %1</source>
         <translation>Zyklus %1</translation>
     </message>
@@ -88,10 +96,6 @@
     <message>
         <source>Reading the card %1...</source>
         <translation>Lese die Karte %1...</translation>
-    </message>
-    <message>
-        <source>The folder %1 cannot be opened. Is the card in its reader?</source>
-        <translation>Der Ordner %1 lässt sich nicht öffnen. Steckt die Datenkarte im Leser?</translation>
     </message>
     <message>
         <source>Loading %1...</source>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "card/CardContainer.h"
+#include "core/Progress.h"
 #include "profile/Profile.h"
 #include "tests/support/CapturedDiagnostics.h"
 #include "tests/support/CardFolder.h"
@@ -40,16 +41,23 @@ class CardFixture : public ::testing::Test
 {
 protected:
     void read() { ASSERT_TRUE(mCard.readContainer(mFolder.path())); }
-    int load(std::initializer_list<const char*> names)
+    /// Whether the load succeeded; its outcome in full is kept.
+    bool load(std::initializer_list<const char*> names, Progress progress = {})
     {
-        return mCard.loadFiles(CardFolder::names(names));
+        mOutcome = mCard.loadFiles(CardFolder::names(names), progress);
+        return mOutcome.ok;
+    }
+    bool loadCycle(std::uint32_t cycle, int flight, Progress progress = {})
+    {
+        mOutcome = mCard.loadCycle(cycle, flight, progress);
+        return mOutcome.ok;
     }
     /// Makes a recording the card's only loaded one.
     void loadOnly(const RecordBuilder& record)
     {
         mFolder.add("a.CAN", record);
         read();
-        ASSERT_EQ(load({"a.CAN"}), 1);
+        ASSERT_TRUE(load({"a.CAN"}));
     }
     Times times(std::uint32_t id) const { return timesOf(mCard.recordData().entries(id)); }
     const RecordInfo& info(const char* name) const
@@ -61,6 +69,7 @@ protected:
     CardFolder mFolder;
     Profile mProfile;
     CardContainer mCard{mProfile};
+    Outcome mOutcome; ///< of the last load
 };
 
 } // namespace VELIX::Test

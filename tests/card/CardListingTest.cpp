@@ -52,9 +52,11 @@ TEST_F(CardListing, TakesRecordFilesByTheirExactExtensionInTheOrderOfTheirNames)
     QDir(mFolder.path()).mkdir(QStringLiteral("sub"));
     mFolder.add("sub/deep.CAN", ending(1, 10));
     std::vector<int> reports;
-    Progress::setHook([&reports](int percent) { reports.push_back(percent); });
-    read();
-    Progress::setHook({});
+    Progress progress([&reports](int percent) {
+        reports.push_back(percent);
+        return true;
+    });
+    ASSERT_TRUE(mCard.readContainer(mFolder.path(), progress).ok);
     const std::string found = "10.can 9.can B.can a.CAN b.can c.xcb h.txt.CAN";
     const std::string printed =
         "CardContainer::readContainer: Path <" + mFolder.path().toStdString() + "> NrFiles 13\n";
@@ -70,6 +72,16 @@ TEST_F(CardListing, TakesRecordFilesByTheirExactExtensionInTheOrderOfTheirNames)
     EXPECT_EQ(names(), found) << "what is no folder changes nothing";
     EXPECT_EQ(mCard.name(), mFolder.path());
     EXPECT_EQ(mOutput.text(), printed);
+
+    CardFolder other;
+    other.add("a.CAN", ending(1));
+    for (const int last : {-1, 0}) {
+        Progress cancelling([last](int percent) { return percent <= last; });
+        EXPECT_TRUE(mCard.readContainer(other.path(), cancelling).cancelled);
+        EXPECT_EQ(names(), found) << "nor does a listing that is cancelled";
+        EXPECT_EQ(mCard.name(), mFolder.path());
+        EXPECT_EQ(mCard.recordCycles().size(), 1U);
+    }
 }
 
 TEST_F(CardListing, EachInvalidDateOpensACycleAndIsReckonedBackFromTheNextFile)

@@ -6,6 +6,8 @@ namespace {
 
 constexpr std::uint32_t kSpeed = 500;
 constexpr std::uint32_t kOther = 501;
+constexpr std::uint32_t kLatitude = 502;
+constexpr std::uint32_t kLongitude = 503;
 
 /// Two flights at one sample a second: 60 from 100 to 199 and from 400 to 499, else 0.
 class FlightLoading : public CardFixture
@@ -19,11 +21,16 @@ protected:
         builder.parameter(kSpeed, QStringLiteral("Speed"), "FLOAT");
         builder.set("velixDataType", "GroundSpeed");
         builder.set("unitMetric", "km/h").set("unitImperial", "kt");
+        builder.parameter(kLatitude, QStringLiteral("Latitude"), "FLOAT");
+        builder.set("velixDataType", "Latitude");
+        builder.parameter(kLongitude, QStringLiteral("Longitude"), "FLOAT");
+        builder.set("velixDataType", "Longitude");
         ASSERT_TRUE(builder.load(mProfile));
         RecordBuilder record;
         for (int second = 0; second < 600; ++second) {
             const bool flying = second % 300 >= 100 && second % 300 < 200;
             record.at(second).id(kSpeed).source(2).floatValue(flying ? 60.0F : 0.0F);
+            record.id(kLatitude).floatValue(4800.0F).id(kLongitude).floatValue(1100.0F);
             record.id(kOther).source(0).ushortValue(static_cast<std::uint16_t>(second));
         }
         mFolder.add("a.CAN", record);
@@ -84,8 +91,8 @@ TEST_F(FlightLoading, WithoutTheFlightTheWholeRecordIsShown)
         EXPECT_EQ(workingSize(), 601U) << "no flight " << flight;
     }
     mCard.setMemoryLimit(1);
-    EXPECT_EQ(mCard.loadCycle(1, 0), 1);
-    EXPECT_FALSE(mCard.lastError().isEmpty());
+    EXPECT_FALSE(loadCycle(1, 0));
+    EXPECT_FALSE(mOutcome.reason.isEmpty());
     EXPECT_EQ(workingSize(), 601U) << "a refused load chooses none in the old data";
 
     mCard.setMemoryLimit(0);
@@ -99,6 +106,41 @@ TEST_F(FlightLoading, WithoutTheFlightTheWholeRecordIsShown)
     ASSERT_EQ(mCard.loadCycle(1, 0), 1);
     EXPECT_TRUE(flights().empty());
     EXPECT_EQ(workingSize(), 601U);
+}
+
+TEST_F(FlightLoading, ACancelledLoadKeepsTheRecordBeforeIt)
+{
+    ASSERT_TRUE(loadCycle(1, 1));
+    const RecordData* const whole = &mCard.loadedData();
+    const RecordData* const working = &mCard.recordData();
+    const FlightPathPoint* const path = mCard.flightPath().data();
+    const RecordFlight* const firstFlight = flights().data();
+    ASSERT_EQ(mCard.flightPath().size(), 160U);
+    // Both files give 103 reports: one gives 101, the other one 0 and 100.
+    for (const int heard : {0, 1, 40, 100, 101, 102}) {
+        for (const bool cycle : {false, true}) {
+            SCOPED_TRACE(testing::Message() << heard << (cycle ? " cycle" : " files"));
+            int reports = 0;
+            const Progress cancelling([&](int /*percent*/) { return ++reports <= heard; });
+            EXPECT_FALSE(cycle ? loadCycle(1, 0, cancelling)
+                               : load({"b.CAN", "none.CAN", "a.CAN"}, cancelling));
+            EXPECT_EQ(reports, heard + 1) << "nobody is asked again";
+            EXPECT_TRUE(mOutcome.cancelled);
+            EXPECT_TRUE(mOutcome.reason.isEmpty());
+            EXPECT_EQ(&mCard.loadedData(), whole);
+            EXPECT_EQ(&mCard.recordData(), working);
+            EXPECT_EQ(mCard.flightPath().data(), path);
+            EXPECT_EQ(flights().data(), firstFlight);
+            EXPECT_EQ(flights().size(), 2U);
+            EXPECT_EQ(mCard.recordFiles().size(), 2U);
+            EXPECT_EQ(mCard.startTime(), 0.0);
+            EXPECT_EQ(mCard.stopTime(), 650.0);
+            EXPECT_EQ(mCard.startDateTime(), RecordBuilder::utc(2025, 6, 30, 11, 50, 1));
+            EXPECT_TRUE(mCard.isLoaded());
+        }
+    }
+    EXPECT_EQ(workingSize(), 160U);
+    EXPECT_TRUE(loadCycle(1, -1)) << "the next load is none the worse";
 }
 
 TEST_F(FlightLoading, FlightsAreFoundInTheUnitThatIsShown)

@@ -55,13 +55,13 @@ QByteArray fullRecord(Order order)
 class RecordFiles : public ::testing::Test
 {
 protected:
-    void read(const QByteArray& bytes)
+    void read(const QByteArray& bytes, Progress progress = {})
     {
         mCard.add("a.CAN", bytes);
         ASSERT_TRUE(mFile.readRecordInfo(mCard.file("a.CAN")));
         mListed = mFile.recordInfo();
         mData.clear();
-        ASSERT_TRUE(mFile.readRecordData(mData));
+        ASSERT_TRUE(mFile.readRecordData(mData, 0, progress));
         mData.finish(mData.stopTime);
     }
 
@@ -173,9 +173,10 @@ TEST_F(RecordFiles, ReportEachPercentOnceFromZeroToHundred)
 {
     const RecordBuilder record = recordOf(1, Samples(1234, {1.0, 1}));
     std::vector<int> reports;
-    Progress::setHook([&reports](int percent) { reports.push_back(percent); });
-    read(record.bytes());
-    Progress::setHook({});
+    read(record.bytes(), Progress([&reports](int percent) {
+             reports.push_back(percent);
+             return true;
+         }));
     ASSERT_EQ(reports.size(), 101U);
     for (int percent = 0; percent <= 100; ++percent) {
         EXPECT_EQ(reports[static_cast<std::size_t>(percent)], percent);

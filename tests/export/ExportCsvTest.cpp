@@ -1,5 +1,6 @@
 #include "export/ExportCsv.h"
 #include "card/RecordData.h"
+#include "core/Progress.h"
 #include "profile/Profile.h"
 #include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
@@ -40,7 +41,7 @@ protected:
         out.open(QIODevice::WriteOnly);
         const auto data = mRecord.data();
         ExportCsv writer(mProfile);
-        EXPECT_TRUE(writer.writeTable(*data, options, out));
+        EXPECT_TRUE(writer.writeTable(*data, options, out, mNobody));
         static const QRegularExpression row(QStringLiteral("^\\d+:\\d\\d:\\d\\d\\.\\d{3}"),
                                             QRegularExpression::MultilineOption);
         EXPECT_EQ(writer.rows(*data, options),
@@ -66,6 +67,7 @@ protected:
 
     const std::string kHeader = "Time;Height [m];Count [m];Mode\n";
     Profile mProfile;
+    Progress mNobody;
     RecordBuilder mRecord;
 };
 
@@ -223,10 +225,10 @@ TEST_F(CsvTable, ADeviceThatDoesNotTakeItAllIsAFailure)
     }
     for (const qint64 room : {0, 10, 1500000}) {
         FullDevice device(room);
-        EXPECT_FALSE(ExportCsv(mProfile).writeTable(*mRecord.data(), {}, device)) << room;
+        EXPECT_FALSE(ExportCsv(mProfile).writeTable(*mRecord.data(), {}, device, mNobody)) << room;
     }
     FullDevice large(10000000);
-    EXPECT_TRUE(ExportCsv(mProfile).writeTable(*mRecord.data(), {}, large));
+    EXPECT_TRUE(ExportCsv(mProfile).writeTable(*mRecord.data(), {}, large, mNobody));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // What both exports promise about their file: written as a whole, or not at all.
 
 #include "card/RecordData.h"
+#include "core/Progress.h"
 #include "export/ExportCsv.h"
 #include "export/ExportKml.h"
 #include "export/OutputFile.h"
@@ -88,7 +89,10 @@ protected:
         EXPECT_EQ(content(), "old");
         EXPECT_EQ(QDir(mFolder.path()).entryList(QDir::Files).size(), 1) << "left a temporary";
     }
-    int run() { return mWriter.exportData(*mRecord.data(), mOptions); }
+    Outcome run(Progress progress = {})
+    {
+        return mWriter.exportData(*mRecord.data(), mOptions, progress);
+    }
 
     CapturedDiagnostics mOutput;
     QTemporaryDir mFolder;
@@ -104,11 +108,11 @@ TYPED_TEST_SUITE(ExportFile, Formats);
 TYPED_TEST(ExportFile, ReportsRisingProgressToTheEnd)
 {
     std::vector<int> reports;
-    this->mWriter.setProgress([&reports](int percent) {
+    const Outcome outcome = this->run(Progress([&reports](int percent) {
         reports.push_back(percent);
         return true;
-    });
-    EXPECT_EQ(this->run(), 1);
+    }));
+    EXPECT_TRUE(outcome.ok);
     EXPECT_TRUE(this->content().endsWith(TypeParam::kWhole)) << this->content().toStdString();
     ASSERT_GT(reports.size(), 2U);
     EXPECT_EQ(reports.front(), 0);
@@ -120,16 +124,14 @@ TYPED_TEST(ExportFile, ReportsRisingProgressToTheEnd)
 TYPED_TEST(ExportFile, ACancelledExportKeepsTheOldFile)
 {
     for (const int last : {0, 30, 99}) {
-        int calls = 0;
-        this->mWriter.setProgress([&](int percent) { return percent <= last && ++calls > 0; });
-        EXPECT_EQ(this->run(), 0) << last;
-        EXPECT_TRUE(this->mWriter.cancelled());
-        EXPECT_EQ(this->mWriter.lastError(), QString()) << "the user knows";
+        const Outcome outcome =
+            this->run(Progress([last](int percent) { return percent <= last; }));
+        EXPECT_FALSE(outcome.ok) << last;
+        EXPECT_TRUE(outcome.cancelled);
+        EXPECT_EQ(outcome.reason, QString()) << "the user knows";
         this->expectOldFileAlone();
     }
-    this->mWriter.setProgress(nullptr);
-    EXPECT_EQ(this->run(), 1);
-    EXPECT_FALSE(this->mWriter.cancelled());
+    EXPECT_EQ(this->mWriter.exportData(*this->mRecord.data(), this->mOptions), 1);
 }
 
 TYPED_TEST(ExportFile, AFullDiskLeavesTheOldFile)
@@ -137,9 +139,10 @@ TYPED_TEST(ExportFile, AFullDiskLeavesTheOldFile)
     for (const int seconds : {1, 2000, 50000}) { // below and above the buffers in between
         this->fly(seconds);
         const FullDisk disk(10);
-        EXPECT_EQ(this->run(), 0) << seconds;
-        EXPECT_FALSE(this->mWriter.lastError().isEmpty());
-        EXPECT_NE(this->mWriter.lastError(), QStringLiteral("Unknown error")) << seconds;
+        const Outcome outcome = this->run();
+        EXPECT_FALSE(outcome.ok) << seconds;
+        EXPECT_FALSE(outcome.reason.isEmpty());
+        EXPECT_NE(outcome.reason, QStringLiteral("Unknown error")) << seconds;
         this->expectOldFileAlone();
     }
 }
@@ -151,9 +154,10 @@ TYPED_TEST(ExportFile, AFailureSaysWhy)
         this->mOptions.directory = bad;
         QDir(this->mFolder.path()).remove(QString::fromUtf8("größe"));
         QDir(this->mFolder.path()).mkdir(QString::fromUtf8("größe")); // no file takes its place
-        EXPECT_EQ(this->run(), 0);
-        EXPECT_FALSE(this->mWriter.cancelled());
-        EXPECT_FALSE(this->mWriter.lastError().isEmpty());
+        const Outcome outcome = this->run();
+        EXPECT_FALSE(outcome.ok || outcome.cancelled);
+        EXPECT_FALSE(outcome.reason.isEmpty());
+        EXPECT_EQ(this->mWriter.exportData(*this->mRecord.data(), this->mOptions), 0);
         EXPECT_NE(this->mOutput.text().find("could not write file <" + bad + "/größe>"),
                   std::string::npos);
         EXPECT_TRUE(QFileInfo(this->path()).isDir());
@@ -163,9 +167,9 @@ TYPED_TEST(ExportFile, AFailureSaysWhy)
 TEST(OutputFile, DevicesAreWrittenToAndStay)
 {
     const auto fill = [](QIODevice& out) { return out.write("text") == 4; };
-    EXPECT_EQ(writeOutputFile(QStringLiteral("/dev/null"), fill), QString());
+    EXPECT_TRUE(writeOutputFile(QStringLiteral("/dev/null"), fill).ok);
     EXPECT_FALSE(QFileInfo(QStringLiteral("/dev/null")).isFile());
-    EXPECT_FALSE(writeOutputFile(QStringLiteral("/dev/full"), fill).isEmpty());
+    EXPECT_FALSE(writeOutputFile(QStringLiteral("/dev/full"), fill).reason.isEmpty());
     EXPECT_FALSE(QFileInfo(QStringLiteral("/dev/full")).isFile());
 }
 

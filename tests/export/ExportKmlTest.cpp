@@ -1,5 +1,7 @@
 #include "export/ExportKml.h"
+
 #include "card/RecordData.h"
+#include "core/Progress.h"
 #include "profile/Profile.h"
 #include "tests/support/CapturedDiagnostics.h"
 #include "tests/support/ProfileBuilder.h"
@@ -107,7 +109,8 @@ protected:
         QBuffer out;
         out.open(QIODevice::WriteOnly);
         ExportKml writer(mProfile);
-        EXPECT_TRUE(writer.writeDocument(*data, mOptions, out));
+        Progress nobody;
+        EXPECT_TRUE(writer.writeDocument(*data, mOptions, out, nobody));
         mSummary = writer.summary(*data, mOptions);
         return out.data();
     }

@@ -2,6 +2,7 @@
 
 #include "card/LimitFinder.h"
 #include "card/WarningFinder.h"
+#include "core/Progress.h"
 #include "export/ExportCsv.h"
 #include "export/ExportKml.h"
 #include "export/OutputFile.h"
@@ -92,20 +93,17 @@ CardCommand::Status CardCommand::load()
     if (!mOptions.hasSelection()) {
         return Status::Done;
     }
-    if (mOptions.cycle) {
-        if (mCard.loadCycle(*mOptions.cycle, mOptions.flight) == 0) {
-            tell(QStringLiteral("The card has no cycle %1.").arg(*mOptions.cycle));
-            return Status::Failed;
-        }
-    } else {
-        mCard.loadFiles(std::list<QString>(mOptions.files.begin(), mOptions.files.end()));
-    }
-    if (!mCard.isLoaded()) {
-        tell(mCard.lastError());
+    Progress nobody;
+    const std::list<QString> files(mOptions.files.begin(), mOptions.files.end());
+    const Outcome outcome = mOptions.cycle
+                                ? mCard.loadCycle(*mOptions.cycle, mOptions.flight, nobody)
+                                : mCard.loadFiles(files, nobody);
+    if (!outcome.ok) {
+        tell(outcome.reason);
         return Status::Failed;
     }
-    if (!mCard.lastError().isEmpty()) {
-        tell(QStringLiteral("Warning: %1").arg(mCard.lastError()));
+    if (!outcome.reason.isEmpty()) {
+        tell(QStringLiteral("Warning: %1").arg(outcome.reason));
     }
     warnOfMissingFlight();
     return Status::Done;
@@ -127,12 +125,12 @@ void CardCommand::warnOfMissingFlight() const
 CardCommand::Status CardCommand::write()
 {
     if (!mOptions.output.isEmpty()) {
-        const QString failure =
+        const Outcome outcome =
             writeOutputFile(mOptions.output, [this](QIODevice& out) { return writeTo(out); });
-        if (failure.isEmpty()) {
+        if (outcome.ok) {
             return Status::Done;
         }
-        tell(QStringLiteral("%1 could not be written: %2.").arg(mOptions.output, failure));
+        tell(QStringLiteral("%1 could not be written: %2.").arg(mOptions.output, outcome.reason));
         return Status::Failed;
     }
     QFile out;
@@ -145,11 +143,12 @@ CardCommand::Status CardCommand::write()
 
 bool CardCommand::writeTo(QIODevice& out)
 {
+    Progress nobody;
     switch (mOptions.command) {
     case CardOptions::Command::Csv:
-        return ExportCsv(mProfile).writeTable(mCard.recordData(), mOptions.csv, out);
+        return ExportCsv(mProfile).writeTable(mCard.recordData(), mOptions.csv, out, nobody);
     case CardOptions::Command::Kml:
-        return writeKml(out);
+        return writeKml(out, nobody);
     case CardOptions::Command::Info:
         break;
     }
@@ -157,7 +156,7 @@ bool CardCommand::writeTo(QIODevice& out)
     return out.write(text) == text.size();
 }
 
-bool CardCommand::writeKml(QIODevice& out)
+bool CardCommand::writeKml(QIODevice& out, Progress& progress)
 {
     RecordData& record = mCard.recordData();
     record.limits = findLimits(record, mProfile);
@@ -167,7 +166,7 @@ bool CardCommand::writeKml(QIODevice& out)
     if (!writer.summary(record, mOptions.kml).hasPositions) {
         tell(QStringLiteral("Warning: there are no positions, the path is empty."));
     }
-    return writer.writeDocument(record, mOptions.kml, out);
+    return writer.writeDocument(record, mOptions.kml, out, progress);
 }
 
 QByteArray CardCommand::info()

@@ -12,6 +12,8 @@ class QIODevice;
 
 namespace VELIX {
 
+class Progress;
+
 /// Carries out one call of velix-card. Sentences for the user go to standard error.
 class CardCommand
 {
@@ -32,7 +34,7 @@ private:
     void warnOfMissingFlight() const;
     Status write();
     bool writeTo(QIODevice& out);
-    bool writeKml(QIODevice& out);
+    bool writeKml(QIODevice& out, Progress& progress);
     QByteArray info();
 
     CardOptions mOptions;

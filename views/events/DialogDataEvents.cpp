@@ -301,11 +301,11 @@ void DialogDataEvents::saveCsv()
         return;
     }
     mFolder = QFileInfo(path).path();
-    const QString reason =
+    const Outcome outcome =
         writeOutputFile(path, [this](QIODevice& out) { return writeEventCsv(mEvents, out); });
-    emit signalNotice(reason.isEmpty()
+    emit signalNotice(outcome.ok
                           ? tr("The list was saved as %1.").arg(path)
-                          : tr("The list could not be saved as %1: %2").arg(path, reason));
+                          : tr("The list could not be saved as %1: %2").arg(path, outcome.reason));
 }
 
 } // namespace VELIX
