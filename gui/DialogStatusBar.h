@@ -9,7 +9,7 @@ class QProgressBar;
 namespace VELIX {
 
 /// The main window's status bar: what is loaded, the last failure in words, and the progress of
-/// work in hand.
+/// the current work.
 class DialogStatusBar : public QStatusBar
 {
     Q_OBJECT
@@ -17,9 +17,9 @@ class DialogStatusBar : public QStatusBar
 public:
     explicit DialogStatusBar(QWidget* parent = nullptr);
 
-    /// Shows a text and the progress bar until endWork(), drawing at once: the event loop stands
-    /// still meanwhile, so that nothing else can start. Progress then repaints the whole window now
-    /// and again, since other windows may have wiped parts of it.
+    /// Shows a text and the progress bar until endWork(), drawing at once: the event loop does
+    /// not run meanwhile, so that nothing else can start. Progress then repaints the whole window
+    /// now and again, since other windows may have wiped parts of it.
     void beginWork(const QString& text);
     void endWork();
     /// percent: 0 to 100, values beyond are cut. Without work begun, 100 hides the bar.

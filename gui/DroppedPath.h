@@ -6,12 +6,12 @@ class QMimeData;
 
 namespace VELIX {
 
-/// What a drop onto the window brings: a card's folder, a project, or nothing that can be opened.
+/// What was dropped onto the window: a card's folder, a project, or nothing that can be opened.
 struct DroppedPath
 {
     enum class Kind { Nothing, Card, Project };
 
-    /// The first of the local files and folders decides; a record file stands for its folder.
+    /// The first of the local files and folders decides; a record file means its folder.
     static DroppedPath of(const QMimeData* data);
 
     Kind kind = Kind::Nothing;

@@ -6,7 +6,7 @@
 
 namespace VELIX {
 
-/// The start-up picture with the steps that start-up has reached written on it.
+/// The start-up image with the steps that start-up has reached written on it.
 class DialogSplash : public QSplashScreen
 {
     Q_OBJECT

@@ -68,7 +68,7 @@ void SignalWatcher::start(std::function<void()> onSignal)
     }
     mOnSignal = std::move(onSignal);
     mNotifier = std::make_unique<QSocketNotifier>(mReadEnd, QSocketNotifier::Read);
-    // By name, since the signal's overloads cannot be told apart by their addresses.
+    // By name, since the signal's overloads cannot be distinguished by their addresses.
     connect(mNotifier.get(), SIGNAL(activated(QSocketDescriptor, QSocketNotifier::Type)), this,
             SLOT(slotActivated()));
 }

@@ -20,7 +20,7 @@ namespace VELIX {
 
 namespace {
 
-constexpr int kPictureSize = 64;
+constexpr int kImageSize = 64;
 constexpr int kTextColumns = 82; ///< licences come in lines of 80
 constexpr int kTextRows = 24;
 
@@ -54,8 +54,8 @@ DialogAbout::DialogAbout(QWidget* parent) : QDialog(parent)
 QWidget* DialogAbout::createHeading()
 {
     auto* heading = new QWidget(this);
-    auto* picture = new QLabel(heading);
-    picture->setPixmap(ImageHandler::instance().icon(QStringLiteral("velix")).pixmap(kPictureSize));
+    auto* image = new QLabel(heading);
+    image->setPixmap(ImageHandler::instance().icon(QStringLiteral("velix")).pixmap(kImageSize));
     auto* text = new QLabel(heading);
     text->setTextFormat(Qt::RichText);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -66,7 +66,7 @@ QWidget* DialogAbout::createHeading()
     auto* layout = new QHBoxLayout(heading);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(Spacing::kGroup);
-    layout->addWidget(picture);
+    layout->addWidget(image);
     layout->addWidget(text, 1);
     return heading;
 }

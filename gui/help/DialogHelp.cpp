@@ -2,6 +2,7 @@
 
 #include "core/Property.h"
 #include "gui/help/HelpBrowser.h"
+#include "gui/look/BringToFront.h"
 #include "gui/look/ImageHandler.h"
 #include "gui/look/Palette.h"
 #include "gui/look/Spacing.h"
@@ -228,9 +229,7 @@ void DialogHelp::showPage(const QString& topic)
         const HelpPage* page = mManual.page(topic);
         goTo(page != nullptr ? topic : mManual.pages().front().topic, {});
     }
-    show();
-    raise();
-    activateWindow();
+    VELIX::bringToFront(*this);
     mBrowser->setFocus();
 }
 

@@ -27,7 +27,7 @@ public:
     /// In the language of the setting "Locale"; size and text size are kept in the settings.
     explicit DialogHelp(VELIX::Property& settings, QWidget* parent = nullptr);
 
-    /// Opens the window at a topic of the manual; the first page stands in for an unknown one.
+    /// Opens the window at a topic of the manual; at the first page for an unknown one.
     void showPage(const QString& topic);
 
 protected:

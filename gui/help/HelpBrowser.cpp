@@ -76,56 +76,56 @@ void HelpBrowser::setTextSize(int pixels)
     }
     mTextSize = size;
     const QScrollBar* bar = verticalScrollBar();
-    const double place = bar->maximum() > 0 ? 1.0 * bar->value() / bar->maximum() : 0.0;
+    const double position = bar->maximum() > 0 ? 1.0 * bar->value() / bar->maximum() : 0.0;
     const int mark = mCurrentMark;
     applyStyle();
     reload();
     findMarks();
     mCurrentMark = mark < markCount() ? mark : -1;
     showMarks();
-    verticalScrollBar()->setValue(static_cast<int>(place * verticalScrollBar()->maximum()));
+    verticalScrollBar()->setValue(static_cast<int>(position * verticalScrollBar()->maximum()));
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& name)
 {
     if (type == QTextDocument::HtmlResource) {
-        mPictures.clear();
-        mPictureWidth = viewport()->width() - 2 * kPageMargin;
+        mImages.clear();
+        mImageWidth = viewport()->width() - 2 * kPageMargin;
     }
     QVariant content = QTextBrowser::loadResource(type, name);
     if (type != QTextDocument::ImageResource) {
         return content;
     }
-    const QImage picture = QImage::fromData(content.toByteArray());
-    mPictures.insert(name, picture);
-    return picture.width() > mPictureWidth && mPictureWidth > 0
-               ? picture.scaledToWidth(mPictureWidth, Qt::SmoothTransformation)
-               : picture;
+    const QImage image = QImage::fromData(content.toByteArray());
+    mImages.insert(name, image);
+    return image.width() > mImageWidth && mImageWidth > 0
+               ? image.scaledToWidth(mImageWidth, Qt::SmoothTransformation)
+               : image;
 }
 
 void HelpBrowser::resizeEvent(QResizeEvent* event)
 {
     QTextBrowser::resizeEvent(event);
-    fitPictures();
+    fitImages();
 }
 
-void HelpBrowser::fitPictures()
+void HelpBrowser::fitImages()
 {
     const int width = viewport()->width() - 2 * kPageMargin;
-    const int previous = mPictureWidth;
+    const int previous = mImageWidth;
     if (width <= 0 || width == previous) {
         return;
     }
-    mPictureWidth = width;
+    mImageWidth = width;
     bool changed = false;
-    for (auto picture = mPictures.cbegin(); picture != mPictures.cend(); ++picture) {
-        if (picture->width() <= std::min(width, previous)) {
+    for (auto image = mImages.cbegin(); image != mImages.cend(); ++image) {
+        if (image->width() <= std::min(width, previous)) {
             continue;
         }
-        document()->addResource(QTextDocument::ImageResource, picture.key(),
-                                picture->width() > width
-                                    ? picture->scaledToWidth(width, Qt::SmoothTransformation)
-                                    : *picture);
+        document()->addResource(QTextDocument::ImageResource, image.key(),
+                                image->width() > width
+                                    ? image->scaledToWidth(width, Qt::SmoothTransformation)
+                                    : *image);
         changed = true;
     }
     if (changed) {
@@ -160,12 +160,12 @@ void HelpBrowser::showMarks()
     const Palette& palette = Palette::current();
     QList<QTextEdit::ExtraSelection> selections;
     for (int i = 0; i < mMarks.size(); ++i) {
-        const QColor ground = i == mCurrentMark ? palette.accent : palette.warning;
+        const QColor background = i == mCurrentMark ? palette.accent : palette.warning;
         QTextEdit::ExtraSelection selection;
         selection.cursor = mMarks.at(i);
-        selection.format.setBackground(ground);
+        selection.format.setBackground(background);
         selection.format.setForeground(i == mCurrentMark ? palette.accentText
-                                                         : Palette::textOn(ground));
+                                                         : Palette::textOn(background));
         selections.append(selection);
     }
     setExtraSelections(selections);
@@ -177,9 +177,9 @@ bool HelpBrowser::goToMark(int mark)
         return false;
     }
     mCurrentMark = mark;
-    QTextCursor place = mMarks.at(mark);
-    place.clearSelection();
-    setTextCursor(place);
+    QTextCursor position = mMarks.at(mark);
+    position.clearSelection();
+    setTextCursor(position);
     ensureCursorVisible();
     showMarks();
     return true;

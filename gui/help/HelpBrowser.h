@@ -7,7 +7,7 @@
 
 namespace VELIX {
 
-/// Shows one page of the manual in the program's colours: pictures never wider than the window,
+/// Shows one page of the manual in the program's colours: images never wider than the window,
 /// texts at a size of the reader's choice, the words of a search marked.
 class HelpBrowser : public QTextBrowser
 {
@@ -40,13 +40,13 @@ protected:
 
 private:
     void applyStyle();
-    void fitPictures();
+    void fitImages();
     void findMarks();
     void showMarks();
 
     int mTextSize;
-    QMap<QUrl, QImage> mPictures; ///< of the page, in their own size
-    int mPictureWidth = 0;        ///< that they are fitted to
+    QMap<QUrl, QImage> mImages; ///< of the page, in their own size
+    int mImageWidth = 0;        ///< that they are fitted to
     QStringList mWords;
     QList<QTextCursor> mMarks; ///< from top to bottom
     int mCurrentMark = -1;

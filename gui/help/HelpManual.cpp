@@ -94,8 +94,8 @@ int weightOf(const QString& word, const HelpSection& section)
     return weight;
 }
 
-/// The rank of a section; 0 if a word is missing. The title of the page stands for words that its
-/// sections leave out, but does not alone make all of them worth reading.
+/// The rank of a section; 0 if a word is missing. Words that a section leaves out may be in
+/// the title of the page, but the title alone does not make all of its sections worth reading.
 int scoreOf(const QStringList& words, const HelpPage& page, const HelpSection& section)
 {
     int own = 0;

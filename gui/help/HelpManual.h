@@ -7,7 +7,7 @@
 
 namespace VELIX {
 
-/// What stands under one heading of a page, without mark-up.
+/// The text under one heading of a page, without mark-up.
 struct HelpSection
 {
     QString anchor; ///< empty above the first heading of second order

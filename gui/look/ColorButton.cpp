@@ -13,8 +13,8 @@ constexpr int kHeight = 16;
 constexpr int kGap = 6; ///< between the field and the text
 constexpr int kPercent = 100;
 
-/// What shines through is told from the colour by a chequered ground.
-void paintGround(QPainter& painter, const QRect& field)
+/// Draws the chequered background that shows through a colour that does not cover.
+void paintBackground(QPainter& painter, const QRect& field)
 {
     const int square = field.height() / 2;
     painter.fillRect(field, Qt::white);
@@ -34,7 +34,7 @@ QPixmap fieldOf(const QColor& color, qreal ratio)
     const QRect field(1, 1, kWidth - 2, kHeight - 2);
     const QRect right = field.adjusted(field.width() / 2, 0, 0, 0);
     painter.fillRect(field, QColor(color.rgb()));
-    paintGround(painter, right);
+    paintBackground(painter, right);
     painter.fillRect(right, color);
     return pixmap;
 }

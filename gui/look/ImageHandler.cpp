@@ -28,9 +28,9 @@ QIcon ImageHandler::icon(const QString& name) const
         VELIX::Diagnostics::print("ImageHandler: no icon <%s>\n", qUtf8Printable(name));
         return {};
     }
-    // Desktops show the program's own icon on grounds of their choice: it keeps its colours.
-    const bool keepColours = name == QLatin1String("velix");
-    return QIcon(new VELIX::SvgIconEngine(file.readAll(), mPalette, keepColours));
+    // Desktops show the program's own icon on backgrounds of their choice: it keeps its colours.
+    const bool keepColors = name == QLatin1String("velix");
+    return QIcon(new VELIX::SvgIconEngine(file.readAll(), mPalette, keepColors));
 }
 
 QStringList ImageHandler::names() const

@@ -11,7 +11,7 @@ struct Palette;
 class ImageHandler
 {
 public:
-    /// Pictures in the palette in force at the first call.
+    /// Returns images in the palette in force at the first call.
     static ImageHandler& instance();
 
     /// \param palette must outlive all icons that are taken.

@@ -99,8 +99,8 @@ const Palette& Palette::of(Look look)
 Palette::Look Palette::lookOf(const QPalette& desktop)
 {
     const double text = luminance(desktop.color(QPalette::Active, QPalette::WindowText));
-    const double ground = luminance(desktop.color(QPalette::Active, QPalette::Window));
-    return text > ground ? Look::Dark : Look::Light;
+    const double background = luminance(desktop.color(QPalette::Active, QPalette::Window));
+    return text > background ? Look::Dark : Look::Light;
 }
 
 const Palette& Palette::current()
@@ -116,7 +116,7 @@ void Palette::apply(QApplication& application)
 void Palette::apply(QApplication& application, Look look)
 {
     gCurrent = &of(look);
-    // Without it widgets ask icons for pictures of ratio 1 and blow them up on fine displays.
+    // Without it widgets ask icons for images of ratio 1 and blow them up on fine displays.
     application.setAttribute(Qt::AA_UseHighDpiPixmaps);
     application.setPalette(gCurrent->toQPalette());
 }
@@ -171,14 +171,14 @@ double Palette::contrast(const QColor& a, const QColor& b)
     return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
 }
 
-QColor Palette::textOn(const QColor& ground)
+QColor Palette::textOn(const QColor& background)
 {
     const QColor& dark = light().text;
-    if (contrast(dark, ground) >= ReadableContrast) {
+    if (contrast(dark, background) >= ReadableContrast) {
         return dark;
     }
     const QColor white(Qt::white);
-    return contrast(white, ground) >= ReadableContrast ? white : QColor(Qt::black);
+    return contrast(white, background) >= ReadableContrast ? white : QColor(Qt::black);
 }
 
 } // namespace VELIX

@@ -16,9 +16,9 @@ struct Palette
     enum class Look { Light, Dark };
 
     Look look = Look::Light;
-    QColor window;       ///< ground of windows and panels
-    QColor surface;      ///< ground of tables, trees and editors
-    QColor header;       ///< ground of table headers and group titles
+    QColor window;       ///< background of windows and panels
+    QColor surface;      ///< background of tables, trees and editors
+    QColor header;       ///< background of table headers and group titles
     QColor line;         ///< borders and the grid of tables
     QColor controlLine;  ///< borders of what can be operated
     QColor text;         ///< on window, surface, header, hover, pressed and accentSoft
@@ -26,17 +26,17 @@ struct Palette
     QColor disabledText; ///< what cannot be used now; weaker than any readable text
     QColor accent;       ///< cursor, selection, links, focus
     QColor accentText;   ///< on accent
-    QColor accentSoft;   ///< ground of checked buttons and of the current menu item
-    QColor hover;        ///< ground under the mouse
-    QColor pressed;      ///< ground of a pressed button
+    QColor accentSoft;   ///< background of checked buttons and of the current menu item
+    QColor hover;        ///< background under the mouse
+    QColor pressed;      ///< background of a pressed button
     QColor handle;       ///< scroll bar and splitter handles
-    QColor progress;     ///< done part of a progress bar; text stands on it
+    QColor progress;     ///< done part of a progress bar; text is written on it
     QColor healthy;
     QColor warning;
     QColor limit;
-    QColor lcdPanel;           ///< ground of digital displays, dark in both looks
+    QColor lcdPanel;           ///< background of digital displays, dark in both looks
     QColor lcdDigits;          ///< on lcdPanel
-    QColor tableSelection;     ///< ground of the selected table row, the same in both looks
+    QColor tableSelection;     ///< background of the selected table row, the same in both looks
     QColor tableSelectionText; ///< on tableSelection
 
     static const Palette& light();
@@ -65,10 +65,10 @@ struct Palette
     /// Contrast ratio of two opaque colours by WCAG 2.1: 1 (none) to 21 (black on white).
     [[nodiscard]] static double contrast(const QColor& a, const QColor& b);
 
-    /// Text colour for a ground that comes from data, such as a cell coloured by a profile:
+    /// Text colour for a background that comes from data, such as a cell coloured by a profile:
     /// the light look's text, or white where that is easier to read, or black where neither
     /// reaches 4.5.
-    [[nodiscard]] static QColor textOn(const QColor& ground);
+    [[nodiscard]] static QColor textOn(const QColor& background);
 };
 
 } // namespace VELIX

@@ -4,7 +4,8 @@
 
 namespace VELIX {
 
-/// A selector that tells the user's choices from the program's: its signals only follow the user.
+/// A selector that distinguishes the user's choices from the program's: only the user's are
+/// signalled.
 class QwtComboBox : public QComboBox
 {
     Q_OBJECT

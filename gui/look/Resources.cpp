@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-// Q_INIT_RESOURCE declares a global function and so cannot stand in a namespace.
+// Q_INIT_RESOURCE declares a global function and so cannot be in a namespace.
 static void registerBuiltInFiles()
 {
     Q_INIT_RESOURCE(resources);

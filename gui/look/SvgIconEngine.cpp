@@ -12,17 +12,17 @@ namespace VELIX {
 
 namespace {
 
-constexpr int MaxPictureSide = 2048; // nobody asks for more; guards the cache and its key
+constexpr int MaxImageSide = 2048; // more is never drawn; guards the cache and its key
 
 } // namespace
 
-SvgIconEngine::SvgIconEngine(QByteArray svg, const Palette& palette, bool keepColours)
-    : mSvg(std::move(svg)), mPalette(&palette), mKeepColours(keepColours)
+SvgIconEngine::SvgIconEngine(QByteArray svg, const Palette& palette, bool keepColors)
+    : mSvg(std::move(svg)), mPalette(&palette), mKeepColors(keepColors)
 {}
 
 QByteArray SvgIconEngine::tinted(QIcon::Mode mode) const
 {
-    if (mKeepColours) {
+    if (mKeepColors) {
         return mSvg;
     }
     QByteArray svg = mSvg;
@@ -30,14 +30,14 @@ QByteArray SvgIconEngine::tinted(QIcon::Mode mode) const
         svg.replace(placeholder, color.name().toLatin1());
     };
     const Palette& drawn = Palette::light();
-    // Without a use, and on the ground of a selection, a second colour would only disturb.
-    const bool oneColour = mode == QIcon::Disabled || mode == QIcon::Selected;
+    // Without a use, and on the background of a selection, a second colour would only disturb.
+    const bool oneColor = mode == QIcon::Disabled || mode == QIcon::Selected;
     const QColor ink = mode == QIcon::Disabled   ? mPalette->disabledText
                        : mode == QIcon::Selected ? mPalette->accentText
                                                  : mPalette->text;
-    replace(drawn.accent.name().toLatin1(), oneColour ? ink : mPalette->accent);
-    replace(drawn.warning.name().toLatin1(), oneColour ? ink : mPalette->warning);
-    replace(drawn.limit.name().toLatin1(), oneColour ? ink : mPalette->limit);
+    replace(drawn.accent.name().toLatin1(), oneColor ? ink : mPalette->accent);
+    replace(drawn.warning.name().toLatin1(), oneColor ? ink : mPalette->warning);
+    replace(drawn.limit.name().toLatin1(), oneColor ? ink : mPalette->limit);
     replace(QByteArrayLiteral("currentColor"), ink);
     return svg;
 }
@@ -47,14 +47,14 @@ void SvgIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode
 {
     const qreal ratio = painter->device()->devicePixelRatioF();
     const QSize size(qRound(rect.width() * ratio), qRound(rect.height() * ratio));
-    QPixmap picture = pixmap(size, mode, state);
-    picture.setDevicePixelRatio(ratio);
-    painter->drawPixmap(rect.topLeft(), picture);
+    QPixmap image = pixmap(size, mode, state);
+    image.setDevicePixelRatio(ratio);
+    painter->drawPixmap(rect.topLeft(), image);
 }
 
 QPixmap SvgIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State)
 {
-    const QSize bounded = size.boundedTo(QSize(MaxPictureSide, MaxPictureSide));
+    const QSize bounded = size.boundedTo(QSize(MaxImageSide, MaxImageSide));
     if (bounded.isEmpty()) {
         return {};
     }
@@ -64,20 +64,20 @@ QPixmap SvgIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State)
     if (known != mPixmaps.constEnd()) {
         return *known;
     }
-    QPixmap picture(bounded);
-    picture.fill(Qt::transparent);
+    QPixmap image(bounded);
+    image.fill(Qt::transparent);
     QSvgRenderer renderer(tinted(mode));
-    QPainter painter(&picture);
+    QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (mKeepColours && mode == QIcon::Disabled) {
+    if (mKeepColors && mode == QIcon::Disabled) {
         painter.setOpacity(0.4);
     }
     const int side = std::min(bounded.width(), bounded.height());
     renderer.render(
         &painter, QRectF((bounded.width() - side) / 2, (bounded.height() - side) / 2, side, side));
     painter.end();
-    mPixmaps.insert(key, picture);
-    return picture;
+    mPixmaps.insert(key, image);
+    return image;
 }
 
 QSize SvgIconEngine::actualSize(const QSize& size, QIcon::Mode, QIcon::State)

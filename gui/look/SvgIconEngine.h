@@ -9,15 +9,15 @@ namespace VELIX {
 
 struct Palette;
 
-/// Draws one SVG picture at any size and device pixel ratio in the colours of a palette.
+/// Draws one SVG image at any size and device pixel ratio in the colours of a palette.
 ///
-/// Pictures are drawn with "currentColor" as their ink and the light look's accent, warning and
-/// limit for what carries a meaning; "keepColours" leaves a picture as it is (the program's own).
+/// Images are drawn with "currentColor" as their ink and the light look's accent, warning and
+/// limit for what carries a meaning; "keepColors" leaves an image as it is (the program's own).
 class SvgIconEngine : public QIconEngine
 {
 public:
     /// \param palette must outlive the engine.
-    SvgIconEngine(QByteArray svg, const Palette& palette, bool keepColours);
+    SvgIconEngine(QByteArray svg, const Palette& palette, bool keepColors);
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
@@ -30,7 +30,7 @@ private:
 
     QByteArray mSvg;
     const Palette* mPalette;
-    bool mKeepColours;
+    bool mKeepColors;
     QHash<quint64, QPixmap> mPixmaps; ///< by size in device pixels and mode
 };
 

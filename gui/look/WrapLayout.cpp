@@ -62,8 +62,8 @@ void WrapLayout::setGeometry(const QRect& area)
     arrange(area, true);
 }
 
-/// The height that the rows take in the width of an area; `place` puts the items there as well.
-int WrapLayout::arrange(const QRect& area, bool place) const
+/// The height that the rows take in the width of an area; `move` also moves the items there.
+int WrapLayout::arrange(const QRect& area, bool move) const
 {
     const QRect inside = area.marginsRemoved(contentsMargins());
     QPoint corner = inside.topLeft();
@@ -75,7 +75,7 @@ int WrapLayout::arrange(const QRect& area, bool place) const
             corner = QPoint(inside.left(), corner.y() + rowHeight + mGap);
             rowHeight = 0;
         }
-        if (place) {
+        if (move) {
             item->setGeometry(QRect(corner, size));
         }
         corner.rx() += size.width() + mGap;

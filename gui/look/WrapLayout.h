@@ -30,7 +30,7 @@ public:
     void setGeometry(const QRect& area) override;
 
 private:
-    int arrange(const QRect& area, bool place) const;
+    int arrange(const QRect& area, bool move) const;
 
     std::vector<std::unique_ptr<QLayoutItem>> mItems;
     int mGap;

@@ -17,7 +17,7 @@ class PreferencesGeneral : public QWidget
 public:
     explicit PreferencesGeneral(QWidget* parent = nullptr);
 
-    /// Selects the language with this code; an empty one stands for English.
+    /// Selects the language with this code; an empty one selects English.
     void showLanguage(const QString& code);
     /// The code of a language by its name; empty for a name that is not offered.
     QString languageCode(const QString& language) const;

@@ -68,7 +68,7 @@ QSpinBox* PreferencesMap::addCacheLimit(QFormLayout& form)
     box->setObjectName(QStringLiteral("tileCacheLimit"));
     box->setSingleStep(kCacheStep);
     box->setSuffix(tr(" MB"));
-    box->setKeyboardTracking(false); // on the way to 1000 nobody wants to keep but 100
+    box->setKeyboardTracking(false); // on the way to 1000, 100 is not a value to keep
     box->setToolTip(tr("When it is full, the tiles unused for longest make way"));
     connect(box, qOverload<int>(&QSpinBox::valueChanged), this, &PreferencesMap::signalChanged);
     form.addRow(tr("Dis&k space for tiles"), box);
@@ -81,7 +81,7 @@ QDoubleSpinBox* PreferencesMap::addNumber(QFormLayout& form, const QString& labe
     box->setObjectName(QLatin1String(name));
     box->setRange(0.0, kLargest);
     box->setSingleStep(kStep);
-    box->setKeyboardTracking(false); // a half-typed number is nobody's wish
+    box->setKeyboardTracking(false); // a half-typed number is not a value to keep
     connect(box, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
             &PreferencesMap::signalChanged);
     form.addRow(label, box);

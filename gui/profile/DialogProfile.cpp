@@ -322,10 +322,10 @@ void DialogProfile::setHighlighted(bool highlighted)
         return;
     }
     const Palette& look = Palette::current();
-    QPalette colours = mButtonConfirm->palette();
-    colours.setColor(QPalette::Button, look.accent);
-    colours.setColor(QPalette::ButtonText, look.accentText);
-    mButtonConfirm->setPalette(colours);
+    QPalette colors = mButtonConfirm->palette();
+    colors.setColor(QPalette::Button, look.accent);
+    colors.setColor(QPalette::ButtonText, look.accentText);
+    mButtonConfirm->setPalette(colors);
     // The program's style sheet hides the palette of a button, so its own one repeats it.
     mButtonConfirm->setStyleSheet(QStringLiteral("QPushButton {background: %1; color: %2;}")
                                       .arg(look.accent.name(), look.accentText.name()));

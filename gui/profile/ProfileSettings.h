@@ -8,7 +8,7 @@ namespace VELIX {
 
 class Property;
 
-/// Which profile file and which variant are in force, as the settings say.
+/// Reads and stores which profile file and which variant are in force.
 ///
 /// The setting "Profile" holds a variant's name or, after the user chose a file, its path; the key
 /// "ProfileFile" keeps the chosen file apart, so that choosing a variant does not lose it.
@@ -19,15 +19,15 @@ public:
 
     /// The chosen file as long as it can be read, else the installed one.
     QString profileFile() const;
-    /// Where an installed profile lies.
+    /// Where an installed profile is stored.
     QString installedFile() const;
     /// The chosen variant; empty takes all elements of the profile.
     QString variant() const;
 
     void storeVariant(const QString& variant);
-    /// The file is in force, with all its elements until a variant is chosen.
+    /// Puts the file in force, with all its elements until a variant is chosen.
     void chooseFile(const QString& path);
-    /// The installed profile is in force again.
+    /// Puts the installed profile in force again.
     void forgetChosenFile();
 
 private:
