@@ -8,8 +8,8 @@
 #include "gui/look/Spacing.h"
 #include "gui/preferences/PreferencesGeneral.h"
 #include "gui/preferences/PreferencesMap.h"
+#include "gui/profile/ProfileInstaller.h"
 #include "gui/profile/ProfileSettings.h"
-#include "profile/Profile.h"
 
 #include <QDialogButtonBox>
 #include <QDir>
@@ -146,8 +146,7 @@ void DialogPreferences::slotProfileSelect()
     if (file.isEmpty()) {
         return;
     }
-    if (Profile().loadProfile(file) == 0) {
-        // The profile in use goes on being used.
+    if (!ProfileInstaller::isProfile(file)) {
         mGeneral->showProblem(tr("%1 is not a VELIX profile.").arg(QDir::toNativeSeparators(file)));
         return;
     }

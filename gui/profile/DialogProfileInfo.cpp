@@ -92,15 +92,14 @@ void DialogProfileInfo::installProfile()
     if (file.isEmpty()) {
         return;
     }
-    switch (ProfileInstaller::install(file, mSettings.installedFile())) {
-    case ProfileInstaller::Result::NotAProfile:
+    if (!ProfileInstaller::isProfile(file)) {
         mDialogs.information(front, title, tr("Not a valid VELIX profile !"));
         return;
-    case ProfileInstaller::Result::CopyFailed:
-        mDialogs.warning(front, title, tr("Profile Installation failed !"));
+    }
+    const Outcome installed = ProfileInstaller::install(file, mSettings.installedFile());
+    if (!installed.ok) {
+        mDialogs.warning(front, title, installed.reason);
         return;
-    case ProfileInstaller::Result::Installed:
-        break;
     }
     mDialogs.information(front, tr("VELIX Info"), tr("New profile installed !"));
     mSettings.forgetChosenFile();

@@ -10,7 +10,7 @@ class DialogService;
 class Profile;
 class ProfileSettings;
 
-/// Tells what the loaded profile is and installs a new one.
+/// Describes the loaded profile and installs a new one.
 class DialogProfileInfo : public QDialog
 {
     Q_OBJECT
@@ -24,8 +24,8 @@ public:
     void installProfile();
 
 signals:
-    /// Another profile is installed. The receiver reads it, since it knows who holds on to the
-    /// parameters of the old one.
+    /// Another profile is installed. The receiver loads it, since it knows who still refers to
+    /// the parameters of the old one.
     void signalProfileChanged();
 
 protected:

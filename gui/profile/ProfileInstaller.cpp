@@ -32,17 +32,17 @@ bool copyFile(const QString& file, const QString& destination)
 
 } // namespace
 
-ProfileInstaller::Result ProfileInstaller::install(const QString& file, const QString& destination)
+bool ProfileInstaller::isProfile(const QString& file)
 {
-    // A profile of its own: the one in use must not lose its variants to a file that is none.
-    if (Profile().loadProfile(file) == 0) {
-        return Result::NotAProfile;
-    }
+    return Profile().loadProfile(file) != 0;
+}
+
+Outcome ProfileInstaller::install(const QString& file, const QString& destination)
+{
     Diagnostics::print("Copy profile to <%s>\n", destination.toUtf8().constData());
-    if (isSameFile(file, destination)) {
-        return Result::Installed;
-    }
-    return copyFile(file, destination) ? Result::Installed : Result::CopyFailed;
+    return isSameFile(file, destination) || copyFile(file, destination)
+               ? Outcome::success()
+               : Outcome::failure(tr("Profile Installation failed !"));
 }
 
 } // namespace VELIX
