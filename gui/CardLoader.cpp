@@ -90,6 +90,11 @@ void CardLoader::load(const std::function<QString()>& name,
     mStatusBar.showNotice(outcome.reason);
 }
 
+PrintHeader CardLoader::printHeader() const
+{
+    return PrintHeader::of(mCard.recordData(), mLoaded.card, mLoaded.name);
+}
+
 Progress CardLoader::shownProgress()
 {
     return Progress([this](int percent) {

@@ -2,6 +2,7 @@
 
 #include "core/Outcome.h"
 #include "core/Progress.h"
+#include "gui/print/PrintHeader.h"
 
 #include <QObject>
 #include <QString>
@@ -33,9 +34,8 @@ public:
     /// flight: -1 for the whole cycle.
     void loadCycle(unsigned int cycle, int flight);
 
-    /// What is loaded, for example "Cycle 3, flight 2", and the folder of the card that it is from.
-    const QString& loadedName() const { return mLoaded.name; }
-    const QString& loadedCard() const { return mLoaded.card; }
+    /// Names what is loaded, for a printed page.
+    PrintHeader printHeader() const;
 
 private:
     void load(const std::function<QString()>& name, const std::function<Outcome(Progress&)>& job);

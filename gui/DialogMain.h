@@ -1,35 +1,34 @@
 #pragma once
 
 #include "gui/ProjectController.h"
-#include "gui/profile/ProfileSettings.h"
+#include "gui/profile/ProfileController.h"
 #include "gui/project/AppContext.h"
 
 #include <QMainWindow>
 #include <QTimer>
 
+#include <functional>
 #include <list>
+#include <map>
 
 class DialogHelp;
 class QAction;
-class QMenu;
-class QSplitter;
 
 namespace VELIX {
 
+class CardController;
 class CardLoader;
 class DialogAbout;
-class DialogCard;
-class DialogData;
 class DialogPreferences;
-class DialogProfile;
 class DialogProfileInfo;
 class DialogService;
 class DialogStatusBar;
 class ExportController;
 class MainActions;
+class MainMenuBar;
+class MainPanes;
 class MainToolBar;
 class PrintController;
-class RecentMenu;
 
 /// The program's main window: it owns all dialogs and the data window, and passes on between them
 /// what the user opens, selects and switches.
@@ -43,26 +42,25 @@ public:
     DialogMain(AppContext& context, DialogService& dialogs);
     ~DialogMain() override;
 
-    /// How far the work in hand is: 0 to 100.
+    /// Shows how far the current work is: 0 to 100.
     void setProgress(int percent);
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
 private slots:
     void slotMenu(QAction* action);
-    void slotMenuRecent(QAction* action);
-    void slotMenuPrefAbout();
+    /// Does nothing: each menu opens its entries itself, since it knows what they are.
+    void slotMenuRecent(QAction* /*action*/) {}
+    void slotMenuPrefAbout() { updateEnabled(); }
     void slotLoadRecord(const std::list<QString>& files);
     void slotLoadCycle(unsigned int cycle, int flight);
-    void slotCanChanged();
+    void slotCanChanged() { updateEnabled(); }
     void slotProfileChanged();
     void slotProfileChanged(const QString& variant);
     void slotProfileFileChanged();
     void slotUnitChanged(int unit);
-    void slotVelixMode(int mode);
+    void slotVelixMode(int /*mode*/) { reloadCard(); }
     void slotCheckStyle();
     void slotTimeout();
     void slotTimeoutStartup();
@@ -72,45 +70,33 @@ private:
     void createPanes();
     void createDialogs();
     void createActions();
+    void createHandlers();
     void createMenu();
-    void createRecentMenus(QMenu* fileMenu);
     void createToolbar();
     void createStatusBar();
-    void acceptDrops();
+    void connectOpening();
     void startTimers();
 
-    void openCard();
-    void printPage(int id);
-    void reloadCard();
-    void openCard(const QString& path);
-    void openProject(const QString& path);
     bool loadRecords(const QString& path);
-    void finishProjectAction(bool done);
-    void finishSaving();
-    void showSelection();
+    void reloadCard();
+    void openProject(const QString& path);
+    void finishOpening(const Outcome& opened);
+    void finishSaving(const Outcome& saved);
     void loadProfile();
     void fillProfiles();
     void updateProfiles();
     void updateUnit();
     void updateTitle();
-    void showHelp();
     void updateEnabled();
-    void cleanup();
-    QString setting(const char* key) const;
+    void cleanup() { mProjects.saveOnQuit(); }
 
     AppContext mContext;
     DialogService& mDialogs;
-    ProfileSettings mProfileSettings;
+    ProfileController mProfiles;
     ProjectController mProjects;
-    QString mProfileProblem; ///< why the profile in force is empty; empty if it is not
-    QTimer mTimerStyle;
     QTimer mTimerStart;
 
-    QSplitter* mSplitter = nullptr;
-    QWidget* mLeftPane = nullptr;
-    DialogCard* mDialogCard = nullptr;
-    DialogProfile* mDialogProfile = nullptr;
-    DialogData* mDialogData = nullptr;
+    MainPanes* mPanes = nullptr;
     ExportController* mExports = nullptr;
     DialogProfileInfo* mDialogProfileInfo = nullptr;
     PrintController* mPrints = nullptr;
@@ -119,10 +105,11 @@ private:
     DialogPreferences* mDialogPreferences = nullptr;
     DialogStatusBar* mStatusBar = nullptr;
     CardLoader* mLoader = nullptr;
+    CardController* mCards = nullptr;
     MainActions* mActions = nullptr;
-    RecentMenu* mRecentCards = nullptr;
-    RecentMenu* mRecentProjects = nullptr;
-    MainToolBar* mToolBar = nullptr; ///< null where only the data window is shown
+    std::map<int, std::function<void()>> mHandlers; ///< what each action does, by its number
+    MainMenuBar* mMenuBar = nullptr; ///< null where only the data window is shown, as the tool bar
+    MainToolBar* mToolBar = nullptr;
 };
 
 } // namespace VELIX

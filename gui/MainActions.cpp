@@ -106,11 +106,13 @@ const std::vector<QAction*>& MainActions::menu(Menu menu) const
     return mMenus.at(menu);
 }
 
-void MainActions::setUnavailable(int id, const QString& reason)
+void MainActions::setUnavailable(std::initializer_list<int> ids, const QString& reason)
 {
-    if (QAction* a = action(id)) {
-        a->setEnabled(reason.isEmpty());
-        a->setToolTip(reason.isEmpty() ? toolTip(*a) : reason);
+    for (const int id : ids) {
+        if (QAction* a = action(id)) {
+            a->setEnabled(reason.isEmpty());
+            a->setToolTip(reason.isEmpty() ? toolTip(*a) : reason);
+        }
     }
 }
 

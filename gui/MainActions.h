@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QString>
 
+#include <initializer_list>
 #include <map>
 #include <vector>
 
@@ -11,7 +12,7 @@ class QActionGroup;
 
 namespace VELIX {
 
-/// What the main window's menus can ask for. The numbers are fixed: they are printed.
+/// The actions of the main window's menus. The numbers are fixed: they are printed.
 enum EAction : int {
     eActionNewProject = 0,
     eActionOpenProject = 1,
@@ -41,15 +42,15 @@ public:
 
     /// Null for a number that no action has.
     QAction* action(int id) const;
-    /// In the order of the table; null stands for a separator.
+    /// In the order of the table; null is a separator.
     const std::vector<QAction*>& menu(Menu menu) const;
     /// All actions belong to it; each carries its number as its data.
     QActionGroup* group() const { return mGroup; }
-    /// For entries of what was opened lately; empty so far.
+    /// Takes the entries of what was opened lately; empty at first.
     QActionGroup* recentGroup() const { return mRecentGroup; }
 
-    /// Disables an action with the reason in its tool tip, or enables it for an empty reason.
-    void setUnavailable(int id, const QString& reason);
+    /// Disables actions with the reason in their tool tips, or enables them for an empty reason.
+    void setUnavailable(std::initializer_list<int> ids, const QString& reason);
 
 private:
     QActionGroup* mGroup;

@@ -33,22 +33,22 @@ void ProjectController::start(const QString& runFile)
     remember(runFile);
 }
 
-bool ProjectController::readLast()
+Outcome ProjectController::readLast()
 {
     const QString file = lastPath();
     if (mProject.readProject(file.toStdString()) != 0) {
-        return true;
+        return Outcome::success();
     }
-    // The run will write this file anew: what could not be read is kept beside it.
+    // The run will overwrite this file: what could not be read is kept beside it.
     const QString kept = file + QStringLiteral(".broken");
     if (QFileInfo(file).isFile() && isSamePath(file, mRunFile)) {
         QFile::remove(kept);
         if (QFile::rename(file, kept)) {
-            mLastError =
-                tr("The project of the last run could not be read. It is kept as %1.").arg(kept);
+            return Outcome::failure(
+                tr("The project of the last run could not be read. It is kept as %1.").arg(kept));
         }
     }
-    return false;
+    return Outcome::failure({});
 }
 
 void ProjectController::setModified()
@@ -57,31 +57,33 @@ void ProjectController::setModified()
     mRunFileOutdated = true;
 }
 
-bool ProjectController::newProject()
+Outcome ProjectController::newProject()
 {
-    if (!askSaveProject()) {
-        return false;
+    Outcome saved = askSaveProject();
+    if (saved.ok) {
+        mProject.clear();
+        mFile = mRunFile;
+        mModified = false;
+        mRunFileOutdated = true;
     }
-    mProject.clear();
-    mFile = mRunFile;
-    mModified = false;
-    mRunFileOutdated = true;
-    return true;
+    return saved;
 }
 
-bool ProjectController::openProject()
+Outcome ProjectController::openProject()
 {
-    if (!askSaveProject()) {
-        return false;
+    Outcome saved = askSaveProject();
+    if (!saved.ok) {
+        return saved;
     }
     const QString file = mDialogs.openFile(mParent, tr("Open VELIX Project"), lastPath(),
                                            tr("Project Files (*.xml)"));
-    return !file.isEmpty() && read(file);
+    return file.isEmpty() ? Outcome::cancellation() : read(file);
 }
 
-bool ProjectController::openFile(const QString& file)
+Outcome ProjectController::openFile(const QString& file)
 {
-    return askSaveProject() && read(file);
+    Outcome saved = askSaveProject();
+    return saved.ok ? read(file) : saved;
 }
 
 bool ProjectController::isRunFile() const
@@ -89,35 +91,34 @@ bool ProjectController::isRunFile() const
     return isSamePath(mFile, mRunFile);
 }
 
-bool ProjectController::read(const QString& file)
+Outcome ProjectController::read(const QString& file)
 {
     if (mProject.readProject(file.toStdString()) == 0) {
-        mLastError = tr("%1 could not be read as a project.").arg(file);
-        return false;
+        return Outcome::failure(tr("%1 could not be read as a project.").arg(file));
     }
+    Outcome outcome = Outcome::success();
     if (mProject.isProjectFile()) {
         mFile = file;
     } else {
         // Saving must not replace a profile, or whatever else this file is, by a project.
         mFile = mRunFile;
-        mLastError = tr("%1 is not a VELIX project. Saving will not write to it.").arg(file);
+        outcome.reason = tr("%1 is not a VELIX project. Saving will not write to it.").arg(file);
     }
     mModified = false;
     mRunFileOutdated = !isSamePath(file, mRunFile);
     remember(mFile); // no other, since this is the name that saving under another one proposes
-    return true;
+    return outcome;
 }
 
-bool ProjectController::saveProject(bool saveAs)
+Outcome ProjectController::saveProject(bool saveAs)
 {
-    mLastError.clear();
-    QString file = mFile;
-    if ((saveAs || file.isEmpty()) && !askFileName(file)) {
-        return false;
+    const QString file = saveAs || mFile.isEmpty() ? askFileName() : mFile;
+    if (file.isEmpty()) {
+        return Outcome::cancellation();
     }
     if (mProject.saveProject(file.toStdString()) == 0) {
-        mLastError = tr("The project could not be saved to %1.").arg(QDir::cleanPath(file));
-        return false;
+        return Outcome::failure(
+            tr("The project could not be saved to %1.").arg(QDir::cleanPath(file)));
     }
     mFile = file;
     mModified = false;
@@ -125,7 +126,7 @@ bool ProjectController::saveProject(bool saveAs)
         mRunFileOutdated = false;
     }
     remember(file);
-    return true;
+    return Outcome::success();
 }
 
 void ProjectController::saveOnQuit()
@@ -136,43 +137,39 @@ void ProjectController::saveOnQuit()
     }
 }
 
-bool ProjectController::askSaveProject()
+Outcome ProjectController::askSaveProject()
 {
-    mLastError.clear();
     if (!mModified) {
-        return true;
+        return Outcome::success();
     }
     switch (mDialogs.askToSave(mParent, tr("VELIX Warning"),
                                tr("Current Project not saved !\nSave it now ?"))) {
     case DialogService::Answer::Yes:
         return saveProject(false);
     case DialogService::Answer::No:
-        return true;
+        return Outcome::success();
     case DialogService::Answer::Cancel:
         break;
     }
-    return false;
+    return Outcome::cancellation();
 }
 
-bool ProjectController::askFileName(QString& file)
+/// A name to save under; empty if the user cancelled.
+QString ProjectController::askFileName()
 {
     const QString suffix = QStringLiteral(".xml");
-    QString chosen = mDialogs.saveFile(mParent, tr("Save VELIX Project"), lastPath(),
-                                       tr("Project Files (*.xml)"), suffix.mid(1));
-    if (chosen.isEmpty()) {
-        return false;
-    }
-    if (!chosen.endsWith(suffix)) {
-        chosen += suffix;
+    QString file = mDialogs.saveFile(mParent, tr("Save VELIX Project"), lastPath(),
+                                     tr("Project Files (*.xml)"), suffix.mid(1));
+    if (!file.isEmpty() && !file.endsWith(suffix)) {
+        file += suffix;
         // The file dialog asked about another name.
-        if (QFileInfo::exists(chosen) &&
+        if (QFileInfo::exists(file) &&
             !mDialogs.confirm(mParent, tr("VELIX Warning"),
-                              tr("%1 exists already.\nReplace it ?").arg(chosen))) {
-            return false;
+                              tr("%1 exists already.\nReplace it ?").arg(file))) {
+            return {};
         }
     }
-    file = chosen;
-    return true;
+    return file;
 }
 
 void ProjectController::remember(const QString& file)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Outcome.h"
+
 #include <QCoreApplication>
 #include <QString>
 
@@ -27,10 +29,10 @@ public:
 
     /// Puts the run on its own file, whatever project was open last, and remembers it.
     void start(const QString& runFile);
-    /// Reads the project that was remembered last; false if there is none.
-    bool readLast();
+    /// Reads the project that was remembered last. Fails without a reason if there is none.
+    Outcome readLast();
 
-    /// The selection was changed by the user.
+    /// Notes that the user changed the selection.
     void setModified();
     bool isModified() const { return mModified; }
     /// The file that saving writes.
@@ -38,23 +40,19 @@ public:
     /// Whether that is the run's own file and not one of the user's.
     bool isRunFile() const;
 
-    /// Each of these asks what it has to; false if the user cancelled or a file failed, and then
-    /// nothing has changed.
-    [[nodiscard]] bool newProject();
-    [[nodiscard]] bool openProject();
-    [[nodiscard]] bool openFile(const QString& file);
-    bool saveProject(bool saveAs);
+    /// Each of these asks what it has to. If the user cancels or a file fails, nothing changes.
+    [[nodiscard]] Outcome newProject();
+    [[nodiscard]] Outcome openProject();
+    [[nodiscard]] Outcome openFile(const QString& file);
+    [[nodiscard]] Outcome saveProject(bool saveAs);
 
     /// Keeps the state of the run for the next one, without asking.
     void saveOnQuit();
 
-    /// A sentence about the last operation that failed; empty if it did not fail.
-    const QString& lastError() const { return mLastError; }
-
 private:
-    bool askSaveProject();
-    bool read(const QString& file);
-    bool askFileName(QString& file);
+    Outcome askSaveProject();
+    Outcome read(const QString& file);
+    QString askFileName();
     void remember(const QString& file);
     QString lastPath() const;
 
@@ -66,7 +64,6 @@ private:
     QString mFile;
     bool mModified = false;
     bool mRunFileOutdated = false; ///< the run's own file does not hold the selection in force
-    QString mLastError;
 };
 
 } // namespace VELIX

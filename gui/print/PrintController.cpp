@@ -4,6 +4,7 @@
 #include "core/Revision.h"
 #include "export/OutputFile.h"
 #include "gui/dialogs/DialogService.h"
+#include "gui/print/PrintHeader.h"
 #include "views/common/Printable.h"
 
 #include <QApplication>
@@ -52,8 +53,19 @@ PrintController::PrintController(Property& settings, DialogService& dialogs, QWi
     : QObject(window), mSettings(settings), mDialogs(dialogs), mWindow(window)
 {}
 
-void PrintController::print(const Printable& view, const PrintHeader& header)
+QString PrintController::unprintableReason(const Printable* page)
 {
+    return page == nullptr ? tr("This page cannot be printed. The graph, the event lists and the "
+                                "tow statistic can.")
+                           : page->unprintableReason();
+}
+
+void PrintController::print(const Printable* page, const PrintHeader& header)
+{
+    if (!unprintableReason(page).isEmpty()) {
+        return;
+    }
+    const Printable& view = *page;
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageLayout(defaultPaper(view));
     printer.setDocName(documentName(view, header)); // the dialog suggests a file of that name
@@ -67,17 +79,21 @@ void PrintController::print(const Printable& view, const PrintHeader& header)
         writePdf(printer.outputFileName(), view, header, printer.pageLayout(), range);
         return;
     }
-    int pages = 0;
+    bool sent = false;
     {
         const WaitCursor wait;
-        pages = PrintPages::paint(printer, view, header, range);
+        sent = PrintPages::paint(printer, view, header, range);
     }
-    emit signalNotice(pages > 0 ? tr("Sent to the printer %1.").arg(printer.printerName())
-                                : tr("The printer %1 does not answer.").arg(printer.printerName()));
+    emit signalNotice(sent ? tr("Sent to the printer %1.").arg(printer.printerName())
+                           : tr("The printer %1 does not answer.").arg(printer.printerName()));
 }
 
-void PrintController::savePdf(const Printable& view, const PrintHeader& header)
+void PrintController::savePdf(const Printable* page, const PrintHeader& header)
 {
+    if (!unprintableReason(page).isEmpty()) {
+        return;
+    }
+    const Printable& view = *page;
     const QString path = mDialogs.saveFile(mWindow, tr("Save as PDF"), suggestedFile(view, header),
                                            tr("PDF files (*.pdf)"), QStringLiteral("pdf"));
     if (path.isEmpty()) {
@@ -99,7 +115,7 @@ void PrintController::writePdf(const QString& path, const Printable& view,
         writer.setPageLayout(paper);
         writer.setTitle(view.printTitle());
         writer.setCreator(QString::fromStdString(Revision::getRevisionString()));
-        return PrintPages::paint(writer, view, header, range) > 0;
+        return PrintPages::paint(writer, view, header, range);
     });
     const QString native = QDir::toNativeSeparators(path);
     emit signalNotice(outcome.ok

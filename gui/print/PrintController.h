@@ -13,7 +13,7 @@ class DialogService;
 class Printable;
 class Property;
 
-/// Prints views and saves them as PDF files, and tells how that went.
+/// Prints views and saves them as PDF files, and reports how that went.
 class PrintController : public QObject
 {
     Q_OBJECT
@@ -22,10 +22,15 @@ public:
     /// window: the parent of the dialogs, and this object's owner.
     PrintController(Property& settings, DialogService& dialogs, QWidget* window);
 
-    /// Asks for a printer and its settings first.
-    void print(const Printable& view, const PrintHeader& header);
-    /// Asks for a file first, which is then written as a whole or not at all.
-    void savePdf(const Printable& view, const PrintHeader& header);
+    /// Says why a page cannot be printed now, as a sentence; empty if it can.
+    /// \param page null for one of a kind that never can
+    static QString unprintableReason(const Printable* page);
+
+    /// Asks for a printer and its settings and prints. Does nothing with an unprintable page.
+    void print(const Printable* page, const PrintHeader& header);
+    /// Asks for a file and writes it, as a whole or not at all. Does nothing with an unprintable
+    /// page.
+    void savePdf(const Printable* page, const PrintHeader& header);
 
 signals:
     /// A result or failure in words.

@@ -2,6 +2,7 @@
 
 #include "core/Revision.h"
 #include "gui/look/Palette.h"
+#include "gui/print/PrintHeader.h"
 #include "views/common/Printable.h"
 
 #include <QFontMetricsF>
@@ -78,12 +79,12 @@ void paintFooter(QPainter& painter, const Frame& frame, const QString& number)
 
 } // namespace
 
-int PrintPages::paint(QPagedPaintDevice& device, const Printable& view, const PrintHeader& header,
-                      Range range)
+bool PrintPages::paint(QPagedPaintDevice& device, const Printable& view, const PrintHeader& header,
+                       Range range)
 {
     QPainter painter;
     if (!painter.begin(&device)) {
-        return 0;
+        return false;
     }
     const Frame frame(painter);
     const auto layout = view.printLayout(device, frame.room.size());
@@ -92,7 +93,7 @@ int PrintPages::paint(QPagedPaintDevice& device, const Printable& view, const Pr
     int painted = 0;
     for (int page = std::max(range.first, 1); page <= last; ++page) {
         if (painted > 0 && !device.newPage()) {
-            return 0;
+            return false;
         }
         paintHeader(painter, frame, view.printTitle(), header);
         paintFooter(painter, frame, tr("Page %1 of %2").arg(page).arg(count));
@@ -102,7 +103,7 @@ int PrintPages::paint(QPagedPaintDevice& device, const Printable& view, const Pr
         painter.restore();
         ++painted;
     }
-    return painter.end() ? painted : 0;
+    return painter.end() && painted > 0;
 }
 
 } // namespace VELIX

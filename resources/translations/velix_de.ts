@@ -92,6 +92,13 @@
     </message>
 </context>
 <context>
+    <name>VELIX::CardController</name>
+    <message>
+        <source>Open SD Card</source>
+        <translation>SD-Karte öffnen</translation>
+    </message>
+</context>
+<context>
     <name>VELIX::CardLoader</name>
     <message>
         <source>Reading the card %1...</source>
@@ -919,24 +926,8 @@
 <context>
     <name>VELIX::DialogMain</name>
     <message>
-        <source>&amp;File</source>
-        <translation>&amp;Datei</translation>
-    </message>
-    <message>
-        <source>&amp;Extras</source>
-        <translation>&amp;Extras</translation>
-    </message>
-    <message>
-        <source>&amp;Help</source>
-        <translation>&amp;Hilfe</translation>
-    </message>
-    <message>
         <source>VELIX %1</source>
         <translation>VELIX %1</translation>
-    </message>
-    <message>
-        <source>Open SD Card</source>
-        <translation>SD-Karte öffnen</translation>
     </message>
     <message>
         <source>Load a cycle or a flight to export it</source>
@@ -1005,19 +996,6 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>%1 is not a VELIX project. Saving will not write to it.</source>
         <translation>%1 ist kein VELIX-Projekt. Beim Speichern bleibt die Datei unberührt.</translation>
-    </message>
-    <message>
-        <source>d MMMM yyyy, hh:mm &apos;UTC&apos;</source>
-        <extracomment>Format of a date and time of day on paper</extracomment>
-        <translation>d. MMMM yyyy, hh:mm &apos;UTC&apos;</translation>
-    </message>
-    <message>
-        <source>The profile %1 cannot be read.</source>
-        <translation>Das Profil %1 ist nicht lesbar.</translation>
-    </message>
-    <message>
-        <source>This page cannot be printed. The graph, the event lists and the tow statistic can.</source>
-        <translation>Diese Seite lässt sich nicht drucken. Das geht mit Graph, Ereignislisten und Schleppstatistik.</translation>
     </message>
     <message>
         <source>Nothing has changed since the project was saved</source>
@@ -1171,10 +1149,6 @@ Soll die Datei ersetzt werden?</translation>
     <message>
         <source>Not a valid VELIX profile !</source>
         <translation>Das ist kein gültiges VELIX-Profil.</translation>
-    </message>
-    <message>
-        <source>Profile Installation failed !</source>
-        <translation>Die Installation des Profils ist fehlgeschlagen.</translation>
     </message>
     <message>
         <source>VELIX Info</source>
@@ -1630,6 +1604,21 @@ Soll sie ersetzt werden?</translation>
     </message>
 </context>
 <context>
+    <name>VELIX::MainMenuBar</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Extras</source>
+        <translation>&amp;Extras</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+</context>
+<context>
     <name>VELIX::MainToolBar</name>
     <message>
         <source>Main Toolbar</source>
@@ -1856,12 +1845,38 @@ Soll sie ersetzt werden?</translation>
         <source>The file %1 could not be written: %2</source>
         <translation>Die Datei %1 ließ sich nicht schreiben: %2</translation>
     </message>
+    <message>
+        <source>This page cannot be printed. The graph, the event lists and the tow statistic can.</source>
+        <translation>Diese Seite lässt sich nicht drucken. Das geht mit Graph, Ereignislisten und Schleppstatistik.</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::PrintHeader</name>
+    <message>
+        <source>d MMMM yyyy, hh:mm &apos;UTC&apos;</source>
+        <extracomment>Format of a date and time of day on paper</extracomment>
+        <translation>d. MMMM yyyy, hh:mm &apos;UTC&apos;</translation>
+    </message>
 </context>
 <context>
     <name>VELIX::PrintPages</name>
     <message>
         <source>Page %1 of %2</source>
         <translation>Seite %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::ProfileController</name>
+    <message>
+        <source>The profile %1 cannot be read.</source>
+        <translation>Das Profil %1 ist nicht lesbar.</translation>
+    </message>
+</context>
+<context>
+    <name>VELIX::ProfileInstaller</name>
+    <message>
+        <source>Profile Installation failed !</source>
+        <translation>Die Installation des Profils ist fehlgeschlagen.</translation>
     </message>
 </context>
 <context>

@@ -32,6 +32,7 @@ protected:
     }
 
     TestProgram program;
+    Outcome outcome; ///< of the last operation
     ProjectController controller{program.project, program.settings, program.dialogs, nullptr};
 };
 
@@ -48,11 +49,11 @@ TEST_F(ProjectControllerTest, AFileThatIsNoProjectNeverBecomesTheOneOfSave)
     ASSERT_TRUE(demoProfile().write(profile));
     const QByteArray before = readFile(profile);
     program.dialogs.file = profile;
-    EXPECT_TRUE(controller.openProject());
+    EXPECT_TRUE((outcome = controller.openProject()).ok);
     EXPECT_EQ(controller.file(), runFile());
-    EXPECT_FALSE(controller.lastError().isEmpty());
+    EXPECT_FALSE(outcome.reason.isEmpty());
     choose(kSpeedId);
-    EXPECT_TRUE(controller.saveProject(false));
+    EXPECT_TRUE((outcome = controller.saveProject(false)).ok);
     EXPECT_EQ(readFile(profile), before);
     EXPECT_EQ(program.storedSetting("LastProjectPath"), runFile()); // proposed by "Save as"
 }
@@ -61,11 +62,11 @@ TEST_F(ProjectControllerTest, KeepsARunFileThatItCannotRead)
 {
     EXPECT_EQ(controller.file(), runFile());
     EXPECT_EQ(program.storedSetting("LastProjectPath"), runFile());
-    EXPECT_FALSE(controller.readLast()) << "the first run has none";
-    EXPECT_TRUE(controller.lastError().isEmpty());
+    EXPECT_FALSE((outcome = controller.readLast()).ok) << "the first run has none";
+    EXPECT_TRUE(outcome.reason.isEmpty());
     ASSERT_TRUE(writeFile(runFile(), "<VelixProject><Para"));
-    EXPECT_FALSE(controller.readLast());
-    EXPECT_FALSE(controller.lastError().isEmpty());
+    EXPECT_FALSE((outcome = controller.readLast()).ok);
+    EXPECT_FALSE(outcome.reason.isEmpty());
     choose(kSpeedId);
     controller.saveOnQuit();
     EXPECT_TRUE(holds(runFile(), kSpeed));
@@ -75,24 +76,24 @@ TEST_F(ProjectControllerTest, KeepsARunFileThatItCannotRead)
 TEST_F(ProjectControllerTest, SavesWithoutAskingAndAsksForANewName)
 {
     choose(kSpeedId);
-    EXPECT_TRUE(controller.saveProject(false));
+    EXPECT_TRUE((outcome = controller.saveProject(false)).ok);
     EXPECT_TRUE(program.dialogs.takeAsked().isEmpty());
     EXPECT_TRUE(holds(runFile(), kSpeed));
     EXPECT_FALSE(controller.isModified());
 
-    EXPECT_FALSE(controller.saveProject(true)); // cancelled
+    EXPECT_FALSE((outcome = controller.saveProject(true)).ok); // cancelled
     EXPECT_EQ(controller.file(), runFile());
     EXPECT_EQ(program.dialogs.lastStart, runFile());
     EXPECT_EQ(program.dialogs.lastFilter, QStringLiteral("Project Files (*.xml)"));
 
     program.dialogs.file = file("mine");
-    EXPECT_TRUE(controller.saveProject(true));
+    EXPECT_TRUE((outcome = controller.saveProject(true)).ok);
     EXPECT_EQ(program.dialogs.takeAsked().value(1), QStringLiteral("Save VELIX Project"));
     EXPECT_EQ(controller.file(), file("mine.xml"));
     EXPECT_EQ(program.storedSetting("LastProjectPath"), file("mine.xml"));
 
     choose(kOilId);
-    EXPECT_TRUE(controller.saveProject(false)); // goes to that file from now on
+    EXPECT_TRUE((outcome = controller.saveProject(false)).ok); // goes to that file from now on
     EXPECT_TRUE(holds(file("mine.xml"), kOil));
     EXPECT_TRUE(holds(runFile(), kSpeed));
 }
@@ -101,34 +102,34 @@ TEST_F(ProjectControllerTest, DoesNotReplaceAFileThatTheUserDidNotName)
 {
     ASSERT_TRUE(writeFile(file("other.xml"), "mine"));
     program.dialogs.file = file("other");
-    EXPECT_FALSE(controller.saveProject(true));
+    EXPECT_FALSE((outcome = controller.saveProject(true)).ok);
     EXPECT_EQ(readFile(file("other.xml")), QByteArray("mine"));
     program.dialogs.agrees = true;
-    EXPECT_TRUE(controller.saveProject(true));
+    EXPECT_TRUE((outcome = controller.saveProject(true)).ok);
     EXPECT_TRUE(holds(file("other.xml"), "VelixProject"));
 }
 
 TEST_F(ProjectControllerTest, NewAndOpenAskAboutUnsavedChangesOnly)
 {
-    EXPECT_TRUE(controller.newProject());
+    EXPECT_TRUE((outcome = controller.newProject()).ok);
     EXPECT_TRUE(program.dialogs.takeAsked().isEmpty());
 
     choose(kSpeedId);
     program.dialogs.answer = DialogService::Answer::Cancel;
-    EXPECT_FALSE(controller.newProject());
-    EXPECT_FALSE(controller.openProject());
+    EXPECT_FALSE((outcome = controller.newProject()).ok);
+    EXPECT_FALSE((outcome = controller.openProject()).ok);
     EXPECT_EQ(program.dialogs.takeAsked(), (QStringList{kQuestion, kQuestion}));
     EXPECT_TRUE(controller.isModified());
     EXPECT_EQ(program.selection(), QLatin1String(kSpeed));
 
     program.dialogs.answer = DialogService::Answer::Yes;
-    EXPECT_TRUE(controller.newProject());
+    EXPECT_TRUE((outcome = controller.newProject()).ok);
     EXPECT_TRUE(holds(runFile(), kSpeed));
     EXPECT_EQ(program.selection(), QString());
 
     choose(kOilId);
     program.dialogs.answer = DialogService::Answer::No;
-    EXPECT_TRUE(controller.newProject());
+    EXPECT_TRUE((outcome = controller.newProject()).ok);
     EXPECT_TRUE(holds(runFile(), kSpeed));
 }
 
@@ -136,13 +137,13 @@ TEST_F(ProjectControllerTest, AFailedSaveDoesNotGoOnToNew)
 {
     choose(kSpeedId);
     program.dialogs.file = file("none/there.xml");
-    EXPECT_FALSE(controller.saveProject(true));
-    EXPECT_TRUE(controller.lastError().contains(file("none/there.xml")));
+    EXPECT_FALSE((outcome = controller.saveProject(true)).ok);
+    EXPECT_TRUE(outcome.reason.contains(file("none/there.xml")));
     EXPECT_EQ(controller.file(), runFile());
 
     ASSERT_TRUE(QDir().mkpath(runFile())); // a folder in the place of the file
     program.dialogs.answer = DialogService::Answer::Yes;
-    EXPECT_FALSE(controller.newProject());
+    EXPECT_FALSE((outcome = controller.newProject()).ok);
     EXPECT_EQ(program.selection(), QLatin1String(kSpeed));
     EXPECT_TRUE(controller.isModified());
 }
@@ -154,19 +155,19 @@ TEST_F(ProjectControllerTest, OpeningMakesThatFileTheOneThatIsSaved)
     program.dialogs.answer = DialogService::Answer::No;
     program.dialogs.file = file("a.xml");
     choose(kSpeedId);
-    EXPECT_TRUE(controller.openProject());
+    EXPECT_TRUE((outcome = controller.openProject()).ok);
     EXPECT_EQ(program.dialogs.takeAsked().value(1), QStringLiteral("Open VELIX Project"));
     EXPECT_EQ(program.selection(), QLatin1String(kOil));
     EXPECT_EQ(controller.file(), file("a.xml"));
     EXPECT_EQ(program.storedSetting("LastProjectPath"), file("a.xml"));
 
     program.dialogs.file = file("missing.xml");
-    EXPECT_FALSE(controller.openProject());
-    EXPECT_FALSE(controller.lastError().isEmpty());
+    EXPECT_FALSE((outcome = controller.openProject()).ok);
+    EXPECT_FALSE(outcome.reason.isEmpty());
     EXPECT_EQ(controller.file(), file("a.xml"));
     EXPECT_EQ(program.selection(), QLatin1String(kOil));
 
-    EXPECT_TRUE(controller.newProject());
+    EXPECT_TRUE((outcome = controller.newProject()).ok);
     EXPECT_EQ(controller.file(), runFile());
 }
 
@@ -176,7 +177,7 @@ TEST_F(ProjectControllerTest, QuittingWritesTheRunsOwnFileAndNoOther)
     EXPECT_FALSE(QFile::exists(runFile())) << "nothing was done";
     choose(kOilId);
     program.dialogs.file = file("a.xml");
-    ASSERT_TRUE(controller.saveProject(true));
+    ASSERT_TRUE((outcome = controller.saveProject(true)).ok);
     const QByteArray saved = readFile(file("a.xml"));
     controller.saveOnQuit();
     EXPECT_TRUE(holds(runFile(), kOil)) << "saved elsewhere";
@@ -187,7 +188,7 @@ TEST_F(ProjectControllerTest, QuittingWritesTheRunsOwnFileAndNoOther)
     EXPECT_TRUE(holds(runFile(), kSpeed));
     EXPECT_EQ(readFile(file("a.xml")), saved);
 
-    ASSERT_TRUE(controller.openProject());
+    ASSERT_TRUE((outcome = controller.openProject()).ok);
     ASSERT_TRUE(QFile::remove(runFile()));
     controller.saveOnQuit();
     EXPECT_TRUE(holds(runFile(), kOil)) << "opened from elsewhere";

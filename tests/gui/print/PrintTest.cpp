@@ -1,6 +1,7 @@
 #include "core/Property.h"
 #include "gui/look/Palette.h"
 #include "gui/print/PrintController.h"
+#include "gui/print/PrintHeader.h"
 #include "tests/gui/FakeDialogs.h"
 #include "tests/support/TestFile.h"
 #include "views/events/EventPrint.h"
@@ -150,7 +151,7 @@ TEST_F(PrintControllerTest, WritesAllPagesWhetherSavedOrPrintedToAFile)
     for (const bool print : {false, true}) {
         dialogs.file = folder.filePath(print ? QStringLiteral("a.pdf") : QStringLiteral("b.pdf"));
         view.painted.clear();
-        print ? controller.print(view, header) : controller.savePdf(view, header);
+        print ? controller.print(&view, header) : controller.savePdf(&view, header);
         EXPECT_EQ(view.painted, QList<int>({1, 2, 3}));
         EXPECT_TRUE(written().startsWith("%PDF"));
         EXPECT_TRUE(written().contains("/Count 3"));
@@ -161,23 +162,23 @@ TEST_F(PrintControllerTest, WritesAllPagesWhetherSavedOrPrintedToAFile)
 
 TEST_F(PrintControllerTest, SuggestsAFileNameThatIsOneAndRemembersTheFolder)
 {
-    controller.print(view, header); // cancelled, as the next
+    controller.print(&view, header); // cancelled, as the next
     EXPECT_EQ(dialogs.lastStart, QStringLiteral("CARD Limits-Warnings"));
-    controller.savePdf(view, header);
+    controller.savePdf(&view, header);
     EXPECT_TRUE(dialogs.lastStart.endsWith(QStringLiteral("/CARD Limits-Warnings.pdf")));
     EXPECT_TRUE(notices.isEmpty());
     EXPECT_TRUE(view.painted.isEmpty());
 
     dialogs.file = folder.filePath(QStringLiteral("c.pdf"));
-    controller.savePdf(view, header);
-    controller.savePdf(view, header);
+    controller.savePdf(&view, header);
+    controller.savePdf(&view, header);
     EXPECT_EQ(dialogs.lastStart, folder.filePath(QStringLiteral("CARD Limits-Warnings.pdf")));
 }
 
 TEST_F(PrintControllerTest, TellsWhyAFileCouldNotBeWritten)
 {
     dialogs.file = folder.filePath(QStringLiteral("missing/d.pdf"));
-    controller.savePdf(view, header);
+    controller.savePdf(&view, header);
     ASSERT_EQ(notices.size(), 1);
     EXPECT_TRUE(notices.first().contains(dialogs.file));
     EXPECT_FALSE(QFile::exists(dialogs.file));
