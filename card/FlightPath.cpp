@@ -1,6 +1,7 @@
 #include "card/FlightPath.h"
 
 #include "card/RecordData.h"
+#include "platform/tessel/Geodetic.h"
 #include "profile/Profile.h"
 
 #include <algorithm>
@@ -10,9 +11,10 @@ namespace VELIX {
 
 namespace {
 
-constexpr double kRadians = 0.017453292519943295;
-constexpr double kMetresPerDegree = 111120.0; // 60 nautical miles
-constexpr double kStandstill = 0.5;           // m between samples: too short to tell a course
+using Tessel::Geodetic::kMetresPerDegree;
+using Tessel::Geodetic::kRadiansPerDegree;
+
+constexpr double kStandstill = 0.5; // m between samples: too short to tell a course
 
 struct Sample
 {
@@ -132,11 +134,11 @@ void orient(std::vector<FlightPathPoint>& path)
         const FlightPathPoint& to = path[i + 1 < path.size() ? i + 1 : i];
         const double north = (to.latitude - from.latitude) * kMetresPerDegree;
         const double east = longitudeDifference(from.longitude, to.longitude) * kMetresPerDegree *
-                            std::cos(path[i].latitude * kRadians);
+                            std::cos(path[i].latitude * kRadiansPerDegree);
         const double distance = std::hypot(north, east);
         const double duration = to.time - from.time;
         if (distance > kStandstill) {
-            const double degrees = std::atan2(east, north) / kRadians;
+            const double degrees = std::atan2(east, north) / kRadiansPerDegree;
             course = degrees < 0.0 ? degrees + 360.0 : degrees;
         }
         path[i].course = course;

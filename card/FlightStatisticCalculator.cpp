@@ -1,6 +1,7 @@
 #include "card/FlightStatisticCalculator.h"
 
 #include "card/RecordData.h"
+#include "platform/tessel/Geodetic.h"
 #include "profile/Profile.h"
 
 #include <algorithm>
@@ -29,14 +30,14 @@ QString volumeOf(const QString& flowUnit)
 
 double greatCircleDistance(double lat1, double lon1, double lat2, double lon2)
 {
-    constexpr double kRadians = 0.017453292519943295;
-    constexpr double kDegrees = 57.29577951308232;
-    const double a = lat1 * kRadians;
-    const double b = lat2 * kRadians;
-    const double cosine =
-        std::sin(a) * std::sin(b) + std::cos(a) * std::cos(b) * std::cos((lon2 - lon1) * kRadians);
+    using namespace Tessel::Geodetic;
+    const double a = lat1 * kRadiansPerDegree;
+    const double b = lat2 * kRadiansPerDegree;
+    const double cosine = std::sin(a) * std::sin(b) +
+                          std::cos(a) * std::cos(b) * std::cos((lon2 - lon1) * kRadiansPerDegree);
     // Rounding can carry the cosine of two equal points beyond 1.
-    return std::acos(std::clamp(cosine, -1.0, 1.0)) * kDegrees * 60.0 * 1852.0;
+    return std::acos(std::clamp(cosine, -1.0, 1.0)) * kDegreesPerRadian * 60.0 *
+           kMetresPerNauticalMile;
 }
 
 FlightStatisticCalculator::FlightStatisticCalculator(const RecordData& record, Profile& profile,

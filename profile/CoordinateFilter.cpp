@@ -1,14 +1,15 @@
 #include "profile/CoordinateFilter.h"
 
+#include "platform/tessel/Geodetic.h"
+
 #include <cmath>
 
 namespace VELIX {
 
 namespace {
 
-constexpr double kDegree = 0.017453292519943295; // rad
-constexpr double kLimit = 0.08999280057595392;   // degrees of latitude: 10 km
-constexpr int kTrusted = 4;                      // accepted positions before jumps are judged
+constexpr double kLimit = 0.08999280057595392; // degrees of latitude: 10 km
+constexpr int kTrusted = 4;                    // accepted positions before jumps are judged
 
 } // namespace
 
@@ -51,7 +52,8 @@ double CoordinateFilter::longitude(double value)
     if (distance > 180.0) {
         distance = std::fabs(360.0 - distance);
     }
-    return accept(mLongitude, degrees, distance, kLimit / std::cos(mLatitude.last * kDegree));
+    return accept(mLongitude, degrees, distance,
+                  kLimit / std::cos(mLatitude.last * Tessel::Geodetic::kRadiansPerDegree));
 }
 
 } // namespace VELIX

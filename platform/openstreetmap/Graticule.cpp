@@ -68,7 +68,7 @@ std::vector<GraticuleLine> graticule(const MapProjection& projection, double ste
     to = std::min(last(northWest.latitude), first(southEast.latitude) + kMostLines);
     for (double i = first(southEast.latitude); i <= to; ++i) {
         const double latitude = i * step;
-        if (std::abs(latitude) < kLatitudeLimit) {
+        if (std::abs(latitude) < Tessel::Geodetic::kMercatorLatitudeLimit) {
             const double y = projection.mercatorToWindow(toMercator({latitude, 0.0})).y;
             lines.push_back({false, y, graticuleLabel(latitude, step, false)});
         }

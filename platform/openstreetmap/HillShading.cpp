@@ -5,12 +5,12 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numbers>
 
 namespace OpenStreet {
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
 /// From here on a tile touches four files at most.
 constexpr int kSmallestZoom = 9;
 constexpr int kPixels = kTilePixels;
@@ -26,7 +26,7 @@ HeightGrid heightsOf(TerrainStore& terrain, const TileAddress& tile)
     HeightGrid grid;
     grid.columns = kPixels + 2;
     grid.rows = kPixels + 2;
-    grid.spacingX = pixel * std::cos(middle.latitude * kPi / 180.0);
+    grid.spacingX = pixel * std::cos(middle.latitude * std::numbers::pi / 180.0);
     grid.spacingY = grid.spacingX;
     grid.heights.reserve(static_cast<std::size_t>(grid.columns) *
                          static_cast<std::size_t>(grid.rows));

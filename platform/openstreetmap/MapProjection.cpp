@@ -2,27 +2,32 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 namespace OpenStreet {
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
-constexpr double kRadius = kMercatorHalf / kPi;
-constexpr double kDegree = kPi / 180.0;
+/// Larger than Tessel::Geodetic::kMercatorRadius by one unit in the last place, which is kept so
+/// that the map stays the same to the last bit.
+constexpr double kRadius = kMercatorHalf / std::numbers::pi;
+using Tessel::Geodetic::kMercatorLatitudeLimit;
+using Tessel::Geodetic::kRadiansPerDegree;
 
 } // namespace
 
 MercatorPoint toMercator(const GeoPoint& place)
 {
-    const double latitude = std::clamp(place.latitude, -kLatitudeLimit, kLatitudeLimit);
-    return {kRadius * place.longitude * kDegree,
-            kRadius * std::asinh(std::tan(latitude * kDegree))};
+    const double latitude =
+        std::clamp(place.latitude, -kMercatorLatitudeLimit, kMercatorLatitudeLimit);
+    return {kRadius * place.longitude * kRadiansPerDegree,
+            kRadius * std::asinh(std::tan(latitude * kRadiansPerDegree))};
 }
 
 GeoPoint fromMercator(const MercatorPoint& place)
 {
-    return {std::atan(std::sinh(place.y / kRadius)) / kDegree, place.x / kRadius / kDegree};
+    return {std::atan(std::sinh(place.y / kRadius)) / kRadiansPerDegree,
+            place.x / kRadius / kRadiansPerDegree};
 }
 
 double normalizedLongitude(double degrees)
@@ -36,7 +41,7 @@ void MapProjection::setCentre(const GeoPoint& centre)
     if (!std::isfinite(centre.latitude) || !std::isfinite(centre.longitude)) {
         return;
     }
-    mCentre = {std::clamp(centre.latitude, -kLatitudeLimit, kLatitudeLimit),
+    mCentre = {std::clamp(centre.latitude, -kMercatorLatitudeLimit, kMercatorLatitudeLimit),
                normalizedLongitude(centre.longitude)};
     update();
 }
@@ -61,7 +66,7 @@ void MapProjection::setWindowSize(int width, int height)
 
 void MapProjection::update()
 {
-    const double stretch = std::cos(mCentre.latitude * kDegree);
+    const double stretch = std::cos(mCentre.latitude * kRadiansPerDegree);
     mMercatorCentre = toMercator(mCentre);
     mPerPixelX = mRangeWidth / mWindowWidth / stretch;
     mPerPixelY = mRangeHeight / mWindowHeight / stretch;

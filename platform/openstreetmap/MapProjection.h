@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/tessel/Geodetic.h"
+
 namespace OpenStreet {
 
 /// Degrees; east and north positive.
@@ -27,10 +29,7 @@ struct MercatorPoint
     bool operator==(const MercatorPoint&) const = default;
 };
 
-/// Half the circumference of the map's sphere: the map reaches that far in all four directions.
-inline constexpr double kMercatorHalf = 20037508.342789244;
-/// The latitude at which the square map ends.
-inline constexpr double kLatitudeLimit = 85.051128779806604;
+using Tessel::Geodetic::kMercatorHalf;
 
 /// Latitudes beyond the limit are taken at the limit.
 MercatorPoint toMercator(const GeoPoint& place);
@@ -70,7 +69,6 @@ public:
 
     /// Mercator metres across one device pixel.
     [[nodiscard]] double metresPerPixelX() const { return mPerPixelX; }
-    [[nodiscard]] double metresPerPixelY() const { return mPerPixelY; }
 
 private:
     void update();

@@ -1,6 +1,5 @@
 #include "platform/tessel/Geodetic.h"
 
-#include <GeographicLib/Constants.hpp>
 #include <GeographicLib/Geocentric.hpp>
 #include <GeographicLib/Geodesic.hpp>
 #include <GeographicLib/Math.hpp>
@@ -15,7 +14,7 @@ namespace {
 double northing(double latitude)
 {
     const double onMap = std::clamp(latitude, -kMercatorLatitudeLimit, kMercatorLatitudeLimit);
-    return GeographicLib::Constants::WGS84_a() * std::atanh(GeographicLib::Math::sind(onMap));
+    return kMercatorRadius * std::atanh(GeographicLib::Math::sind(onMap));
 }
 
 } // namespace
@@ -23,8 +22,13 @@ double northing(double latitude)
 Cartesian latLong2Cartesian(const Position& position, const Position& reference)
 {
     const double eastward = std::remainder(position.longitude - reference.longitude, 360.0);
-    return {GeographicLib::Constants::WGS84_a() * eastward * GeographicLib::Math::degree(),
+    return {kMercatorRadius * eastward * kRadiansPerDegree,
             northing(position.latitude) - northing(reference.latitude), position.altitude};
+}
+
+double mercatorLatitude(double northing)
+{
+    return std::atan(std::sinh(northing / kMercatorRadius));
 }
 
 Cartesian latLong2Geocentric(const Position& position)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <numbers>
+
 namespace Tessel::Geodetic {
 
 /// A place on or above the WGS 84 ellipsoid.
@@ -17,10 +19,21 @@ struct Cartesian
     double z = 0.0; ///< metres
 };
 
+inline constexpr double kRadiansPerDegree = std::numbers::pi / 180.0;
+inline constexpr double kDegreesPerRadian = 180.0 / std::numbers::pi;
+inline constexpr double kMetresPerNauticalMile = 1852.0;
+/// Of latitude, or of longitude at the equator.
+inline constexpr double kMetresPerDegree = 60.0 * kMetresPerNauticalMile;
+
+/// Radius of the sphere that Web Mercator maps, in metres.
+inline constexpr double kMercatorRadius = 6378137.0;
+/// Half the circumference of that sphere, in metres: the map reaches that far in all four
+/// directions.
+inline constexpr double kMercatorHalf = std::numbers::pi * kMercatorRadius;
 /// The latitude at which Web Mercator ends, in degrees: the world's square is as high as wide.
 inline constexpr double kMercatorLatitudeLimit = 85.051128779806604;
 
-/// Web Mercator metres (radius 6,378,137 m): x east and y north of the reference, z the altitude
+/// Returns Web Mercator metres: x east and y north of the reference, z the altitude
 /// of the position itself.
 ///
 /// x goes the short way round the globe, so that a path over the antimeridian stays in one piece
@@ -28,12 +41,15 @@ inline constexpr double kMercatorLatitudeLimit = 85.051128779806604;
 /// are those of the map: away from the equator they are longer than metres on the ground.
 Cartesian latLong2Cartesian(const Position& position, const Position& reference);
 
-/// Geocentric coordinates: origin in the Earth's centre, x through 0 N 0 E, z through the north
-/// pole. Not a number for a latitude out of range.
+/// Returns the latitude, in radians, of a place so many Web Mercator metres north of the equator.
+double mercatorLatitude(double northing);
+
+/// Returns geocentric coordinates: origin in the Earth's centre, x through 0 N 0 E, z through the
+/// north pole. Not a number for a latitude out of range.
 Cartesian latLong2Geocentric(const Position& position);
 
-/// Length in metres of the shortest line on the ellipsoid, altitudes left aside. Not a number for
-/// a latitude out of range.
+/// Returns the length in metres of the shortest line on the ellipsoid, altitudes left aside. Not a
+/// number for a latitude out of range.
 double geodesicDistance(const Position& from, const Position& to);
 
 } // namespace Tessel::Geodetic

@@ -1,11 +1,12 @@
 #include "tools/democard/Airfield.h"
 
+#include "platform/tessel/Geodetic.h"
 #include "tools/democard/PlainMath.h"
 
 namespace VELIX::Demo {
 
 namespace {
-constexpr double kMetresPerDegree = 111120.0;
+using Tessel::Geodetic::kMetresPerDegree;
 constexpr double kLatitude = 49.0 + 7.31 / 60.0;
 constexpr double kLongitude = 12.0 + 32.06 / 60.0;
 } // namespace

@@ -1,6 +1,7 @@
 #include "platform/tessel/opengl/MatrixSet.h"
 
 #include <cmath>
+#include <numbers>
 
 namespace Tessel::OpenGL {
 
@@ -69,7 +70,7 @@ void MatrixSet::scale(double x, double y, double z)
 
 void MatrixSet::rotate(double degrees)
 {
-    const double angle = degrees * std::acos(-1.0) / 180.0;
+    const double angle = degrees * std::numbers::pi / 180.0;
     Matrix step = kIdentity;
     step[0] = std::cos(angle);
     step[1] = std::sin(angle);

@@ -1,6 +1,7 @@
 #include "views/map/model/MapFollower.h"
 
 #include "platform/tessel/Filter.h"
+#include "platform/tessel/Geodetic.h"
 #include "views/map/model/MapContext.h"
 #include "views/map/model/MapNavigation.h"
 
@@ -10,11 +11,12 @@ namespace VELIX {
 
 namespace {
 
+using Tessel::Geodetic::kMetresPerDegree;
+using Tessel::Geodetic::kRadiansPerDegree;
+
 constexpr double kTimeConstant = 0.2; // s
 constexpr double kStep = 0.02;        // s: a frame
 constexpr double kReached = 10.0;     // m
-constexpr double kRadians = 0.017453292519943295;
-constexpr double kMetresPerDegree = 60.0 * 1852.0;
 
 double decayed(double offset)
 {
@@ -28,7 +30,7 @@ bool MapFollower::step(MapContext& context, double latitude, double longitude)
     // Offsets, so that the way goes the short way round the globe.
     double north = decayed(context.centreLatitude - latitude);
     double east = decayed(std::remainder(context.centreLongitude - longitude, 360.0));
-    const double metresEast = east * std::cos(latitude * kRadians);
+    const double metresEast = east * std::cos(latitude * kRadiansPerDegree);
     bool underWay = std::hypot(north, metresEast) * kMetresPerDegree >= kReached;
     if (!underWay) {
         north = 0.0;

@@ -10,8 +10,10 @@ namespace VELIX::MapNavigation {
 
 namespace {
 
-constexpr double kRadians = 0.017453292519943295;
-constexpr double kMetresPerDegree = 60.0 * 1852.0;
+using Tessel::Geodetic::kMetresPerDegree;
+using Tessel::Geodetic::kRadiansPerDegree;
+using Tessel::Geodetic::mercatorLatitude;
+
 constexpr double kKeyZoom = 1.03;
 constexpr double kKeyPan = 0.015; // of the range
 constexpr double kWheelZoom = 1.1;
@@ -64,7 +66,7 @@ void setCentre(MapContext& context, double latitude, double longitude)
 void keyPan(MapContext& context, int north, int east)
 {
     const double step = kKeyPan * context.visibleRange / kMetresPerDegree;
-    const double stretch = std::cos(context.centreLatitude * kRadians);
+    const double stretch = std::cos(context.centreLatitude * kRadiansPerDegree);
     setCentre(context, context.centreLatitude + north * step,
               context.centreLongitude + east * step / stretch);
 }
@@ -74,14 +76,14 @@ void fit(MapContext& context, const MapExtent& extent, double aspect)
     const double north = northing(extent.north);
     const double south = northing(extent.south);
     // The middle of the map's square, which is stretched towards the poles.
-    const double middle = std::atan(std::sinh((north + south) / 2.0 / 6378137.0)) / kRadians;
+    const double middle = mercatorLatitude((north + south) / 2.0) / kRadiansPerDegree;
     setCentre(context, middle, (extent.west + extent.east) / 2.0);
 
     const double across = (extent.east - extent.west) * kMetresPerDegree;
     const double along = (extent.north - extent.south) * kMetresPerDegree * aspect;
     // The stretch makes a path over many latitudes higher than its degrees say.
     const double stretched =
-        (north - south) * std::cos(context.centreLatitude * kRadians) * aspect / kMargin;
+        (north - south) * std::cos(context.centreLatitude * kRadiansPerDegree) * aspect / kMargin;
     const double range = kMargin * std::max({across, along, stretched});
     context.visibleRange = clampedRange(std::max(range, kLeastFit));
 }

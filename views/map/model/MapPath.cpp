@@ -10,10 +10,8 @@ namespace VELIX {
 namespace {
 
 using Tessel::Geodetic::latLong2Cartesian;
+using Tessel::Geodetic::mercatorLatitude;
 
-constexpr double kDegrees = 57.295779513082321;
-constexpr double kEarthRadius = 6378137.0; // m, of the Web Mercator map
-constexpr double kWorld = 2.0 * 3.14159265358979323846 * kEarthRadius;
 constexpr std::size_t kBoxPoints = 256;
 
 } // namespace
@@ -71,7 +69,7 @@ void MapPath::findBoxes()
     mMiddle = {(all.left + all.right) / 2.0, (all.bottom + all.top) / 2.0};
     mHalfWidth = (all.right - all.left) / 2.0;
     mHalfHeight = (all.top - all.bottom) / 2.0;
-    mMiddleLatitude = std::atan(std::sinh((mNorthing + mMiddle.y) / kEarthRadius)) * kDegrees;
+    mMiddleLatitude = mercatorLatitude(mNorthing + mMiddle.y) * Tessel::Geodetic::kDegreesPerRadian;
     mMiddleLongitude = (mExtent.west + mExtent.east) / 2.0;
 }
 
@@ -83,7 +81,9 @@ std::optional<MapPath::Place> MapPath::nearest(double latitude, double longitude
     }
     const auto fromMiddle =
         latLong2Cartesian({latitude, longitude, 0.0}, {0.0, mMiddleLongitude, 0.0});
-    const Point place{mMiddle.x + std::remainder(fromMiddle.x, kWorld), fromMiddle.y - mNorthing};
+    const Point place{mMiddle.x +
+                          std::remainder(fromMiddle.x, 2.0 * Tessel::Geodetic::kMercatorHalf),
+                      fromMiddle.y - mNorthing};
     std::optional<Place> best;
     for (std::size_t i = 0; i < mBoxes.size(); ++i) {
         const Box& box = mBoxes[i];

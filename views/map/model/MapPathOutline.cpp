@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <numbers>
 
 namespace VELIX {
 
@@ -46,7 +47,7 @@ public:
             mHigh = spread;
             return true;
         }
-        const double turn = std::remainder(direction - mMiddle, 2.0 * std::acos(-1.0));
+        const double turn = std::remainder(direction - mMiddle, 2.0 * std::numbers::pi);
         if (turn < mLow || turn > mHigh) {
             return false;
         }

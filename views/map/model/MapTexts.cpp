@@ -1,6 +1,7 @@
 #include "views/map/model/MapTexts.h"
 
 #include "card/CardContainer.h"
+#include "platform/tessel/Geodetic.h"
 #include "profile/Profile.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@ namespace VELIX::MapTexts {
 
 namespace {
 
-constexpr double kMetresPerNm = 1852.0;
+using Tessel::Geodetic::kMetresPerNauticalMile;
 constexpr double kMetresPerFoot = 0.3048;
 constexpr double kMetresPerKm = 1000.0;
 /// Below a tenth of a mile people think in feet.
@@ -44,8 +45,8 @@ MapScaleBar scaleBar(double mostMetres, bool imperial)
     double unit = mostMetres >= kMetresPerKm ? kMetresPerKm : 1.0;
     QString name = unit > 1.0 ? QStringLiteral("km") : QStringLiteral("m");
     if (imperial) {
-        const bool far = mostMetres >= kLeastNm * kMetresPerNm;
-        unit = far ? kMetresPerNm : kMetresPerFoot;
+        const bool far = mostMetres >= kLeastNm * kMetresPerNauticalMile;
+        unit = far ? kMetresPerNauticalMile : kMetresPerFoot;
         name = far ? QStringLiteral("NM") : QStringLiteral("ft");
     }
     const double step = roundStep(mostMetres / unit);
