@@ -1,19 +1,21 @@
 #include "views/map/WidgetMap.h"
+
 #include "card/CardContainer.h"
 #include "core/DataHandler.h"
+#include "core/MapSettings.h"
 #include "core/Property.h"
-#include "core/Revision.h"
-#include "platform/openstreetmap/OpenStreetMap.h"
 #include "platform/tessel/Timer.h"
-#include "views/map/MapSymbol.h"
+#include "views/map/MapScene.h"
+#include "views/map/MapTiles.h"
 #include "views/map/model/MapContext.h"
-#include "views/map/model/MapNavigation.h"
 
-#include <QFile>
+#include <QMouseEvent>
+#include <QNativeGestureEvent>
 #include <QOpenGLContext>
 #include <QShowEvent>
+#include <QTouchEvent>
+#include <QWheelEvent>
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -23,14 +25,7 @@ namespace {
 
 constexpr int kPeriod = 20;       // ms
 constexpr int kResizeDelay = 100; // ms
-constexpr double kLongest = 1.0;  // s without a repaint
-/// The same while tiles come: with a picture for each of them most of the time would go into
-/// pictures.
-constexpr double kLongestLoading = 0.04;
 constexpr int kLeastSize = 100;
-constexpr int kLabelPixels = 11;
-constexpr double kPathWidth = 3.0;
-constexpr double kSymbolSize = 40.0;
 
 } // namespace
 
@@ -42,16 +37,17 @@ WidgetMap::WidgetMap(QWidget* parent, MapContext& context, Property& settings,
                      const std::string& dataPath)
     : QOpenGLWidget(parent),
       mContext(&context),
-      mSettings(settings),
-      mDataPath(dataPath),
-      mMap(std::make_unique<OpenStreet::OpenStreetMap>())
+      mTiles(std::make_unique<MapTiles>(settings, dataPath)),
+      mCamera(context, mTiles->map()),
+      mScene(std::make_unique<MapScene>(mCamera)),
+      mInput(mCamera, mChanges, [this] { emit signalUpdateMode(); })
 {
     setMouseTracking(true);
     setAttribute(Qt::WA_AcceptTouchEvents);
     setFocusPolicy(Qt::StrongFocus);
     setMinimumSize(kLeastSize, kLeastSize);
     setAccessibleName(tr("Map"));
-    mContext->shading = MapSettings::read(mSettings).shading;
+    mContext->shading = MapSettings::read(settings).shading;
 
     connect(&mTimer, &QTimer::timeout, this, &WidgetMap::slotTimeout);
     mTimer.start(kPeriod);
@@ -68,63 +64,30 @@ WidgetMap::~WidgetMap()
     if (context() != nullptr) {
         makeCurrent();
     }
-    mMap.reset();
-    mLines.clear();
+    mTiles.reset();
+    mScene.reset();
     if (context() != nullptr) {
         doneCurrent();
     }
 }
 
-/// Not before the first picture: what is never shown needs neither folders nor a network.
-void WidgetMap::setUpMap()
-{
-    if (mMapSetUp) {
-        return;
-    }
-    mMapSetUp = true;
-    mMap->setUserAgent(Revision::getRevisionString().c_str());
-    mTakenSettings = MapSettings::read(mSettings);
-    mMap->setTileCacheLimit(mTakenSettings.cacheLimit);
-    if (!mDataPath.empty()) {
-        mMap->setTileDirectory((mDataPath + "/tiles/").c_str());
-        mMap->setTerrainPath((mDataPath + "/terrain/").c_str());
-    }
-    mMap->setProjection(OpenStreet::WebMercator);
-    mMap->setTileServer(mTakenSettings.tileServer.c_str());
-    static_cast<void>(mMap->setCoastLines(":/map/coast.bin")); // without them there is the grid
-    mMap->setArrivedCallback([this] { mLoading = true; });
-    mMap->setFailureCallback([this](const char* url, const char* reason) {
-        mNotice.fail(url, reason);
-        mDirty = true;
-    });
-}
-
-/// Not before the widget has a screen; another screen may have another ratio.
-void WidgetMap::adoptRatio()
-{
-    if (mRatio == devicePixelRatioF()) {
-        return;
-    }
-    mRatio = devicePixelRatioF();
-    mOverlay.release();
-    mOverlay.load(mRatio);
-    mSymbol.setImage(mapAircraft(static_cast<int>(std::lround(kSymbolSize * mRatio))));
-    QFile font(QStringLiteral(":monofont.ttf"));
-    if (font.open(QIODevice::ReadOnly)) {
-        const QByteArray bytes = font.readAll();
-        mMap->setLabelFont(bytes.constData(), static_cast<std::size_t>(bytes.size()),
-                           static_cast<int>(std::lround(kLabelPixels * mRatio)));
-    }
-    mStaleLines = true; // their width is in pixels
-}
+// --- the frame buffer
 
 void WidgetMap::initializeGL()
 {
-    setUpMap();
-    mRatio = 0.0; // a new context has nothing yet
-    adoptRatio();
+    mTiles->setUp([this] { mChanges.setLoading(true); }, [this] { mChanges.mark(); });
+    loadForRatio(); // a new context has nothing yet
     // A widget that moves to another window gets a new context.
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &WidgetMap::releaseGl);
+}
+
+/// Not before the widget has a screen; another screen may have another ratio.
+void WidgetMap::loadForRatio()
+{
+    mCamera.setWindow(size(), devicePixelRatioF());
+    mScene->load();
+    mTiles->loadFont(mCamera.ratio());
+    mChanges.mark(MapChanges::Part::Lines); // their width is in pixels
 }
 
 void WidgetMap::releaseGl()
@@ -133,23 +96,98 @@ void WidgetMap::releaseGl()
         return;
     }
     makeCurrent();
-    mMap->releaseGl();
-    mLines.release();
-    mSymbol.release();
-    mOverlay.release();
-    mGl.release();
+    mTiles->map().releaseGl();
+    mScene->release();
     doneCurrent();
 }
 
-void WidgetMap::showEvent(QShowEvent* event)
+void WidgetMap::resizeGL(int width, int height)
 {
-    QOpenGLWidget::showEvent(event);
-    if (!mResized) {
-        mResized = true; // a widget that grew with every showing would leave its window
-        mResizeTimer.start(kResizeDelay);
+    Q_UNUSED(width)
+    Q_UNUSED(height)
+    if (mCamera.ratio() != devicePixelRatioF()) {
+        loadForRatio();
     }
-    mRetryTiles = mMapSetUp && !event->spontaneous(); // not with every change of desktop
-    mDirty = true;
+    mCamera.setWindow(size(), mCamera.ratio());
+    mCamera.apply();
+    // Who has not moved the map since wants to see the whole path in the new window, too.
+    if (mCamera.showsFit()) {
+        mChanges.mark(MapChanges::Part::View);
+    }
+    mChanges.mark();
+}
+
+void WidgetMap::setViewPort()
+{
+    mScene->setViewPort();
+}
+
+void WidgetMap::setViewPortOrtho()
+{
+    mScene->setViewPortOrtho();
+}
+
+void WidgetMap::paintGL()
+{
+    ++mPaintCount;
+    const double now = Tessel::Misc::Timer::getTime();
+    prepareFrame();
+    mChanges.beginFrame(now); // what changes from here on is for the next one
+    mInput.applyKeys();
+    if (mTiles->takeSettings(*mContext)) {
+        emit signalUpdateMode();
+    }
+    if (mCamera.follow(mScene->aircraft())) {
+        mChanges.mark();
+    }
+    mCamera.apply();
+    setViewPort();
+    MapScene::clear();
+    mTiles->map().setLabelTop(static_cast<int>(std::lround(mToolsBottom * mCamera.ratio())));
+    mTiles->render(*mContext);
+    mScene->paint(mContext->dragging ? std::nullopt : mInput.mouse(), mTiles->notice());
+    mChanges.setLoading(loadingTiles() != 0);
+}
+
+void WidgetMap::prepareFrame()
+{
+    if (mCamera.ratio() != devicePixelRatioF()) {
+        loadForRatio();
+    }
+    mCamera.apply();
+    if (mChanges.take(MapChanges::Part::Record)) {
+        redrawFlightPath();
+    } else if (mChanges.take(MapChanges::Part::Lines)) {
+        makeLines();
+    }
+    if (mChanges.take(MapChanges::Part::View)) {
+        fitView();
+    }
+}
+
+void WidgetMap::makeLines()
+{
+    mScene->makeLines();
+    if (!mCamera.isFitted()) {
+        mChanges.mark(MapChanges::Part::View);
+    }
+}
+
+void WidgetMap::redrawFlightPath()
+{
+    makeLines();
+    fitView();
+    for (const auto part :
+         {MapChanges::Part::Record, MapChanges::Part::Lines, MapChanges::Part::View}) {
+        static_cast<void>(mChanges.take(part));
+    }
+}
+
+void WidgetMap::fitView()
+{
+    if (!mScene->path().empty()) {
+        mCamera.fit(mScene->path().extent());
+    }
 }
 
 // --- what is shown
@@ -157,84 +195,56 @@ void WidgetMap::showEvent(QShowEvent* event)
 void WidgetMap::setRecordData(RecordData* record)
 {
     mRecord = record;
-    mRedrawPath = true;
-    mFitted = false;
-    mDirty = true;
+    mCamera.forgetFit();
+    mChanges.mark(MapChanges::Part::Record);
 }
 
 void WidgetMap::setFlightPath(const std::vector<FlightPathPoint>* path)
 {
-    mFlightPath = path;
-    mPath = {}; // of points that may be gone
-    mStaleLines = true;
-    mDirty = true;
+    mScene->setFlightPath(path);
+    mChanges.mark(MapChanges::Part::Lines);
 }
 
 void WidgetMap::setColoring(MapColoring coloring)
 {
-    mColoring = std::move(coloring);
-    mStaleLines = true;
-    mDirty = true;
+    mScene->setColoring(std::move(coloring));
+    mChanges.mark(MapChanges::Part::Lines);
 }
 
 void WidgetMap::setAcPosition(const FlightPathPoint& position)
 {
-    mAircraft = position;
+    mScene->setAircraft(position);
     update();
+}
+
+const FlightPathPoint& WidgetMap::acPosition() const
+{
+    return mScene->aircraft();
 }
 
 void WidgetMap::setImperial(bool imperial)
 {
-    mImperial = imperial;
-    mDirty = true;
+    mScene->setImperial(imperial);
+    mChanges.mark();
 }
 
 void WidgetMap::setToolsBottom(int pixels)
 {
-    mDirty = mDirty || pixels != mToolsBottom;
-    mToolsBottom = pixels;
+    if (pixels != mToolsBottom) {
+        mToolsBottom = pixels;
+        mChanges.mark();
+    }
 }
 
 void WidgetMap::fitFlightPath()
 {
-    mRefit = true;
-    mDirty = true;
+    mChanges.mark(MapChanges::Part::View);
 }
 
-void WidgetMap::makeLines()
+void WidgetMap::zoomCentered(double range)
 {
-    mStaleLines = false;
-    if (mPath.empty() && mFlightPath != nullptr) {
-        mPath = MapPath(*mFlightPath);
-    }
-    mLines.build(mPath, mColoring.colors, kPathWidth * mRatio);
-    mRefit = mRefit || !mFitted;
-}
-
-void WidgetMap::redrawFlightPath()
-{
-    mRedrawPath = false;
-    makeLines();
-    fitView();
-}
-
-void WidgetMap::fitView()
-{
-    mRefit = false;
-    if (mPath.empty()) {
-        return;
-    }
-    const double before = mContext->visibleRange;
-    const QSize size = pixels();
-    MapNavigation::fit(*mContext, mPath.extent(),
-                       static_cast<double>(size.width()) / std::max(size.height(), 1));
-    mFollower.keepRange();
-    if (mContext->centreAircraft) {
-        mFollower.setRange(mContext->visibleRange); // the view glides
-        mContext->visibleRange = before;
-    }
-    mFitted = true;
-    mFit = *mContext;
+    mCamera.zoom(range, mInput.mouse());
+    mChanges.mark();
 }
 
 // --- measures
@@ -251,42 +261,20 @@ double WidgetMap::screenToCartesianSize(double pixels) const
 
 void WidgetMap::latLong2Window(double latitude, double longitude, double* x, double* y) const
 {
-    mMap->latLong2Window(latitude, longitude, x, y);
+    mTiles->map().latLong2Window(latitude, longitude, x, y);
 }
 
 int WidgetMap::loadingTiles() const
 {
-    return mMap->nrLoadingTiles();
-}
-
-QSize WidgetMap::pixels() const
-{
-    return {static_cast<int>(std::lround(width() * mRatio)),
-            static_cast<int>(std::lround(height() * mRatio))};
-}
-
-/// The context's centre and range with this window, to all that computes with them.
-void WidgetMap::updateWindow()
-{
-    const QSize size = pixels();
-    MapNavigation::setRange(*mContext, mContext->visibleRange, size.width(), size.height());
-    mMap->setWindowSize(size.width(), size.height());
-    mMap->setLabelTop(static_cast<int>(std::lround(mToolsBottom * mRatio)));
-    mMap->setVisibleRange(mContext->visibleRange, mContext->verticalRange);
-    mMap->setPosition(mContext->centreLatitude, mContext->centreLongitude, 0.0);
+    return mTiles->map().nrLoadingTiles();
 }
 
 // --- timers
 
 void WidgetMap::slotTimeout()
 {
-    if (!isVisible()) {
-        return;
-    }
     const bool moving = mContext->dragging || mContext->panning || mContext->animating;
-    // A clock that was set back must not stop the map.
-    const double still = std::abs(Tessel::Misc::Timer::getTime() - mLastRepaint);
-    if (mDirty || moving || still > (mLoading ? kLongestLoading : kLongest)) {
+    if (isVisible() && mChanges.isDue(moving, Tessel::Misc::Timer::getTime())) {
         update();
     }
 }
@@ -297,48 +285,100 @@ void WidgetMap::slotTimeoutResize()
     updateGeometry(); // the layout puts it back
 }
 
-// --- window and settings
-
-void WidgetMap::resizeGL(int width, int height)
+void WidgetMap::showEvent(QShowEvent* event)
 {
-    Q_UNUSED(width)
-    Q_UNUSED(height)
-    adoptRatio();
-    updateWindow();
-    // Who has not moved the map since wants to see the whole path in the new window, too.
-    mRefit = mRefit || showsFit();
-    mDirty = true;
+    QOpenGLWidget::showEvent(event);
+    if (!mResized) {
+        mResized = true; // a widget that grew with every showing would leave its window
+        mResizeTimer.start(kResizeDelay);
+    }
+    if (!event->spontaneous()) { // not with every change of desktop
+        mTiles->retry();
+    }
+    mChanges.mark();
 }
 
-bool WidgetMap::showsFit() const
+// --- mouse, gestures and keys
+
+bool WidgetMap::event(QEvent* event)
 {
-    return mFitted && mContext->visibleRange == mFit.visibleRange &&
-           mContext->centreLatitude == mFit.centreLatitude &&
-           mContext->centreLongitude == mFit.centreLongitude;
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        if (MapInput::isShadingKey(*static_cast<QKeyEvent*>(event))) {
+            event->accept(); // elsewhere the key saves the project
+            return true;
+        }
+        break;
+    case QEvent::NativeGesture:
+        if (mInput.gesture(*static_cast<QNativeGestureEvent*>(event))) {
+            return true;
+        }
+        break;
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::TouchCancel:
+        mInput.touch(*static_cast<QTouchEvent*>(event));
+        event->accept();
+        return true;
+    default:
+        break;
+    }
+    return QOpenGLWidget::event(event);
 }
 
-void WidgetMap::takeSettings()
+void WidgetMap::mousePressEvent(QMouseEvent* event)
 {
-    const MapSettings settings = MapSettings::read(mSettings);
-    mMap->setShadingContrast(settings.contrast);
-    mMap->setShadingBrightness(settings.brightness);
-    mMap->setShadingFactor(settings.factor);
-    if (settings.tileServer != mTakenSettings.tileServer) {
-        mNotice.reset();
-        mMap->setTileServer(settings.tileServer.c_str());
+    if (!mInput.press(*event)) {
+        QOpenGLWidget::mousePressEvent(event);
     }
-    if (mRetryTiles) {
-        mRetryTiles = false;
-        mMap->retry();
+}
+
+void WidgetMap::mouseMoveEvent(QMouseEvent* event)
+{
+    mInput.move(*event);
+}
+
+void WidgetMap::mouseReleaseEvent(QMouseEvent* event)
+{
+    mInput.release(*event);
+}
+
+void WidgetMap::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    mInput.doubleClick(*event);
+}
+
+void WidgetMap::leaveEvent(QEvent* event)
+{
+    QOpenGLWidget::leaveEvent(event);
+    mInput.leave();
+}
+
+void WidgetMap::wheelEvent(QWheelEvent* event)
+{
+    mInput.wheel(*event);
+    event->accept();
+}
+
+void WidgetMap::keyPressEvent(QKeyEvent* event)
+{
+    if (!mInput.pressKey(*event)) {
+        QOpenGLWidget::keyPressEvent(event);
     }
-    if (settings.shading != mTakenSettings.shading) {
-        mContext->shading = settings.shading; // until then it is as the key left it
-        emit signalUpdateMode();
+}
+
+void WidgetMap::keyReleaseEvent(QKeyEvent* event)
+{
+    if (!mInput.releaseKey(*event)) {
+        QOpenGLWidget::keyReleaseEvent(event);
     }
-    if (settings.cacheLimit != mTakenSettings.cacheLimit) {
-        mMap->setTileCacheLimit(settings.cacheLimit);
-    }
-    mTakenSettings = settings;
+}
+
+void WidgetMap::focusOutEvent(QFocusEvent* event)
+{
+    QOpenGLWidget::focusOutEvent(event);
+    mInput.loseFocus();
 }
 
 } // namespace VELIX
