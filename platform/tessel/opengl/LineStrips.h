@@ -20,7 +20,6 @@ class LineStrips
 {
 public:
     void clear();
-    void reserve(std::size_t vertices) { mVertices.reserve(vertices); }
     /// The vertices that follow are not connected to those before.
     void beginStrip();
     /// The vertex takes the colour that is set at this moment.

@@ -21,14 +21,6 @@ void LineStripsSimple::addVertex(float x, float y)
     mVertices.add(x, y);
 }
 
-void LineStripsSimple::addVertices(const VertexBuffer::Vertex* vertices, std::size_t count)
-{
-    if (mStarts.empty()) {
-        beginStrip();
-    }
-    mVertices.add(vertices, count);
-}
-
 void LineStripsSimple::clear()
 {
     mVertices.clear();

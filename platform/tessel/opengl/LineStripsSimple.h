@@ -3,7 +3,6 @@
 #include "platform/tessel/opengl/LineProgram.h"
 #include "platform/tessel/opengl/VertexBuffer.h"
 
-#include <cstddef>
 #include <vector>
 
 namespace Tessel::OpenGL {
@@ -16,7 +15,6 @@ public:
     /// The vertices that follow are not connected to those before.
     void beginStrip();
     void addVertex(float x, float y);
-    void addVertices(const VertexBuffer::Vertex* vertices, std::size_t count);
     void clear();
 
     void setColor(const Color& color) { mColor = color; }

@@ -8,12 +8,6 @@ void VertexBuffer::add(float x, float y)
     mBuffer.invalidate();
 }
 
-void VertexBuffer::add(const Vertex* vertices, std::size_t count)
-{
-    mVertices.insert(mVertices.end(), vertices, vertices + count);
-    mBuffer.invalidate();
-}
-
 void VertexBuffer::clear()
 {
     mVertices.clear();

@@ -18,9 +18,7 @@ public:
         float y = 0.0F;
     };
 
-    void reserve(std::size_t count) { mVertices.reserve(count); }
     void add(float x, float y);
-    void add(const Vertex* vertices, std::size_t count);
     /// Drops the vertices and keeps their memory for the next picture.
     void clear();
     [[nodiscard]] std::size_t size() const { return mVertices.size(); }
