@@ -44,7 +44,7 @@ void paint(const ViewModel& model, ViewVariables& variables)
         const double longest = std::max(model.size.width(), model.size.height());
         for (const double pixels : {40.0, 200.0}) {
             const double scale = ViewCanvas::usableScale(model, pixels / longest);
-            const QImage& frame = canvas.picture(model, variables, scale, true);
+            const QImage& frame = canvas.frame(model, variables, scale, true);
             require(!frame.isNull() && frame.width() <= 201 && frame.height() <= 201,
                     "the frame does not have the requested size");
             require(!canvas.isOutdated(variables), "a frame is outdated at once");

@@ -1,5 +1,6 @@
 #include "platform/viewlib/ViewAttributes.h"
 
+#include "platform/viewlib/ViewErrors.h"
 #include "platform/viewlib/ViewStatement.h"
 
 #include <cmath>

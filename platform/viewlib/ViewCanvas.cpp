@@ -59,10 +59,10 @@ void ViewCanvas::findConditions(const ViewModel& model)
     }
 }
 
-bool ViewCanvas::isStillAsBefore(const ViewTruths& truths) const
+bool ViewCanvas::isStillAsBefore(const ConditionResults& results) const
 {
-    for (std::size_t i = 0; i < truths.size(); ++i) {
-        if (mMovesStill[i] && truths[i] != mTruths[i]) {
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        if (mMovesStill[i] && results[i] != mResults[i]) {
             return false;
         }
     }
@@ -81,10 +81,10 @@ void ViewCanvas::paintStill(const ViewModel& model, const ViewVariables& variabl
     if (mStill.isNull()) {
         return; // no memory for it
     }
-    mStill.fill(mHasGround ? model.colors.background : QColor(Qt::transparent));
+    mStill.fill(mHasBackground ? model.colors.background : QColor(Qt::transparent));
     QPainter painter(&mStill);
     ViewSurface surface(painter, mScale, model.colors);
-    ViewPainter(model, mTruths, variables, surface).paintStill();
+    ViewPainter(model, mResults, variables, surface).paintStill();
 }
 
 void ViewCanvas::paintFrame(const ViewModel& model, const ViewVariables& variables)
@@ -95,25 +95,25 @@ void ViewCanvas::paintFrame(const ViewModel& model, const ViewVariables& variabl
     std::memcpy(mFrame.bits(), mStill.constBits(), static_cast<std::size_t>(mStill.sizeInBytes()));
     QPainter painter(&mFrame);
     ViewSurface surface(painter, mScale, model.colors);
-    ViewPainter(model, mTruths, variables, surface).paintMoving();
+    ViewPainter(model, mResults, variables, surface).paintMoving();
 }
 
-const QImage& ViewCanvas::picture(const ViewModel& model, const ViewVariables& variables,
-                                  double scale, bool hasGround)
+const QImage& ViewCanvas::frame(const ViewModel& model, const ViewVariables& variables,
+                                double scale, bool hasBackground)
 {
     if (mStill.isNull()) {
         findConditions(model);
     }
-    const bool isOther = mStill.isNull() || mScale != scale || mHasGround != hasGround;
+    const bool isOther = mStill.isNull() || mScale != scale || mHasBackground != hasBackground;
     if (!isOther && mRevision == variables.revision()) {
         return mFrame;
     }
-    ViewTruths now = model.truths(variables);
+    ConditionResults now = model.results(variables);
     const bool isStill = !isOther && isStillAsBefore(now);
-    mTruths = std::move(now);
+    mResults = std::move(now);
     if (!isStill) {
         mScale = scale;
-        mHasGround = hasGround;
+        mHasBackground = hasBackground;
         paintStill(model, variables);
     }
     mRevision = variables.revision();

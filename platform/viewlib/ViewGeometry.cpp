@@ -1,7 +1,6 @@
 #include "platform/viewlib/ViewGeometry.h"
 
 #include "platform/viewlib/ViewModel.h"
-#include "platform/viewlib/ViewReader.h"
 
 #include <QtMath>
 
@@ -60,7 +59,7 @@ std::vector<ViewTick> ticksOf(const ViewScale& scale)
     const double part = scale.step / scale.minor;
     constexpr double kSlack = 1e-6; // of a part: the ends belong to the scale
     const double first = std::ceil(least / part - kSlack);
-    for (int i = 0; i <= ViewReader::kMostTicks; ++i) {
+    for (int i = 0; i <= ViewScale::kMostTicks; ++i) {
         const double number = first + i;
         if (number * part > most + kSlack * part) {
             break;

@@ -17,17 +17,17 @@
 
 namespace Vista2D {
 
-/// The conditions that must all hold, by their place in ViewModel::conditions.
+/// The conditions that must all hold, by their index in ViewModel::conditions.
 using ConditionList = std::vector<int>;
 
-/// Of every condition of a view whether it holds. They are found once for a picture: what they
+/// Whether each condition of a view holds, by index. They are found once for a frame: what they
 /// decide on is far more than they are, since groups and named scales hand theirs to many elements.
-using ViewTruths = std::vector<bool>;
+using ConditionResults = std::vector<bool>;
 
-[[nodiscard]] inline bool hold(const ConditionList& list, const ViewTruths& truths)
+[[nodiscard]] inline bool hold(const ConditionList& list, const ConditionResults& results)
 {
     return std::all_of(list.begin(), list.end(),
-                       [&](int condition) { return truths[static_cast<std::size_t>(condition)]; });
+                       [&](int condition) { return results[static_cast<std::size_t>(condition)]; });
 }
 
 /// A coloured stretch of a scale.
@@ -38,9 +38,11 @@ struct ViewBand
     QColor color;
 };
 
-/// How the numbers of a variable become places and texts, as long as its condition holds.
+/// How the numbers of a variable become positions and texts, as long as its condition holds.
 struct ViewScale
 {
+    static constexpr int kMostTicks = 200; ///< short ones included
+
     ConditionList conditions;
     double from = 0.0;
     double to = 0.0;     ///< equal to `from`: no range was given, so only texts can be shown
@@ -54,7 +56,7 @@ struct ViewScale
     int decimals = 0;   ///< of texts
     QString unit;
     std::vector<ViewBand> bands;
-    std::vector<ViewBand> marks; ///< `from` is the place
+    std::vector<ViewBand> marks; ///< `from` is the position
 
     [[nodiscard]] bool hasRange() const { return from != to; }
 };
@@ -74,7 +76,7 @@ struct ViewText
     double width = 0.0; ///< longer texts are cut; 0: those that are longer than the panel
 };
 
-/// A text that takes the place of the number, or lights a lamp.
+/// A text that is shown instead of the number, or lights a lamp.
 struct ViewCase
 {
     ConditionList conditions;
@@ -103,10 +105,10 @@ struct ViewBinding
     std::vector<ViewCase> cases;
 
     /// The scale in force; null if none is.
-    [[nodiscard]] const ViewScale* scaleOf(const ViewTruths& truths) const
+    [[nodiscard]] const ViewScale* scaleOf(const ConditionResults& results) const
     {
         const auto first = std::find_if(scales.begin(), scales.end(), [&](const auto& scale) {
-            return hold(scale->conditions, truths);
+            return hold(scale->conditions, results);
         });
         return first == scales.end() ? nullptr : first->get();
     }
@@ -193,12 +195,13 @@ struct ViewArc
     double width = 1.0;
 };
 
+using ViewShape = std::variant<ViewGauge, ViewBar, ViewValue, ViewLamp, ViewLabel, ViewRectangle,
+                               ViewLine, ViewArc>;
+
 struct ViewElement
 {
     ConditionList conditions;
-    std::variant<ViewGauge, ViewBar, ViewValue, ViewLamp, ViewLabel, ViewRectangle, ViewLine,
-                 ViewArc>
-        shape;
+    ViewShape shape;
 };
 
 /// The binding of an instrument; null for what is none.
@@ -240,10 +243,10 @@ struct ViewModel
     std::vector<ViewElement> elements; ///< in the order of drawing
     std::set<int> slotsUsed;           ///< of the variables that something depends on
 
-    /// Of every condition whether it holds.
-    [[nodiscard]] ViewTruths truths(const ViewVariables& variables) const
+    /// Returns whether each condition holds with the values of the variables.
+    [[nodiscard]] ConditionResults results(const ViewVariables& variables) const
     {
-        ViewTruths all;
+        ConditionResults all;
         all.reserve(conditions.size());
         for (const ViewCondition& condition : conditions) {
             all.push_back(condition.holds(variables));

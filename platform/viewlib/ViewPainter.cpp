@@ -1,7 +1,10 @@
 #include "platform/viewlib/ViewPainter.h"
 
+#include "platform/viewlib/ViewBarPainter.h"
+#include "platform/viewlib/ViewGaugePainter.h"
 #include "platform/viewlib/ViewGeometry.h"
 #include "platform/viewlib/ViewSurface.h"
+#include "platform/viewlib/ViewTextPainter.h"
 #include "platform/viewlib/ViewVariables.h"
 
 #include <cmath>
@@ -23,7 +26,7 @@ const ViewScale& orNone(const ViewScale* scale)
 ViewReading ViewPainter::reading(const ViewBinding& binding) const
 {
     ViewReading reading;
-    reading.scale = &orNone(binding.scaleOf(mTruths));
+    reading.scale = &orNone(binding.scaleOf(mResults));
     reading.shown = std::numeric_limits<double>::quiet_NaN();
     const auto isMissing = [&] {
         const double missing = mVariables.value(binding.missingSlot);
@@ -35,7 +38,7 @@ ViewReading ViewPainter::reading(const ViewBinding& binding) const
         reading.state = state >= 2.0 ? 2 : state >= 1.0 ? 1 : 0;
     }
     for (const ViewCase& one : binding.cases) {
-        if (hold(one.conditions, mTruths)) {
+        if (hold(one.conditions, mResults)) {
             reading.inCase = &one;
             break;
         }
@@ -46,7 +49,7 @@ ViewReading ViewPainter::reading(const ViewBinding& binding) const
 void ViewPainter::paintStill()
 {
     for (const ViewElement& element : mModel.elements) {
-        if (hold(element.conditions, mTruths)) {
+        if (hold(element.conditions, mResults)) {
             paintStill(element);
         }
     }
@@ -55,7 +58,7 @@ void ViewPainter::paintStill()
 void ViewPainter::paintMoving()
 {
     for (const ViewElement& element : mModel.elements) {
-        if (hold(element.conditions, mTruths)) {
+        if (hold(element.conditions, mResults)) {
             paintMoving(element);
         }
     }
@@ -63,17 +66,18 @@ void ViewPainter::paintMoving()
 
 void ViewPainter::paintStill(const ViewElement& element)
 {
+    ViewTextPainter texts(mSurface);
     const auto scaleOf = [this](const ViewBinding& binding) -> const ViewScale& {
-        return orNone(binding.scaleOf(mTruths));
+        return orNone(binding.scaleOf(mResults));
     };
     if (const auto* gauge = std::get_if<ViewGauge>(&element.shape)) {
-        paintDial(mSurface, *gauge, scaleOf(gauge->binding));
-        paintUnits(mSurface, gauge->binding, scaleOf(gauge->binding));
+        ViewGaugePainter(mSurface, *gauge).paintDial(scaleOf(gauge->binding));
+        texts.paintUnits(gauge->binding, scaleOf(gauge->binding));
     } else if (const auto* bar = std::get_if<ViewBar>(&element.shape)) {
-        paintTrack(mSurface, *bar, scaleOf(bar->binding));
-        paintUnits(mSurface, bar->binding, scaleOf(bar->binding));
+        ViewBarPainter(mSurface, *bar).paintTrack(scaleOf(bar->binding));
+        texts.paintUnits(bar->binding, scaleOf(bar->binding));
     } else if (const auto* value = std::get_if<ViewValue>(&element.shape)) {
-        paintUnits(mSurface, value->binding, scaleOf(value->binding));
+        texts.paintUnits(value->binding, scaleOf(value->binding));
     } else if (const auto* label = std::get_if<ViewLabel>(&element.shape)) {
         mSurface.text(label->style, label->text, label->style.color);
     } else if (const auto* rectangle = std::get_if<ViewRectangle>(&element.shape)) {
@@ -90,18 +94,19 @@ void ViewPainter::paintStill(const ViewElement& element)
 
 void ViewPainter::paintMoving(const ViewElement& element)
 {
+    ViewTextPainter texts(mSurface);
     if (const auto* gauge = std::get_if<ViewGauge>(&element.shape)) {
         const ViewReading read = reading(gauge->binding);
-        paintNeedle(mSurface, *gauge, read);
-        paintNumbers(mSurface, gauge->binding, read);
+        ViewGaugePainter(mSurface, *gauge).paintNeedle(read);
+        texts.paintNumbers(gauge->binding, read);
     } else if (const auto* bar = std::get_if<ViewBar>(&element.shape)) {
         const ViewReading read = reading(bar->binding);
-        paintLevel(mSurface, *bar, read);
-        paintNumbers(mSurface, bar->binding, read);
+        ViewBarPainter(mSurface, *bar).paintLevel(read);
+        texts.paintNumbers(bar->binding, read);
     } else if (const auto* value = std::get_if<ViewValue>(&element.shape)) {
-        paintNumbers(mSurface, value->binding, reading(value->binding));
+        texts.paintNumbers(value->binding, reading(value->binding));
     } else if (const auto* lamp = std::get_if<ViewLamp>(&element.shape)) {
-        paintLamp(mSurface, *lamp, reading(lamp->binding));
+        texts.paintLamp(*lamp, reading(lamp->binding));
     }
 }
 

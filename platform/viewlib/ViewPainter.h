@@ -1,22 +1,22 @@
 #pragma once
 
-#include "platform/viewlib/ViewInstruments.h"
 #include "platform/viewlib/ViewModel.h"
+#include "platform/viewlib/ViewReading.h"
 
 namespace Vista2D {
 
 class ViewSurface;
 class ViewVariables;
 
-/// Paints a view in two layers: what stands still as long as no condition changes, and above it
-/// what moves with the values.
+/// Paints a view in two layers: what changes with a condition alone, and above it what moves
+/// with the values.
 class ViewPainter
 {
 public:
-    /// \param truths of the model's conditions, with these variables
-    ViewPainter(const ViewModel& model, const ViewTruths& truths, const ViewVariables& variables,
-                ViewSurface& surface)
-        : mModel(model), mTruths(truths), mVariables(variables), mSurface(surface)
+    /// \param results of the model's conditions, with these variables
+    ViewPainter(const ViewModel& model, const ConditionResults& results,
+                const ViewVariables& variables, ViewSurface& surface)
+        : mModel(model), mResults(results), mVariables(variables), mSurface(surface)
     {}
 
     void paintStill();
@@ -28,7 +28,7 @@ private:
     void paintMoving(const ViewElement& element);
 
     const ViewModel& mModel;
-    const ViewTruths& mTruths;
+    const ConditionResults& mResults;
     const ViewVariables& mVariables;
     ViewSurface& mSurface;
 };

@@ -1,9 +1,15 @@
 #include "platform/viewlib/ViewReader.h"
 
 #include "platform/viewlib/ViewGeometry.h"
+#include "platform/viewlib/ViewInstrumentReader.h"
+#include "platform/viewlib/ViewShapes.h"
+#include "platform/viewlib/ViewStatement.h"
 #include "platform/viewlib/ViewVariables.h"
 
 #include <algorithm>
+#include <initializer_list>
+#include <optional>
+#include <utility>
 
 namespace Vista2D {
 
@@ -57,65 +63,47 @@ void ViewReader::read(const QByteArray& text)
     }
 }
 
-const std::map<QString, ViewReader::Handler>& ViewReader::handlers(Block::Kind kind)
+/// Null for a word that means nothing in such a block.
+ViewReader::Handler ViewReader::handlerOf(Block::Kind kind, const QString& word)
 {
-    static const std::map<QString, Handler> group = {
-        {QStringLiteral("group"), &ViewReader::readGroup},
-        {QStringLiteral("gauge"), &ViewReader::readGauge},
-        {QStringLiteral("bar"), &ViewReader::readBar},
-        {QStringLiteral("value"), &ViewReader::readValue},
-        {QStringLiteral("lamp"), &ViewReader::readLamp},
-        {QStringLiteral("label"), &ViewReader::readLabel},
-        {QStringLiteral("rectangle"), &ViewReader::readRectangle},
-        {QStringLiteral("line"), &ViewReader::readLine},
-        {QStringLiteral("arc"), &ViewReader::readArc}};
-    static const std::map<QString, Handler> file = [] {
-        std::map<QString, Handler> all = group;
-        all[QStringLiteral("view")] = &ViewReader::readView;
-        all[QStringLiteral("colors")] = &ViewReader::readColors;
-        all[QStringLiteral("scales")] = &ViewReader::readScales;
-        return all;
-    }();
-    static const std::map<QString, Handler> scales = {
-        {QStringLiteral("scale"), &ViewReader::readScale},
-        {QStringLiteral("band"), &ViewReader::readBand},
-        {QStringLiteral("mark"), &ViewReader::readMark}};
-    static const std::map<QString, Handler> instrument = [] {
-        std::map<QString, Handler> all = scales;
-        all[QStringLiteral("number")] = &ViewReader::readNumberText;
-        all[QStringLiteral("unit")] = &ViewReader::readUnitText;
-        all[QStringLiteral("case")] = &ViewReader::readCase;
-        return all;
-    }();
-    static const std::map<QString, Handler> lamp = {
-        {QStringLiteral("case"), &ViewReader::readCase}};
+    const auto among = [&word](std::initializer_list<const char*> words) {
+        return std::any_of(words.begin(), words.end(),
+                           [&word](const char* one) { return word == QLatin1String(one); });
+    };
+    const auto of = [](bool isKnown, Handler handler) { return isKnown ? handler : nullptr; };
     switch (kind) {
     case Block::Kind::Lamp:
-        return lamp;
-    case Block::Kind::File:
-        return file;
+        return of(among({"case"}), &ViewReader::readInstrumentLine);
     case Block::Kind::Scales:
-        return scales;
+        return of(among({"scale", "band", "mark"}), &ViewReader::readInstrumentLine);
     case Block::Kind::Instrument:
-        return instrument;
+        return of(among({"scale", "band", "mark", "number", "unit", "case"}),
+                  &ViewReader::readInstrumentLine);
     default:
-        return group;
+        break;
     }
+    if (kind == Block::Kind::File && among({"view", "colors", "scales"})) {
+        return word == QLatin1String("view")     ? &ViewReader::readView
+               : word == QLatin1String("colors") ? &ViewReader::readColors
+                                                 : &ViewReader::readScales;
+    }
+    return word == QLatin1String("group") ? &ViewReader::readGroup
+                                          : of(isShape(word), &ViewReader::readElement);
 }
 
 void ViewReader::readStatement(ViewStatement& statement)
 {
     const std::size_t open = mBlocks.size() + mIgnored;
     if (block().kind != Block::Kind::Unknown && mIgnored == 0) {
-        const auto& known = handlers(block().kind);
-        const auto handler = known.find(statement.word());
-        if (handler == known.end()) {
+        const Handler handler = handlerOf(block().kind, statement.word());
+        if (handler == nullptr) {
             mErrors.add(statement.line(), statement.word(),
                         mBlocks.size() == 1 ? QStringLiteral("unknown")
                                             : QStringLiteral("unknown in a %1").arg(block().word));
         } else {
             ViewAttributes attributes(statement, mErrors, mColors);
-            (this->*handler->second)(statement, attributes);
+            ViewParts parts(attributes, block().origin, mModel, mVariables, mScales);
+            (this->*handler)(statement, parts);
             if (const QString* name = statement.unused(); name != nullptr) {
                 attributes.wrong(
                     QStringLiteral("attribute \"%1\" is unknown or given twice").arg(*name));
@@ -217,109 +205,137 @@ void ViewReader::checkRange(const Block& closed)
     }
 }
 
-// --- parts of several elements
+// --- statements
 
-void ViewReader::condition(ViewAttributes& attributes, ConditionList& target)
+void ViewReader::readView(ViewStatement& /*statement*/, ViewParts& parts)
 {
-    QString text;
-    if (!attributes.text("if", text)) {
-        return;
-    }
-    ViewCondition parsed;
-    const QString mistake = parsed.parse(text, mVariables);
-    if (!mistake.isEmpty()) {
-        attributes.wrong("if", mistake);
-        return;
-    }
-    for (const int slot : parsed.slotsRead()) {
-        mModel.slotsUsed.insert(slot);
-    }
-    target.push_back(static_cast<int>(mModel.conditions.size()));
-    mModel.conditions.push_back(std::move(parsed));
+    ViewAttributes& attributes = parts.attributes();
+    attributes.require(readSize(attributes, "size", Layout::Wide), "size");
+    mHasTall = readSize(attributes, "tall", Layout::Tall);
+    mHasLow = readSize(attributes, "low", Layout::Low);
+    attributes.color("background", mModel.colors.background);
+    mColors[QStringLiteral("background")] = mModel.colors.background;
 }
 
-bool ViewReader::place(ViewAttributes& attributes, const char* name, QPointF& target)
+bool ViewReader::readSize(ViewAttributes& attributes, const char* name, Layout layout)
 {
-    QPointF given;
-    if (!attributes.require(attributes.pair(name, given, -kFarthest, kFarthest), name)) {
-        return false;
-    }
-    target = given + block().origin;
-    return true;
-}
-
-bool ViewReader::box(ViewAttributes& attributes, QRectF& target)
-{
-    QPointF corner;
     QPointF size;
-    const bool hasCorner = place(attributes, "at", corner);
-    const bool hasSize = attributes.require(attributes.pair("size", size, 0.0, kFarthest), "size");
-    target = QRectF(corner, QSizeF(size.x(), size.y()));
-    return hasCorner && hasSize;
-}
-
-/// A longer text than a panel has room for would cost time with every picture.
-bool ViewReader::shownText(ViewAttributes& attributes, const char* name, QString& target)
-{
-    QString given;
-    if (!attributes.text(name, given)) {
-        return false;
+    const bool isGiven = attributes.pair(name, size, 1.0, 10000.0);
+    if (isGiven && (layout == Layout::Wide || layout == mLayout)) {
+        mModel.size = QSizeF(size.x(), size.y());
     }
-    if (given.size() > kLongestText) {
-        attributes.wrong(name, QStringLiteral("is longer than %1 characters").arg(kLongestText));
-        given.truncate(kLongestText);
-    }
-    target = given;
-    return true;
+    return isGiven;
 }
 
-void ViewReader::textStyle(ViewAttributes& attributes, ViewText& style)
+void ViewReader::readColors(ViewStatement& statement, ViewParts& parts)
 {
-    using Align = ViewText::Align;
-    attributes.number("size", style.size, 1.0, kLargestText);
-    attributes.number("width", style.width, 0.0, kFarthest);
-    attributes.color("color", style.color);
-    attributes.yesOrNo("bold", style.bold);
-    attributes.choice<Align>(
-        "align", style.align,
-        {{"left", Align::Left}, {"center", Align::Center}, {"right", Align::Right}});
-}
-
-bool ViewReader::bindVariable(ViewAttributes& attributes, ViewBinding& target)
-{
-    QString name;
-    if (!attributes.text("var", name) || name.isEmpty()) {
-        return false;
-    }
-    target.slot = mVariables.slot(name.toStdString());
-    target.stateSlot = mVariables.slot(name.toStdString() + "_STATE");
-    target.missingSlot = mVariables.slot(name.toStdString() + "_MISSING");
-    mModel.slotsUsed.insert({target.slot, target.stateSlot, target.missingSlot});
-    return true;
-}
-
-void ViewReader::bindInstrument(ViewAttributes& attributes, ViewBinding& target)
-{
-    attributes.require(bindVariable(attributes, target), "var");
-    QString scales;
-    if (attributes.text("scales", scales)) {
-        const auto known = mScales.find(scales);
-        if (known != mScales.end()) {
-            target.scales = known->second;
+    ViewAttributes& attributes = parts.attributes();
+    for (const ViewStatement::Attribute& attribute : statement.takeAll()) {
+        const QColor color = attributes.colorOf(attribute.value);
+        if (color.isValid()) {
+            mColors[attribute.name] = color;
         } else {
-            attributes.wrong("scales", QStringLiteral("knows no \"%1\"").arg(scales.left(40)));
+            attributes.wrong(QStringLiteral("\"%1\" is no colour: \"%2\"")
+                                 .arg(attribute.name.left(40), attribute.value.left(40)));
         }
     }
+    ViewColors& colors = mModel.colors;
+    const std::pair<const char*, QColor*> roles[] = {{"background", &colors.background},
+                                                     {"text", &colors.text},
+                                                     {"muted", &colors.muted},
+                                                     {"line", &colors.line},
+                                                     {"track", &colors.track},
+                                                     {"normal", &colors.normal},
+                                                     {"healthy", &colors.healthy},
+                                                     {"warning", &colors.warning},
+                                                     {"limit", &colors.limit}};
+    for (const auto& [name, color] : roles) {
+        *color = mColors[QLatin1String(name)];
+    }
 }
 
-ViewBinding& ViewReader::binding()
+void ViewReader::readScales(ViewStatement& statement, ViewParts& parts)
 {
-    return *bindingOf(mModel.elements[block().element]);
+    ViewAttributes& attributes = parts.attributes();
+    Block inside;
+    inside.kind = Block::Kind::Scales;
+    if (!attributes.require(attributes.text("name", inside.scales), "name")) {
+        return;
+    }
+    mScales[inside.scales].clear();
+    if (statement.opensBlock()) {
+        open(statement, std::move(inside));
+    }
 }
 
-ViewScales& ViewReader::openScales()
+void ViewReader::readGroup(ViewStatement& statement, ViewParts& parts)
 {
-    return block().kind == Block::Kind::Scales ? mScales[block().scales] : binding().scales;
+    ViewAttributes& attributes = parts.attributes();
+    Block inside;
+    inside.kind = Block::Kind::Group;
+    inside.conditions = block().conditions;
+    parts.condition(inside.conditions);
+    QPointF shift;
+    attributes.pair("at", shift, -ViewParts::kFarthest, ViewParts::kFarthest);
+    QPointF tall = shift;
+    QPointF low = shift;
+    attributes.pair("tall", tall, -ViewParts::kFarthest, ViewParts::kFarthest);
+    attributes.pair("low", low, -ViewParts::kFarthest, ViewParts::kFarthest);
+    inside.origin = block().origin + (mLayout == Layout::Tall  ? tall
+                                      : mLayout == Layout::Low ? low
+                                                               : shift);
+    if (statement.opensBlock()) {
+        open(statement, std::move(inside));
+    }
+}
+
+void ViewReader::readElement(ViewStatement& statement, ViewParts& parts)
+{
+    if (std::optional<ViewShape> shape = readShape(statement.word(), parts)) {
+        add(statement, parts, std::move(*shape));
+    }
+}
+
+void ViewReader::readInstrumentLine(ViewStatement& statement, ViewParts& parts)
+{
+    const Block& open = block();
+    if (open.kind == Block::Kind::Scales) {
+        ViewInstrumentReader(parts, mScales[open.scales], nullptr).read(statement.word());
+    } else {
+        ViewBinding& binding = *bindingOf(mModel.elements[open.element]);
+        ViewInstrumentReader(parts, binding.scales, &binding).read(statement.word());
+    }
+}
+
+void ViewReader::add(const ViewStatement& statement, ViewParts& parts, ViewShape shape)
+{
+    if (mModel.elements.size() == kMostElements) {
+        if (!mFull) {
+            parts.attributes().wrong(QStringLiteral("more than %1 elements").arg(kMostElements));
+        }
+        mFull = true;
+        return;
+    }
+    ViewElement element;
+    element.conditions = block().conditions;
+    parts.condition(element.conditions);
+    Block inside;
+    inside.kind =
+        std::holds_alternative<ViewLamp>(shape) ? Block::Kind::Lamp : Block::Kind::Instrument;
+    element.shape = std::move(shape);
+    inside.origin = block().origin;
+    inside.element = mModel.elements.size();
+    mModel.elements.push_back(std::move(element));
+    if (bindingOf(mModel.elements.back()) == nullptr) {
+        return;
+    }
+    if (statement.opensBlock()) {
+        open(statement, std::move(inside));
+    } else {
+        inside.line = statement.line();
+        inside.word = statement.word();
+        checkInstrument(inside);
+    }
 }
 
 } // namespace Vista2D

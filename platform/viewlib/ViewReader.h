@@ -1,8 +1,9 @@
 #pragma once
 
 #include "platform/viewlib/ViewAttributes.h"
+#include "platform/viewlib/ViewErrors.h"
 #include "platform/viewlib/ViewModel.h"
-#include "platform/viewlib/ViewStatement.h"
+#include "platform/viewlib/ViewParts.h"
 
 #include <QByteArray>
 
@@ -11,6 +12,7 @@
 
 namespace Vista2D {
 
+class ViewStatement;
 class ViewVariables;
 
 /// Reads a view description. The result holds all that could be understood.
@@ -22,19 +24,15 @@ public:
     static constexpr int kLargestFile = 1 << 20; ///< bytes
     static constexpr std::size_t kMostElements = 5000;
     static constexpr std::size_t kDeepestBlock = 32;
-    static constexpr int kMostTicks = 200;         ///< of one scale, short ones included
-    static constexpr std::size_t kMostScales = 64; ///< of one instrument or name
-    static constexpr std::size_t kMostBands = 64;  ///< of one scale; marks as well
     /// Ticks, bands, marks and texts of all instruments together. Each costs a stroke or a text
     /// where named scales cost the file a word.
     static constexpr std::size_t kMostDetails = 10000;
-    static constexpr int kLongestText = 200; ///< characters
 
     enum class Layout { Wide, Tall, Low };
 
     explicit ViewReader(ViewVariables& variables, Layout layout = Layout::Wide);
 
-    /// To be called once.
+    /// Reads a description, once.
     void read(const QByteArray& text);
 
     /// Whether the description has a layout; all have the wide one.
@@ -46,10 +44,6 @@ public:
     [[nodiscard]] const std::vector<ViewError>& errors() const { return mErrors.list(); }
 
 private:
-    static constexpr double kFarthest = 1e5; ///< view units from the origin
-    static constexpr double kLargest = 1e12; ///< value of a scale
-    static constexpr double kLargestText = 1000.0;
-
     /// What the lines of an open block belong to.
     struct Block
     {
@@ -60,12 +54,12 @@ private:
         QString word;
         QPointF origin;           ///< of the coordinates, in view units
         ConditionList conditions; ///< of all that it holds
-        std::size_t element = 0;  ///< place of the instrument
+        std::size_t element = 0;  ///< index of the instrument
         QString scales;           ///< name of the scales
     };
-    using Handler = void (ViewReader::*)(ViewStatement&, ViewAttributes&);
+    using Handler = void (ViewReader::*)(ViewStatement&, ViewParts&);
 
-    static const std::map<QString, Handler>& handlers(Block::Kind kind);
+    static Handler handlerOf(Block::Kind kind, const QString& word);
     void readStatement(ViewStatement& statement);
     void skipBlock(const ViewStatement& statement);
     void close(int line);
@@ -73,45 +67,15 @@ private:
     [[nodiscard]] Block& block() { return mBlocks.back(); }
     void nameColors();
 
-    // --- what the file itself and groups hold
-    void readView(ViewStatement& statement, ViewAttributes& attributes);
+    void readView(ViewStatement& statement, ViewParts& parts);
     bool readSize(ViewAttributes& attributes, const char* name, Layout layout);
-    void readColors(ViewStatement& statement, ViewAttributes& attributes);
-    void readScales(ViewStatement& statement, ViewAttributes& attributes);
-    void readGroup(ViewStatement& statement, ViewAttributes& attributes);
-    void readGauge(ViewStatement& statement, ViewAttributes& attributes);
-    void readBar(ViewStatement& statement, ViewAttributes& attributes);
-    void readValue(ViewStatement& statement, ViewAttributes& attributes);
-    void readLamp(ViewStatement& statement, ViewAttributes& attributes);
-    void readLabel(ViewStatement& statement, ViewAttributes& attributes);
-    void readRectangle(ViewStatement& statement, ViewAttributes& attributes);
-    void readLine(ViewStatement& statement, ViewAttributes& attributes);
-    void readArc(ViewStatement& statement, ViewAttributes& attributes);
+    void readColors(ViewStatement& statement, ViewParts& parts);
+    void readScales(ViewStatement& statement, ViewParts& parts);
+    void readGroup(ViewStatement& statement, ViewParts& parts);
+    void readElement(ViewStatement& statement, ViewParts& parts);
+    void readInstrumentLine(ViewStatement& statement, ViewParts& parts);
 
-    // --- what instruments hold
-    void readScale(ViewStatement& statement, ViewAttributes& attributes);
-    void readBand(ViewStatement& statement, ViewAttributes& attributes);
-    void readMark(ViewStatement& statement, ViewAttributes& attributes);
-    void readNumberText(ViewStatement& statement, ViewAttributes& attributes);
-    void readUnitText(ViewStatement& statement, ViewAttributes& attributes);
-    void readCase(ViewStatement& statement, ViewAttributes& attributes);
-
-    template <class Shape>
-    void add(const ViewStatement& statement, ViewAttributes& attributes, Shape shape);
-    /// The instrument that the open block belongs to.
-    [[nodiscard]] ViewBinding& binding();
-    [[nodiscard]] ViewScales& openScales();
-    enum class Part { Band, Mark };
-    void addToScale(ViewAttributes& attributes, Part part, const ViewBand& band);
-    bool shownText(ViewAttributes& attributes, const char* name, QString& target);
-    void readCaption(ViewAttributes& attributes, ViewCaption::Shows shows);
-    bool bindVariable(ViewAttributes& attributes, ViewBinding& target);
-    void bindInstrument(ViewAttributes& attributes, ViewBinding& target);
-    void condition(ViewAttributes& attributes, ConditionList& target);
-    bool place(ViewAttributes& attributes, const char* name, QPointF& target);
-    bool box(ViewAttributes& attributes, QRectF& target);
-    void textStyle(ViewAttributes& attributes, ViewText& style);
-    void rangeOf(ViewAttributes& attributes, ViewScale& scale);
+    void add(const ViewStatement& statement, ViewParts& parts, ViewShape shape);
     void checkInstrument(const Block& closed);
     void checkRange(const Block& closed);
 
@@ -122,7 +86,7 @@ private:
     ViewModel mModel;
     ViewErrors mErrors;
     ViewAttributes::ColorNames mColors;
-    std::map<QString, ViewScales> mScales; ///< by name
+    ViewParts::NamedScales mScales;
     std::vector<Block> mBlocks;
     std::size_t mIgnored = 0; ///< blocks opened too deep
     std::size_t mDetails = 0; ///< of the instruments so far

@@ -1,12 +1,13 @@
 #include "platform/viewlib/ViewStatement.h"
 
+#include "platform/viewlib/ViewErrors.h"
+
 #include <algorithm>
 
 namespace Vista2D {
 
 namespace {
 
-constexpr std::size_t kMostErrors = 100;
 constexpr int kLongestLine = 4096;
 constexpr std::size_t kMostAttributes = 64;
 
@@ -32,15 +33,6 @@ void skipBlanks(const QString& text, int& position)
 }
 
 } // namespace
-
-void ViewErrors::add(int line, const QString& element, const QString& message)
-{
-    if (mList.size() < kMostErrors) {
-        mList.push_back({line, element.toStdString(), message.toStdString()});
-    } else if (mList.size() == kMostErrors) {
-        mList.push_back({line, {}, "further mistakes are not listed"});
-    }
-}
 
 ViewStatement::ViewStatement(const QString& text, int line, ViewErrors& errors) : mLine(line)
 {

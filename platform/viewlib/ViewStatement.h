@@ -1,23 +1,12 @@
 #pragma once
 
-#include "platform/viewlib/VistaView.h"
-
 #include <QString>
 
 #include <vector>
 
 namespace Vista2D {
 
-/// The mistakes found so far. A file that is no view at all does not fill the memory with them.
-class ViewErrors
-{
-public:
-    void add(int line, const QString& element, const QString& message);
-    [[nodiscard]] const std::vector<ViewError>& list() const { return mList; }
-
-private:
-    std::vector<ViewError> mList;
-};
+class ViewErrors;
 
 /// A line of a view description: `word name=value name="a value" {`.
 class ViewStatement

@@ -27,7 +27,7 @@ struct VistaView::Parts
     std::vector<ViewError> errors;
     ViewCanvas canvas;
     bool isRunning = false;
-    bool hasGround = true;
+    bool hasBackground = true;
     bool isChanged = true; ///< by something else than a variable
 
     [[nodiscard]] const ViewModel& model() const { return layouts.at(layout); }
@@ -90,7 +90,7 @@ bool VistaView::load(const std::string& path)
     if (!file.open(QIODevice::ReadOnly)) {
         return false;
     }
-    // One byte more than is allowed tells the reader that there are too many.
+    // One byte more than is allowed, so that the reader sees that there are too many.
     loadText(file.read(ViewReader::kLargestFile + 1).toStdString());
     return true;
 }
@@ -132,7 +132,7 @@ void VistaView::startView(int running)
 
 void VistaView::setBackgroundMode(int mode)
 {
-    mParts->hasGround = mode == 0;
+    mParts->hasBackground = mode == 0;
     mParts->isChanged = true;
 }
 
@@ -181,10 +181,10 @@ bool VistaView::changed() const
     return mParts->isChanged || mParts->canvas.isOutdated(mParts->variables);
 }
 
-void VistaView::draw(int picture)
+void VistaView::draw(int shown)
 {
     Parts& parts = *mParts;
-    if (picture == 0 || !parts.isRunning || parts.model().size.isEmpty() ||
+    if (shown == 0 || !parts.isRunning || parts.model().size.isEmpty() ||
         QOpenGLContext::currentContext() == nullptr) {
         return;
     }
@@ -195,7 +195,7 @@ void VistaView::draw(int picture)
     }
     const KeptState state;
     const QImage& image =
-        parts.canvas.picture(parts.model(), parts.variables, scale, parts.hasGround);
+        parts.canvas.frame(parts.model(), parts.variables, scale, parts.hasBackground);
     QOpenGLPaintDevice device(placement.surface);
     QPainter painter(&device);
     if (placement.isUpright() && scale == placement.scale()) {

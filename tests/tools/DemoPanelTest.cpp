@@ -87,7 +87,8 @@ TEST(DemoPanel, BandsRepeatTheThresholdsOfTheProfile)
                 }
                 for (const auto& [name, p] : bound) {
                     if (binding->slot == variables.find(name)) {
-                        const ViewScale* scale = binding->scaleOf(reader.model().truths(variables));
+                        const ViewScale* scale =
+                            binding->scaleOf(reader.model().results(variables));
                         ASSERT_NE(scale, nullptr) << name;
                         compare(profile, p, *scale,
                                 name + " " + variant.name.toStdString() + std::to_string(unit));
@@ -130,9 +131,9 @@ TEST(DemoPanel, HasNoMistakeAndNamesWhatTheProfileBinds)
 double smallestText(const Vista2D::ViewModel& model, const ViewVariables& variables)
 {
     double least = 1e9;
-    const Vista2D::ViewTruths truths = model.truths(variables);
+    const Vista2D::ConditionResults results = model.results(variables);
     for (const Vista2D::ViewElement& element : model.elements) {
-        if (!Vista2D::hold(element.conditions, truths)) {
+        if (!Vista2D::hold(element.conditions, results)) {
             continue;
         }
         if (const auto* label = std::get_if<Vista2D::ViewLabel>(&element.shape)) {

@@ -189,7 +189,7 @@ TEST(ViewReader, ConditionsChooseScaleAndUnit)
     for (const auto& row : rows) {
         variables.set(variables.slot("UNIT"), row.unit);
         variables.set(variables.slot("VARIANT"), row.variant);
-        EXPECT_EQ(value.binding.scaleOf(reader.model().truths(variables))->unit.toStdString(),
+        EXPECT_EQ(value.binding.scaleOf(reader.model().results(variables))->unit.toStdString(),
                   row.result)
             << row.unit << " " << row.variant;
     }
