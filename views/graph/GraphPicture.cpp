@@ -65,9 +65,9 @@ void drawStrip(QPainter& painter, const GraphVertex* vertices, int count, const 
 void drawSamples(QPainter& painter, const std::vector<GraphVertex>& vertices, const QRectF& area)
 {
     for (const GraphVertex& vertex : vertices) {
-        const QPointF centre(static_cast<double>(vertex.x), static_cast<double>(vertex.y));
-        if (area.contains(centre)) {
-            painter.fillRect(QRectF(centre - QPointF(kPointSize / 2, kPointSize / 2),
+        const QPointF center(static_cast<double>(vertex.x), static_cast<double>(vertex.y));
+        if (area.contains(center)) {
+            painter.fillRect(QRectF(center - QPointF(kPointSize / 2, kPointSize / 2),
                                     QSizeF(kPointSize, kPointSize)),
                              painter.pen().color());
         }
@@ -143,7 +143,7 @@ void GraphPicture::paintTraces(QPainter& painter) const
         } else {
             curve.build(parameter.trace.frames(), target);
         }
-        painter.setPen(QPen(mLook.traceColour(parameter.colour), 1.0));
+        painter.setPen(QPen(mLook.traceColor(parameter.color), 1.0));
         for (std::size_t strip = 0; strip < curve.starts().size(); ++strip) {
             drawStrip(painter, curve.vertices().data() + curve.starts()[strip],
                       curve.sizes()[strip], band);
@@ -157,9 +157,9 @@ void GraphPicture::paintTraces(QPainter& painter) const
 void GraphPicture::paintLines(QPainter& painter) const
 {
     const QRectF plot = mScene.layout.plot();
-    const auto line = [&](double time, const QColor& colour) {
+    const auto line = [&](double time, const QColor& color) {
         const double x = mScene.layout.xOf(time, mModel.xmin(), mModel.xmax());
-        painter.setPen(QPen(colour, 1.0));
+        painter.setPen(QPen(color, 1.0));
         if (x >= plot.left() && x <= plot.right()) {
             painter.drawLine(QLineF(x, plot.top(), x, plot.bottom()));
         }

@@ -29,11 +29,11 @@ constexpr int kMostRows = 5; ///< rows that need no scrolling; the graph has the
 constexpr int kSwatch = 12;
 constexpr int kDecimals = 2; // of seconds
 
-QIcon swatchOf(const GraphModel::Colour& colour)
+QIcon swatchOf(const GraphModel::Color& color)
 {
     QPixmap swatch(kSwatch, kSwatch);
-    swatch.fill(QColor::fromRgbF(static_cast<double>(colour[0]), static_cast<double>(colour[1]),
-                                 static_cast<double>(colour[2])));
+    swatch.fill(QColor::fromRgbF(static_cast<double>(color[0]), static_cast<double>(color[1]),
+                                 static_cast<double>(color[2])));
     return QIcon(swatch);
 }
 
@@ -133,7 +133,7 @@ void GraphStatisticTable::showRow(int row, const GraphModel& model, unsigned int
         return values.count == 0 ? QStringLiteral("---") : GraphTexts::fixed(value, decimals);
     };
     setCell(row, eName, parameter.name);
-    mTable->item(row, eName)->setIcon(swatchOf(parameter.colour));
+    mTable->item(row, eName)->setIcon(swatchOf(parameter.color));
     setCell(row, eMinimum, number(values.minimum, parameter.precision));
     setCell(row, eMaximum, number(values.maximum, parameter.precision));
     setCell(row, eAverage, number(values.average, std::max(parameter.precision, 1)));

@@ -99,10 +99,10 @@ TEST(Print, DarkensTracesThatWhitePaperWouldSwallow)
     GraphLook look;
     look.back = Qt::white;
     const std::array<float, 3> yellow = {1.0F, 1.0F, 0.0F};
-    EXPECT_EQ(look.traceColour(yellow), QColor(Qt::yellow));
+    EXPECT_EQ(look.traceColor(yellow), QColor(Qt::yellow));
     look.onPaper = true;
-    EXPECT_GE(Palette::contrast(look.traceColour(yellow), Qt::white), 4.5);
-    EXPECT_EQ(look.traceColour({0.0F, 0.0F, 1.0F}), QColor(Qt::blue));
+    EXPECT_GE(Palette::contrast(look.traceColor(yellow), Qt::white), 4.5);
+    EXPECT_EQ(look.traceColor({0.0F, 0.0F, 1.0F}), QColor(Qt::blue));
 }
 
 /// A view of as many pages as a test wants.

@@ -301,7 +301,7 @@ TEST_F(DialogDataGraphTest, TheGraphKeepsItsDefaultsUntilTheSetupChanges)
     EXPECT_EQ(model().cursorMode(), GraphModel::CursorFloating);
     EXPECT_EQ(model().graphMode(), GraphModel::GraphManual);
     view->findChild<QCheckBox*>(QStringLiteral("boxLegendOn"))->click();
-    EXPECT_EQ(model().cursorMode(), GraphModel::CursorCentre);
+    EXPECT_EQ(model().cursorMode(), GraphModel::CursorCenter);
     EXPECT_EQ(model().graphMode(), GraphModel::GraphAutomatic);
     EXPECT_TRUE(button(eGraphAuto)->isChecked());
     EXPECT_FALSE(view->graph().look().legendOn);
@@ -311,7 +311,7 @@ TEST_F(DialogDataGraphTest, TheGraphKeepsItsDefaultsUntilTheSetupChanges)
     // The next run starts with what was set up.
     const DialogDataGraph next(profile, settings, dialogs);
     EXPECT_EQ(next.data(), view->data());
-    EXPECT_EQ(next.graph().model().cursorMode(), GraphModel::CursorCentre);
+    EXPECT_EQ(next.graph().model().cursorMode(), GraphModel::CursorCenter);
     EXPECT_FALSE(next.graph().look().legendOn);
 }
 

@@ -96,7 +96,7 @@ TEST_F(DialogGraphSetupTest, EveryControlEditsItsSettingAtOnce)
     EXPECT_EQ(data.yMax, 1000.0);
 }
 
-TEST_F(DialogGraphSetupTest, ColoursComeFromADialogThatStartsAtTheCurrentOne)
+TEST_F(DialogGraphSetupTest, ColorsComeFromADialogThatStartsAtTheCurrentOne)
 {
     const std::pair<const char*, std::string GraphData::*> buttons[] = {
         {"buttonBackColor", &GraphData::backColor},

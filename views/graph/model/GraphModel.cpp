@@ -323,8 +323,8 @@ void GraphModel::setCursorPosition(double x)
         return;
     }
     GraphTimeRange range = mRange;
-    if (mCursorMode == CursorCentre) {
-        range.centreOn(x);
+    if (mCursorMode == CursorCenter) {
+        range.centerOn(x);
     } else {
         range.moveEndTo(x);
     }

@@ -24,7 +24,7 @@ class GraphModel : public GraphTraceSet
 public:
     enum eCursorMode : int {
         CursorFloating = 0, ///< the cursor moves through the visible range
-        CursorCentre = 1,   ///< the visible range follows, the cursor stays in its middle
+        CursorCenter = 1,   ///< the visible range follows, the cursor stays in its middle
         CursorEnd = 2       ///< the visible range follows, the cursor stays at its end
     };
     enum eGraphMode : int {

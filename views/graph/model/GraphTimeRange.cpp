@@ -43,7 +43,7 @@ void GraphTimeRange::moveEndTo(double t1)
     set(t1 - (mXmax - mXmin), t1);
 }
 
-void GraphTimeRange::centreOn(double time)
+void GraphTimeRange::centerOn(double time)
 {
     const double half = (mXmax - mXmin) / 2.0;
     set(time - half, time + half);

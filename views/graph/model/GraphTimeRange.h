@@ -28,7 +28,7 @@ public:
     void moveStartTo(double t0);
     /// Moves the range so that it ends at @p t1.
     void moveEndTo(double t1);
-    void centreOn(double time);
+    void centerOn(double time);
     /// Sets the width in seconds, limited to kMinSpan..kMaxSpan, and keeps the start or the end
     /// where it is.
     void setSpanFromStart(double span);

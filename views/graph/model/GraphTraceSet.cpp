@@ -7,12 +7,12 @@ namespace VELIX {
 
 namespace {
 
-constexpr std::array<GraphTraceSet::Colour, 6> kDefaultColours = {{{1.0F, 0.0F, 0.0F},
-                                                                   {0.0F, 0.7F, 0.0F},
-                                                                   {0.0F, 0.0F, 0.7F},
-                                                                   {0.5F, 0.5F, 0.0F},
-                                                                   {0.0F, 0.5F, 0.5F},
-                                                                   {0.5F, 0.0F, 0.5F}}};
+constexpr std::array<GraphTraceSet::Color, 6> kDefaultColors = {{{1.0F, 0.0F, 0.0F},
+                                                                 {0.0F, 0.7F, 0.0F},
+                                                                 {0.0F, 0.0F, 0.7F},
+                                                                 {0.5F, 0.5F, 0.0F},
+                                                                 {0.0F, 0.5F, 0.5F},
+                                                                 {0.5F, 0.0F, 0.5F}}};
 
 } // namespace
 
@@ -20,8 +20,8 @@ void GraphTraceSet::setMaxParameters(unsigned int count)
 {
     mParameters = std::vector<ParStruct>(std::min(count, kMaxTraces));
     for (std::size_t i = 0; i < mParameters.size(); ++i) {
-        mParameters[i].colour = kDefaultColours[i % kDefaultColours.size()];
-        mParameters[i].colourKey = QString::asprintf("GraphColor%d", static_cast<int>(i));
+        mParameters[i].color = kDefaultColors[i % kDefaultColors.size()];
+        mParameters[i].colorKey = QString::asprintf("GraphColor%d", static_cast<int>(i));
     }
     mDisplayOrder.resize(mParameters.size());
     std::iota(mDisplayOrder.begin(), mDisplayOrder.end(), 0U);
@@ -55,7 +55,7 @@ void GraphTraceSet::setParameterUnit(unsigned int i, const std::string& unit)
 void GraphTraceSet::setParameterColor(unsigned int i, float red, float green, float blue)
 {
     if (ParStruct* found = find(i)) {
-        found->colour = {red, green, blue};
+        found->color = {red, green, blue};
     }
 }
 

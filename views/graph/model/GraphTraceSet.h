@@ -19,7 +19,7 @@ class GraphTraceSet
 {
 public:
     /// Red, green, blue, each 0 to 1.
-    using Colour = std::array<float, 3>;
+    using Color = std::array<float, 3>;
 
     /// A trace and how it is shown.
     struct ParStruct
@@ -27,8 +27,8 @@ public:
         GraphTrace trace;
         QString name = QStringLiteral("NoName");
         QString unit = QStringLiteral("-"); ///< shown with the values
-        Colour colour = {1.0F, 0.0F, 0.0F};
-        QString colourKey;    ///< "GraphColor%d" of the trace number
+        Color color = {1.0F, 0.0F, 0.0F};
+        QString colorKey;     ///< "GraphColor%d" of the trace number
         int precision = 2;    ///< decimals of the readout
         bool active = false;  ///< has a place in the graph and the legend
         bool visible = true;  ///< false: hidden for the moment, with its place in the legend kept

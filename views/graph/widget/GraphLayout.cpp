@@ -36,7 +36,7 @@ GraphLayout::GraphLayout(const GraphLayoutInput& input)
     mHandles = QRect(kMargin / 2, mPlot.top(), kHandleWidth, mPlot.height());
     mValueAxis = QRect(handles, mPlot.top(), input.axisWidth, mPlot.height());
     mTimeAxis = QRect(mPlot.left(), mPlot.bottom() + 1 + kGap, mPlot.width(), mLineHeight);
-    placeLegend(input);
+    layOutLegend(input);
 }
 
 void GraphLayout::chooseLegend(const GraphLayoutInput& input)
@@ -68,7 +68,7 @@ void GraphLayout::chooseLegend(const GraphLayoutInput& input)
     }
 }
 
-void GraphLayout::placeLegend(const GraphLayoutInput& input)
+void GraphLayout::layOutLegend(const GraphLayoutInput& input)
 {
     if (mLegendKind == Legend::None) {
         return;
@@ -191,7 +191,7 @@ double GraphLayout::yOf(double value, const QRect& band, double low, double high
     return band.top() + band.height() * (1.0 - part);
 }
 
-QRect GraphLayout::placeBeside(const QPoint& anchor, const QSize& size, const QRect& area)
+QRect GraphLayout::boxBeside(const QPoint& anchor, const QSize& size, const QRect& area)
 {
     const QSize fitted = size.boundedTo(area.size());
     int left = anchor.x() + kMargin;

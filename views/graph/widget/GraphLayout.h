@@ -79,12 +79,12 @@ public:
 
     /// A box of a size beside an anchor and wholly inside an area: to the right of the anchor,
     /// else to its left, else where it fits. Larger than the area, it is cut to it.
-    [[nodiscard]] static QRect placeBeside(const QPoint& anchor, const QSize& size,
-                                           const QRect& area);
+    [[nodiscard]] static QRect boxBeside(const QPoint& anchor, const QSize& size,
+                                         const QRect& area);
 
 private:
     void chooseLegend(const GraphLayoutInput& input);
-    void placeLegend(const GraphLayoutInput& input);
+    void layOutLegend(const GraphLayoutInput& input);
     QRect slot(int trace) const;
 
     QRect mPlot;

@@ -17,11 +17,11 @@ QColor GraphLook::plotText() const
     return Palette::contrast(white, back) >= Palette::contrast(black, back) ? white : black;
 }
 
-QColor GraphLook::traceColour(const std::array<float, 3>& own) const
+QColor GraphLook::traceColor(const std::array<float, 3>& own) const
 {
-    const QColor colour = QColor::fromRgbF(static_cast<double>(own[0]), static_cast<double>(own[1]),
-                                           static_cast<double>(own[2]));
-    return onPaper ? readable(colour, back) : colour;
+    const QColor color = QColor::fromRgbF(static_cast<double>(own[0]), static_cast<double>(own[1]),
+                                          static_cast<double>(own[2]));
+    return onPaper ? readable(color, back) : color;
 }
 
 QColor GraphLook::accentOn(const QColor& ground)
@@ -38,14 +38,14 @@ QColor GraphLook::mix(const QColor& from, const QColor& to, double part)
             between(from.blue(), to.blue())};
 }
 
-QColor GraphLook::readable(const QColor& colour, const QColor& ground)
+QColor GraphLook::readable(const QColor& color, const QColor& ground)
 {
     GraphLook on;
     on.back = ground;
     QColor end = on.plotText();
     constexpr int kSteps = 16;
     for (int step = 0; step < kSteps; ++step) {
-        QColor tried = mix(colour, end, static_cast<double>(step) / kSteps);
+        QColor tried = mix(color, end, static_cast<double>(step) / kSteps);
         if (Palette::contrast(tried, ground) >= kReadable) {
             return tried;
         }

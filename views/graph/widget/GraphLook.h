@@ -33,14 +33,14 @@ struct GraphLook
     [[nodiscard]] QColor plotMutedText() const { return mix(back, plotText(), 0.68); }
 
     /// The colour in which a trace is drawn, given its own (red, green, blue, each 0 to 1).
-    [[nodiscard]] QColor traceColour(const std::array<float, 3>& own) const;
+    [[nodiscard]] QColor traceColor(const std::array<float, 3>& own) const;
 
     /// The accent of the look, light or dark, that shows best on a ground.
     [[nodiscard]] static QColor accentOn(const QColor& ground);
     /// A colour on the way from one (0) to another (1).
     [[nodiscard]] static QColor mix(const QColor& from, const QColor& to, double part);
     /// A trace's colour, moved towards black or white until texts in it are readable on a ground.
-    [[nodiscard]] static QColor readable(const QColor& colour, const QColor& ground);
+    [[nodiscard]] static QColor readable(const QColor& color, const QColor& ground);
 };
 
 } // namespace VELIX

@@ -4,7 +4,8 @@
 
 namespace VELIX {
 
-/// What mouse and keyboard show in a graph for the moment.
+/// What mouse and keyboard show in a graph for the moment. Positions are counted among the traces
+/// shown, from the top.
 struct GraphPointer
 {
     QPoint mouse;              ///< logical pixels of the widget
@@ -13,8 +14,8 @@ struct GraphPointer
     bool focused = false;      ///< keys move the cursor
     bool markersOn = false;
     bool distance = false; ///< the distance of the markers is shown
-    int draggedTrace = -1; ///< place of the trace that is being moved; -1: none
-    int dropPlace = -1;    ///< where it would go
+    int draggedTrace = -1; ///< position of the trace that is being moved; -1: none
+    int dropPosition = -1; ///< where it would go
 };
 
 } // namespace VELIX

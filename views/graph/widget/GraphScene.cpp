@@ -152,7 +152,7 @@ GraphScene GraphScene::make(const GraphModel& model, const GraphLook& look, cons
     return scene;
 }
 
-int GraphScene::placeOf(unsigned int trace) const
+int GraphScene::positionOf(unsigned int trace) const
 {
     const auto found = std::find(shown.begin(), shown.end(), trace);
     return found == shown.end() ? -1 : static_cast<int>(found - shown.begin());

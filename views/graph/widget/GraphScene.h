@@ -33,7 +33,7 @@ struct GraphScene
         return layout.band(static_cast<int>(place));
     }
     /// The place of a trace among those shown; -1 if it is not shown.
-    [[nodiscard]] int placeOf(unsigned int trace) const;
+    [[nodiscard]] int positionOf(unsigned int trace) const;
 };
 
 } // namespace VELIX

@@ -1,7 +1,9 @@
 #include "views/graph/widget/WidgetGraphBase.h"
 
-#include <QEvent>
+#include <QHelpEvent>
+#include <QMouseEvent>
 #include <QOpenGLContext>
+#include <QToolTip>
 
 namespace {
 
@@ -16,10 +18,21 @@ QColor fromFractions(float red, float green, float blue)
 
 } // namespace
 
-WidgetGraphBase::WidgetGraphBase(QWidget* parent) : QOpenGLWidget(parent)
+WidgetGraphBase::WidgetGraphBase(std::unique_ptr<VELIX::GraphPen> pen, QWidget* parent)
+    : QOpenGLWidget(parent), mPainter(mModel, mLook, mPointer, mScenes, std::move(pen))
 {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
+
+    using VELIX::GraphInput;
+    connect(&mInput, &GraphInput::signalRepaint, this, qOverload<>(&QWidget::update));
+    connect(&mInput, &GraphInput::signalCursor, this, &WidgetGraphBase::signalCursor);
+    connect(&mInput, &GraphInput::signalMoveCursorFinished, this,
+            &WidgetGraphBase::signalMoveCursorFinished);
+    connect(&mInput, &GraphInput::signalMarker, this, &WidgetGraphBase::signalMarker);
+    connect(&mInput, &GraphInput::signalManMode, this, &WidgetGraphBase::signalManMode);
+    connect(&mInput, &GraphInput::signalMoveParameter, this, &WidgetGraphBase::signalMoveParameter);
+    connect(&mInput, &GraphInput::signalRangeChanged, this, &WidgetGraphBase::signalRangeChanged);
 
     mRecalcTimer.setSingleShot(true);
     mCursorTimer.setSingleShot(true);
@@ -35,12 +48,12 @@ WidgetGraphBase::~WidgetGraphBase()
     if (context() != nullptr) {
         disconnect(context(), nullptr, this, nullptr);
     }
-    releasePlot();
+    releaseContext();
 }
 
 void WidgetGraphBase::touch()
 {
-    mSceneStale = true;
+    mScenes.invalidate();
     update();
 }
 
@@ -110,10 +123,7 @@ void WidgetGraphBase::clear()
 void WidgetGraphBase::reset()
 {
     mModel.reset();
-    const bool focused = mPointer.focused;
-    mPointer = {};
-    mPointer.focused = focused;
-    mDrag = Drag::None;
+    mInput.reset();
     touch();
 }
 
@@ -332,38 +342,55 @@ void WidgetGraphBase::slotTimeoutCursor()
     update();
 }
 
-// --- the scene
+// --- painting
 
 const VELIX::GraphLayout& WidgetGraphBase::layoutOfParts()
 {
-    updateScene();
-    return mScene.layout;
+    return mScenes.current().layout;
 }
 
-void WidgetGraphBase::updateScene()
+void WidgetGraphBase::initializeGL()
 {
-    if (!mSceneStale && mSceneRevision == mModel.plotRevision() && mSceneSize == size()) {
-        return;
+    // A widget that moves to another window gets a new context.
+    connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &WidgetGraphBase::releaseContext);
+}
+
+void WidgetGraphBase::releaseContext()
+{
+    if (context() != nullptr) {
+        makeCurrent();
+        mPainter.release();
+        doneCurrent();
     }
-    mModel.calcFrame(); // the ticks depend on the scales
-    mScene = VELIX::GraphScene::make(mModel, mLook, size(), font());
-    mSceneRevision = mModel.plotRevision();
-    mSceneSize = size();
-    mSceneStale = false;
-    mPlotStale = true;
+}
+
+void WidgetGraphBase::resizeGL(int, int)
+{
+    adoptPlotWidth();
+}
+
+void WidgetGraphBase::paintGL()
+{
+    ++mPaintCount;
+    adoptPlotWidth();
+    const double ratio = devicePixelRatioF();
+    const QSize pixels(qRound(width() * ratio), qRound(height() * ratio));
+    mPainter.paint({pixels, ratio, defaultFramebufferObject()});
+    mPaintedRevision = mModel.revision();
+    mSinceRepaint.restart();
 }
 
 void WidgetGraphBase::adoptPlotWidth()
 {
     // Frames are as fine as the frame buffer, which has more pixels than the widget on some
     // screens.
-    const int width = qRound(mScene.layout.plot().width() * devicePixelRatioF());
-    if (mScene.layout.empty() || width == mModel.plotWidth()) {
+    const VELIX::GraphLayout& parts = layoutOfParts();
+    const int width = qRound(parts.plot().width() * devicePixelRatioF());
+    if (parts.empty() || width == mModel.plotWidth()) {
         return;
     }
     mModel.setPlotWidth(width);
     mModel.recalcFrameBuffer();
-    mPlotStale = true;
     startRecalc();
 }
 
@@ -374,4 +401,92 @@ void WidgetGraphBase::changeEvent(QEvent* event)
         event->type() == QEvent::LanguageChange) {
         touch();
     }
+}
+
+// --- mouse and keys
+
+void WidgetGraphBase::mousePressEvent(QMouseEvent* event)
+{
+    mInput.press(*event);
+}
+
+void WidgetGraphBase::mouseMoveEvent(QMouseEvent* event)
+{
+    mInput.move(*event);
+}
+
+void WidgetGraphBase::mouseReleaseEvent(QMouseEvent* event)
+{
+    mInput.release(*event);
+}
+
+void WidgetGraphBase::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    mInput.doubleClick(*event);
+}
+
+void WidgetGraphBase::wheelEvent(QWheelEvent* event)
+{
+    event->setAccepted(mInput.turnWheel(*event));
+}
+
+void WidgetGraphBase::leaveEvent(QEvent* event)
+{
+    QOpenGLWidget::leaveEvent(event);
+    mInput.leave();
+}
+
+void WidgetGraphBase::keyPressEvent(QKeyEvent* event)
+{
+    if (!mInput.pressKey(*event)) {
+        QOpenGLWidget::keyPressEvent(event);
+    }
+}
+
+void WidgetGraphBase::keyReleaseEvent(QKeyEvent* event)
+{
+    mInput.releaseKey(*event);
+    QOpenGLWidget::keyReleaseEvent(event);
+}
+
+void WidgetGraphBase::focusInEvent(QFocusEvent* event)
+{
+    mInput.setFocused(true);
+    QOpenGLWidget::focusInEvent(event); // updates
+}
+
+void WidgetGraphBase::focusOutEvent(QFocusEvent* event)
+{
+    mInput.setFocused(false);
+    QOpenGLWidget::focusOutEvent(event);
+}
+
+bool WidgetGraphBase::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip) {
+        return QOpenGLWidget::event(event);
+    }
+    if (!showToolTip(*static_cast<QHelpEvent*>(event))) {
+        QToolTip::hideText();
+        event->ignore();
+    }
+    return true;
+}
+
+bool WidgetGraphBase::showToolTip(const QHelpEvent& event)
+{
+    const VELIX::GraphScene& scene = mScenes.current();
+    const int handle = scene.layout.handleAt(event.pos());
+    const int row = scene.layout.legendEntryAt(event.pos());
+    if (handle < 0 && row < 0) {
+        return false;
+    }
+    const unsigned int trace = handle >= 0 ? scene.shown[static_cast<std::size_t>(handle)]
+                                           : scene.listed[static_cast<std::size_t>(row)];
+    const VELIX::GraphModel::ParStruct& parameter = mModel.parameter(trace);
+    const QString text = handle >= 0         ? tr("%1: drag to another place")
+                         : parameter.visible ? tr("%1: double-click to hide")
+                                             : tr("%1: double-click to show");
+    QToolTip::showText(event.globalPos(), text.arg(parameter.name), this);
+    return true;
 }

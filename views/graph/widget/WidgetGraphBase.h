@@ -1,24 +1,26 @@
 #pragma once
 
-#include "platform/tessel/opengl/FrameCache.h"
 #include "views/graph/model/GraphModel.h"
-#include "views/graph/widget/GraphCurve.h"
+#include "views/graph/widget/GraphInput.h"
 #include "views/graph/widget/GraphLook.h"
+#include "views/graph/widget/GraphPainter.h"
 #include "views/graph/widget/GraphPointer.h"
-#include "views/graph/widget/GraphScene.h"
+#include "views/graph/widget/GraphSceneCache.h"
 
 #include <QElapsedTimer>
 #include <QOpenGLWidget>
 #include <QTimer>
 
+#include <memory>
 #include <string>
-#include <vector>
+
+class QHelpEvent;
 
 /// The graph of any number of traces over time, with grid, legend, cursor, two markers and
-/// readouts. All but the drawing of lines, which the two graph widgets do in different ways.
+/// readouts. The two graph widgets give it different pens.
 ///
 /// Times are seconds on the record's time axis. Feeding: setTime(t), then putValue() for each trace
-/// with a sample at that time; the picture follows at the pace of the repaint timer.
+/// with a sample at that time; what is shown follows at the pace of the repaint timer.
 class WidgetGraphBase : public QOpenGLWidget
 {
     Q_OBJECT
@@ -31,10 +33,10 @@ public:
     using EntryType = VELIX::GraphTrace::EntryType;
     using FrameType = VELIX::GraphTrace::FrameType;
 
-    explicit WidgetGraphBase(QWidget* parent = nullptr);
+    WidgetGraphBase(std::unique_ptr<VELIX::GraphPen> pen, QWidget* parent);
     ~WidgetGraphBase() override;
 
-    /// State, samples and rules; for whoever only reads them.
+    /// State, samples and rules, for those who only read them.
     [[nodiscard]] const VELIX::GraphModel& model() const { return mModel; }
 
     // --- traces, by number; numbers beyond the traces are ignored
@@ -76,7 +78,7 @@ public:
     /// A triangle at the upper edge of the plot, labelled with the trace's name and the time.
     void addTopMarker(unsigned int i, double time);
     /// Whether dragging with the right button moves the range; at first it does.
-    void setPanning(bool allowed) { mPanningAllowed = allowed; }
+    void setPanning(bool allowed) { mInput.setPanning(allowed); }
 
     // --- look, colours as fractions 0..1
 
@@ -113,7 +115,7 @@ public:
     [[nodiscard]] const VELIX::GraphLayout& layoutOfParts();
     [[nodiscard]] const VELIX::GraphLook& look() const { return mLook; }
     [[nodiscard]] bool markersOn() const { return mPointer.markersOn; }
-    /// Pictures painted so far.
+    /// Frames painted so far.
     [[nodiscard]] unsigned int paintCount() const { return mPaintCount; }
 
 signals:
@@ -123,7 +125,7 @@ signals:
     void signalMarker(float marker1, float marker2);
     /// The user took over the time range, leaving the automatic mode.
     void signalManMode();
-    /// A trace was dragged from one place of the display to another.
+    /// A trace was dragged from one position of the display to another, counted from the top.
     void signalMoveParameter(int from, int to);
     /// The user changed the visible range by wheel or mouse; sent at the end of a drag.
     void signalRangeChanged();
@@ -152,76 +154,23 @@ protected:
     void changeEvent(QEvent* event) override;
     bool event(QEvent* event) override;
 
-    // --- how the two widgets differ; coordinates are pixels of the frame buffer, y downwards
-
-    virtual void beginDrawing(const QSize& pixels) = 0;
-    /// Pairs of vertices, each a line.
-    virtual void drawLines(const std::vector<VELIX::GraphVertex>& vertices, const QColor& colour,
-                           float width) = 0;
-    /// Line strips; with a point size also a square on each vertex.
-    virtual void drawCurve(const VELIX::GraphCurve& curve, const QColor& colour, float width,
-                           float pointSize) = 0;
-    virtual void endDrawing() = 0;
-
 private:
-    enum class Drag { None, Marker, Cursor, Pan, Handle };
-
     void touch();
-    void updateScene();
     void adoptPlotWidth();
-
-    void showPlot(const QSize& pixels);
-    void drawPlot(const QSize& pixels);
-    void drawGround(const QSize& pixels);
-    void releasePlot();
-    void drawGrid();
-    void drawTraces();
-    void drawOverlayLines(const QSize& pixels);
-    void drawCursorValue();
-    void drawTexts(const QSize& pixels);
-    void scissor(const QRect& area) const;
-    void addVertical(std::vector<VELIX::GraphVertex>& lines, double x, const QRect& area) const;
-    void addHorizontal(std::vector<VELIX::GraphVertex>& lines, double y, const QRect& area) const;
-    [[nodiscard]] double pixelOf(double logical) const;
-
-    void pressLeft(const QPoint& point, Qt::KeyboardModifiers held);
-    void pressOutside(const QPoint& point);
-    void moveMarker(const QPoint& point);
-    void placeCursor(const QPoint& point);
-    void moveTrace(int from, int to);
-    void pan(const QPoint& point);
-    void finishDrag(const QPoint& point);
-    void emitMarkers();
-    void moveCursorBy(double pixelsX, double pixelsY);
-    [[nodiscard]] double timeAt(const QPoint& point);
-    /// The band of the selected trace; the whole plot in single display.
-    [[nodiscard]] QRect selectedBand();
+    void releaseContext();
+    [[nodiscard]] bool showToolTip(const QHelpEvent& event);
 
     VELIX::GraphModel mModel;
     VELIX::GraphLook mLook;
     VELIX::GraphPointer mPointer;
-    VELIX::GraphScene mScene;
-    /// Grid and traces, smooth: a cursor that moves costs a copy of them.
-    Tessel::OpenGL::FrameCache mPlot{4};
-    bool mPlotStale = true;   ///< the picture that mPlot keeps is out of date
-    VELIX::GraphCurve mCurve; ///< kept for its memory
-    std::vector<VELIX::GraphVertex> mLines;
+    VELIX::GraphSceneCache mScenes{*this, mModel, mLook};
+    VELIX::GraphPainter mPainter;
 
     QTimer mRepaintTimer;
     QTimer mRecalcTimer;
     QTimer mCursorTimer;
+    VELIX::GraphInput mInput{mModel, mPointer, mScenes, {mRecalcTimer, mCursorTimer}};
     QElapsedTimer mSinceRepaint;
     std::uint64_t mPaintedRevision = 0;
-    std::uint64_t mSceneRevision = 0;
-    QSize mSceneSize;
-    bool mSceneStale = true;
     unsigned int mPaintCount = 0;
-
-    Drag mDrag = Drag::None;
-    Qt::KeyboardModifiers mHeldKeys = Qt::NoModifier;
-    bool mPanningAllowed = true;
-    QPoint mPressPoint;
-    bool mSecondMarker = false; ///< the marker that is dragged
-    VELIX::GraphTimeRange mPressRange;
-    int mWheelDelta = 0; ///< of touch pads, which send parts of a step
 };

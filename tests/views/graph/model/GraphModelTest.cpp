@@ -122,7 +122,7 @@ TEST(GraphModelTest, VisibleRange)
     constexpr auto kManual = GraphModel::GraphManual;
     constexpr auto kAutomatic = GraphModel::GraphAutomatic;
     constexpr auto kFloating = GraphModel::CursorFloating;
-    constexpr auto kCentre = GraphModel::CursorCentre;
+    constexpr auto kCenter = GraphModel::CursorCenter;
     constexpr auto kEnd = GraphModel::CursorEnd;
     const struct
     {
@@ -145,9 +145,9 @@ TEST(GraphModelTest, VisibleRange)
         {"an end before the other", kManual, kFloating, [](M& m) { m.setXmax(-5); }, "0..-5"},
         {"an end that is no number", kManual, kFloating, [](M& m) { m.setXmax(kNan); }, "0..60"},
         {"floating cursor", kManual, kFloating, [](M& m) { m.setCursorPosition(100); }, "0..60"},
-        {"centred cursor", kManual, kCentre, [](M& m) { m.setCursorPosition(100); }, "70..130"},
+        {"centred cursor", kManual, kCenter, [](M& m) { m.setCursorPosition(100); }, "70..130"},
         {"cursor at the end", kManual, kEnd, [](M& m) { m.setCursorPosition(100); }, "40..100"},
-        {"cursor nowhere", kManual, kCentre, [](M& m) { m.setCursorPosition(kNan); }, "0..60"},
+        {"cursor nowhere", kManual, kCenter, [](M& m) { m.setCursorPosition(kNan); }, "0..60"},
         {"between the markers", kAutomatic, kFloating, [](M& m) { m.zoomToMarker(); }, "5..8"},
         {"dragged to the left edge", kManual, kFloating, [](M& m) { m.pan(m.range(), -30); },
          "-30..30"},
@@ -235,7 +235,7 @@ TEST(GraphModelTest, DrawnFramesAreNeverOutOfDate)
             m.setActive(0, true);
         },
         [](M& m) { m.setXrange(5); },
-        [](M& m) { m.setCursorMode(GraphModel::CursorCentre); },
+        [](M& m) { m.setCursorMode(GraphModel::CursorCenter); },
         [](M& m) { m.setCursorPosition(150); },
         [](M& m) { m.setGraphMode(GraphModel::GraphAutomatic); },
         [](M& m) { m.setTime(40); },
@@ -357,7 +357,7 @@ TEST(GraphModelTest, WhatMovesOverTheTracesLeavesThemAsTheyAre)
     f.model.setSelectedTrace(1);
     EXPECT_NE(f.model.revision(), seen);
     EXPECT_EQ(f.model.plotRevision(), plot);
-    f.model.setCursorMode(GraphModel::CursorCentre);
+    f.model.setCursorMode(GraphModel::CursorCenter);
     f.model.setCursorPosition(2.0);
     EXPECT_NE(f.model.plotRevision(), plot);
 }

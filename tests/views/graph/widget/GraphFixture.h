@@ -80,7 +80,7 @@ public:
 };
 
 /// Pixels of an area that are nearly of a colour.
-inline int pixelsLike(const QImage& image, const QRect& area, const QColor& colour,
+inline int pixelsLike(const QImage& image, const QRect& area, const QColor& color,
                       int tolerance = 40)
 {
     int count = 0;
@@ -88,9 +88,9 @@ inline int pixelsLike(const QImage& image, const QRect& area, const QColor& colo
     for (int y = inside.top(); y <= inside.bottom(); ++y) {
         for (int x = inside.left(); x <= inside.right(); ++x) {
             const QColor pixel = image.pixelColor(x, y);
-            const bool like = std::abs(pixel.red() - colour.red()) <= tolerance &&
-                              std::abs(pixel.green() - colour.green()) <= tolerance &&
-                              std::abs(pixel.blue() - colour.blue()) <= tolerance;
+            const bool like = std::abs(pixel.red() - color.red()) <= tolerance &&
+                              std::abs(pixel.green() - color.green()) <= tolerance &&
+                              std::abs(pixel.blue() - color.blue()) <= tolerance;
             count += like ? 1 : 0;
         }
     }

@@ -138,13 +138,13 @@ TEST(GraphLayoutTest, ReadoutsStayInsideTheirArea)
 {
     const QRect area(50, 10, 300, 200);
     const QSize size(80, 40);
-    EXPECT_EQ(GraphLayout::placeBeside({100, 100}, size, area).left(), 108);
-    EXPECT_EQ(GraphLayout::placeBeside({340, 100}, size, area).right(), 331);
+    EXPECT_EQ(GraphLayout::boxBeside({100, 100}, size, area).left(), 108);
+    EXPECT_EQ(GraphLayout::boxBeside({340, 100}, size, area).right(), 331);
     for (const QPoint& anchor :
          {QPoint(50, 10), QPoint(349, 209), QPoint(-500, 900), QPoint(200, 0)}) {
-        EXPECT_TRUE(area.contains(GraphLayout::placeBeside(anchor, size, area)));
+        EXPECT_TRUE(area.contains(GraphLayout::boxBeside(anchor, size, area)));
     }
-    EXPECT_EQ(GraphLayout::placeBeside({100, 100}, QSize(900, 900), area), area);
+    EXPECT_EQ(GraphLayout::boxBeside({100, 100}, QSize(900, 900), area), area);
 }
 
 } // namespace

@@ -72,10 +72,10 @@ TYPED_TEST(WidgetGraphInput, CtrlPlacesTheCursorOnTheScaleOfTheBand)
     EXPECT_FALSE(fixture.graph.markersOn());
 }
 
-TYPED_TEST(WidgetGraphInput, MiddleDragsTheCursorAlsoInTheCentreMode)
+TYPED_TEST(WidgetGraphInput, MiddleDragsTheCursorAlsoInTheCenterMode)
 {
     GraphFixture<TypeParam> fixture;
-    fixture.graph.setCursorMode(GraphModel::CursorCentre);
+    fixture.graph.setCursorMode(GraphModel::CursorCenter);
     QSignalSpy moved(&fixture.graph, &WidgetGraphBase::signalCursor);
     QSignalSpy finished(&fixture.graph, &WidgetGraphBase::signalMoveCursorFinished);
     QTest::mousePress(&fixture.graph, Qt::MiddleButton, Qt::NoModifier, fixture.at(0.2, 0.5));

@@ -68,7 +68,7 @@ TYPED_TEST(WidgetGraphPainting, TextsSurviveASnapshot)
     EXPECT_GT(pixelsLike(empty.paint(), empty.plot(), empty.graph.look().plotMutedText(), 30), 100);
 }
 
-TYPED_TEST(WidgetGraphPainting, ColoursAreTheUsers)
+TYPED_TEST(WidgetGraphPainting, ColorsAreTheUsers)
 {
     GraphFixture<TypeParam> fixture;
     fixture.graph.setBackColor(0.0F, 0.0F, 0.4F);
@@ -89,11 +89,11 @@ TYPED_TEST(WidgetGraphPainting, TheFrameOfThePlotShowsTheFocus)
 {
     GraphFixture<TypeParam> fixture;
     const QRect edge(fixture.plot().left() - 1, fixture.plot().top(), 1, fixture.plot().height());
-    const QColor colour = fixture.graph.look().focus();
+    const QColor color = fixture.graph.look().focus();
     fixture.graph.setFocus();
-    EXPECT_GT(pixelsLike(fixture.paint(), edge, colour), edge.height() / 2);
+    EXPECT_GT(pixelsLike(fixture.paint(), edge, color), edge.height() / 2);
     fixture.graph.clearFocus();
-    EXPECT_EQ(pixelsLike(fixture.paint(), edge, colour), 0);
+    EXPECT_EQ(pixelsLike(fixture.paint(), edge, color), 0);
 }
 
 TYPED_TEST(WidgetGraphPainting, TheGraphicsSystemHasNoComplaints)
