@@ -1,22 +1,24 @@
 #include "views/graph/DialogDataGraph.h"
 
 #include "card/RecordData.h"
+#include "gui/dialogs/DialogService.h"
 #include "gui/look/WidgetHint.h"
 #include "profile/Profile.h"
-#include "views/common/GraphValues.h"
 #include "views/graph/DialogGraphSetup.h"
-#include "views/graph/GraphColor.h"
 #include "views/graph/GraphNavigation.h"
+#include "views/graph/GraphPrint.h"
+#include "views/graph/GraphSnapshot.h"
 #include "views/graph/GraphStatisticTable.h"
 #include "views/graph/widget/WidgetGraph.h"
 
 #include <QAction>
 #include <QButtonGroup>
+#include <QClipboard>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QPixmap>
 
-#include <algorithm>
 #include <cmath>
 
 namespace VELIX {
@@ -41,7 +43,7 @@ DialogDataGraph::DialogDataGraph(Profile& profile, Property& settings, DialogSer
     connect(mSetup, &DialogGraphSetup::signalChanged, this, &DialogDataGraph::slotGraphSetup);
     if (const auto stored = mSettings.load()) {
         mData = *stored;
-        applySettings();
+        GraphSettings::apply(mData, *mGraph);
     }
     updateControls();
     updateProfile();
@@ -56,7 +58,7 @@ void DialogDataGraph::createGraph()
 {
     mGraph = new WidgetGraph(this);
     mGraph->setObjectName(QStringLiteral("graph"));
-    mGraph->setMaxParameters(kMaxTraces);
+    mFeed = std::make_unique<GraphFeed>(*mGraph, mProfile);
     mGraph->setDisplayMode(GraphModel::DisplaySplit);
     mGraph->setGraphMode(GraphModel::GraphManual);
     // A recording is complete: nothing is to be repeated up to a present.
@@ -66,7 +68,7 @@ void DialogDataGraph::createGraph()
     // The keys can take the cursor beyond the visible range.
     connect(mGraph, &WidgetGraph::signalCursor, this, [this] {
         if (!mGraph->model().range().contains(mGraph->model().cursorTime())) {
-            noteUserRange();
+            mVisits.note(mGraph->model().range());
             pageTo(mGraph->model().cursorTime());
         }
     });
@@ -114,32 +116,9 @@ void DialogDataGraph::createLayout()
     updateHistoryActions();
 }
 
-/// Hands all settings to the graph, in their order.
-void DialogDataGraph::applySettings()
-{
-    const GraphColor back = GraphColor::fromName(mData.backColor);
-    const GraphColor grid = GraphColor::fromName(mData.gridColor);
-    const GraphColor label = GraphColor::fromName(mData.labelColor);
-    const GraphColor labelBack = GraphColor::fromName(mData.labelBackColor);
-    mGraph->setXrange(static_cast<float>(mData.xRange));
-    mGraph->setDisplayMode(static_cast<GraphModel::eDisplayMode>(mData.displayMode));
-    mGraph->setGraphMode(static_cast<GraphModel::eGraphMode>(mData.graphMode));
-    mGraph->setCursorMode(static_cast<GraphModel::eCursorMode>(mData.cursorMode));
-    mGraph->setBackColor(back.red, back.green, back.blue);
-    mGraph->activateGrid(mData.gridOn);
-    mGraph->setGridColor(grid.red, grid.green, grid.blue);
-    mGraph->setLabelColor(label.red, label.green, label.blue);
-    mGraph->setLabelBackColor(labelBack.red, labelBack.green, labelBack.blue);
-    mGraph->activateCursor(mData.cursorOn);
-    mGraph->activateLegend(mData.legendOn);
-    mGraph->setAutoScaleY(mData.autoScaleOn);
-    mGraph->setYmin(static_cast<float>(mData.yMin));
-    mGraph->setYmax(static_cast<float>(mData.yMax));
-}
-
 void DialogDataGraph::slotGraphSetup()
 {
-    applySettings();
+    GraphSettings::apply(mData, *mGraph);
     updateControls();
     mSettings.store(mData);
 }
@@ -149,7 +128,7 @@ void DialogDataGraph::setTime(double seconds)
     if (!std::isfinite(seconds)) {
         return;
     }
-    noteUserRange();
+    mVisits.note(mGraph->model().range());
     mGraph->setCursorPosition(seconds);
     pageTo(seconds);
 }
@@ -163,12 +142,7 @@ void DialogDataGraph::pageTo(double seconds)
     if (!(range == visible)) {
         mGraph->setVisibleRange(range.xmin(), range.xmax());
     }
-    if (mVisitPending) {
-        mSeenRange = mGraph->model().range(); // still the range that the user chose, moved along
-    } else if (!(mGraph->model().range() == mSeenRange)) {
-        mSeenRange = mGraph->model().range();
-        mHistory.follow(mSeenRange);
-    }
+    mVisits.follow(mGraph->model().range());
 }
 
 void DialogDataGraph::setRange(const GraphTimeRange& range)
@@ -216,82 +190,31 @@ void DialogDataGraph::updateRecord(RecordData* record)
     if (record == nullptr) {
         return;
     }
-    fillRecord();
+    mFeed->fill(*mRecord);
     zoomAll();
     mGraph->setCursorPosition(record->startTime);
-    mHistory.clear();
-    mVisitPending = false;
-    mSeenRange = mGraph->model().range();
-    mHistory.visit(mSeenRange);
+    mVisits.restart(mGraph->model().range());
     updateHistoryActions();
 }
 
 void DialogDataGraph::updateProfile()
 {
-    takeParameters();
+    updateSurplus(mFeed->takeParameters());
     mCleared = false;
     mGraph->clear();
     updateHint();
     if (mRecord != nullptr) {
         const GraphTimeRange range = mGraph->model().range(); // feeding moves it in automatic mode
-        fillRecord();
+        mFeed->fill(*mRecord);
         mGraph->setVisibleRange(range.xmin(), range.xmax());
         mGraph->startRecalc();
     }
 }
 
-/// One trace for each selected parameter.
-void DialogDataGraph::takeParameters()
-{
-    const auto parameters = mProfile.selectedParameters();
-    const std::size_t shown = std::min<std::size_t>(parameters.size(), kMaxTraces);
-    QStringList names;
-    for (std::size_t i = 0; i < shown; ++i) {
-        names.append(parameters[i]->fullName);
-    }
-    if (names != mTraceNames) {
-        mTraceNames = names;
-        mGraph->setMaxParameters(kMaxTraces); // what was hidden or moved were other parameters
-    }
-    for (unsigned int i = 0; i < kMaxTraces; ++i) {
-        mGraph->setActive(i, false);
-    }
-    for (unsigned int i = 0; i < shown; ++i) {
-        const ProfileParameter& parameter = *parameters[i];
-        mGraph->setActive(i, true);
-        mGraph->setParameterName(i, parameter.name.toStdString());
-        mGraph->setParameterUnit(i, GraphValues::unit(mProfile, parameter));
-        mGraph->setPrecision(i, GraphValues::decimals(mProfile, parameter));
-    }
-    updateSurplus(parameters.size());
-}
-
-void DialogDataGraph::fillRecord()
-{
-    const auto parameters = mProfile.selectedParameters();
-    const std::size_t shown = std::min<std::size_t>(parameters.size(), kMaxTraces);
-    for (std::size_t i = 0; i < shown; ++i) {
-        fillIndex(static_cast<int>(i), *parameters[i]);
-    }
-}
-
 void DialogDataGraph::fillIndex(int index, const ProfileParameter& parameter)
 {
-    const EntryList& entries = mRecord->entries(static_cast<std::uint32_t>(parameter.id));
-    const auto trace = static_cast<unsigned int>(index);
-    const auto put = [&](const RecordEntry& entry) {
-        mGraph->setTime(entry.time);
-        mGraph->putValue(trace, mProfile.getDouble(entry, parameter, true), false);
-    };
-    mProfile.resetCoordinates(); // positions are judged by those before them
-    if (entries.isSorted()) {
-        for (const RecordEntry& entry : entries) {
-            put(entry);
-        }
-        return;
-    }
-    for (const RecordEntry* entry : entries.sortedByTime()) {
-        put(*entry);
+    if (mRecord != nullptr) {
+        mFeed->fillTrace(static_cast<unsigned int>(index), parameter, *mRecord);
     }
 }
 
@@ -375,9 +298,121 @@ void DialogDataGraph::slotTimeout()
     } else if (mCommand == eGraphZoomOut) {
         setXrange(GraphNavigation::zoomedOut(width));
     }
-    trackHistory();
+    mVisits.tick(mGraph->model().range());
+    updateHistoryActions();
     if (mStatistic->isVisible()) {
         mStatistic->update(mGraph->model());
+    }
+}
+
+// --- sentences
+
+/// Says what is missing where a graph would only be black.
+void DialogDataGraph::updateHint()
+{
+    WidgetHint::Message message;
+    mOffer = Offer::SelectParameters;
+    if (mProfile.isEmpty()) {
+        mOffer = Offer::InstallProfile;
+        message = WidgetHint::withoutProfile();
+    } else if (mRecord == nullptr) {
+        message = WidgetHint::withoutRecord();
+    } else if (mFeed->isEmpty()) {
+        message = {tr("No parameter selected. Choose parameters in the list on the left and "
+                      "confirm."),
+                   tr("Select parameters")};
+    } else if (mCleared) {
+        mOffer = Offer::Refill;
+        message = {tr("The graph has been cleared."), tr("Show the record again")};
+    }
+    mHint->showInsteadOf(mGraph, message);
+}
+
+void DialogDataGraph::followHint()
+{
+    switch (mOffer) {
+    case Offer::SelectParameters:
+        emit signalSelectParameters();
+        break;
+    case Offer::InstallProfile:
+        emit signalInstallProfile();
+        break;
+    case Offer::Refill:
+        updateProfile();
+        break;
+    }
+}
+
+void DialogDataGraph::updateSurplus(std::size_t selected)
+{
+    mSurplus->setVisible(selected > GraphFeed::kMaxTraces);
+    mSurplus->setText(tr("%1 parameters are selected; the graph shows the first %2 of them.")
+                          .arg(selected)
+                          .arg(GraphFeed::kMaxTraces));
+}
+
+void DialogDataGraph::saveSnapshot()
+{
+    const QPixmap screenshot = grab(); // before the file dialog can cover the view
+    const QString file =
+        mDialogs.saveFile(this, tr("Save Snapshot"), QStringLiteral("./snapshot.bmp"),
+                          tr("BMP File (*.bmp);;All Files (*.*)"), QStringLiteral("bmp"));
+    if (file.isEmpty()) {
+        return;
+    }
+    const QString failure = GraphSnapshot::save(*mGraph, screenshot, file);
+    emit signalNotice(failure.isEmpty() ? tr("Snapshot saved as %1.").arg(file) : failure);
+}
+
+void DialogDataGraph::copySnapshot()
+{
+    QGuiApplication::clipboard()->setPixmap(grab());
+    emit signalNotice(tr("Snapshot copied to the clipboard."));
+}
+
+QString DialogDataGraph::printTitle() const
+{
+    return tr("Graph");
+}
+
+QString DialogDataGraph::unprintableReason() const
+{
+    if (mRecord == nullptr) {
+        return tr("No record loaded");
+    }
+    return mFeed->isEmpty() ? tr("No parameter selected") : QString();
+}
+
+std::unique_ptr<PrintLayout> DialogDataGraph::printLayout(QPaintDevice& device,
+                                                          const QSizeF& room) const
+{
+    return std::make_unique<GraphPrint>(mGraph->model(), mGraph->look(), mGraph->markersOn(),
+                                        mGraph->font(), device, room);
+}
+
+void DialogDataGraph::stepHistory(bool forward)
+{
+    const GraphTimeRange& shown = mGraph->model().range();
+    if (const auto range = forward ? mVisits.forward(shown) : mVisits.back(shown)) {
+        setRange(*range);
+    }
+    updateHistoryActions();
+}
+
+void DialogDataGraph::updateHistoryActions()
+{
+    mCommands->backAction()->setEnabled(mVisits.canGoBack());
+    mCommands->forwardAction()->setEnabled(mVisits.canGoForward());
+}
+
+void DialogDataGraph::showStatistic(bool on)
+{
+    mStatistic->setVisible(on);
+    if (on) {
+        mStatistic->update(mGraph->model());
+    }
+    if (on != mSettings.statisticOn()) {
+        mSettings.storeStatisticOn(on);
     }
 }
 

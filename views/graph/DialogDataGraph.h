@@ -3,13 +3,15 @@
 #include "views/common/DataView.h"
 #include "views/common/Printable.h"
 #include "views/graph/GraphCommandBar.h"
-#include "views/graph/GraphRangeHistory.h"
+#include "views/graph/GraphFeed.h"
 #include "views/graph/GraphSettings.h"
+#include "views/graph/GraphVisits.h"
 #include "views/graph/model/GraphData.h"
 
-#include <QStringList>
 #include <QTimer>
 #include <QWidget>
+
+#include <memory>
 
 class QLabel;
 class WidgetGraph;
@@ -31,16 +33,13 @@ class DialogDataGraph : public QWidget, public DataView, public Printable
     Q_OBJECT
 
 public:
-    /// Traces that the graph has room for; further parameters are not shown.
-    static constexpr unsigned int kMaxTraces = 30;
-
     DialogDataGraph(Profile& profile, Property& settings, DialogService& dialogs,
                     QWidget* parent = nullptr);
     ~DialogDataGraph() override;
 
     void setTime(double seconds) override;
     void updateRecord(RecordData* record) override;
-    /// Names the traces anew and fills them from the record held; cursor and range stay.
+    /// Names the traces again and fills them from the record held; cursor and range stay.
     void updateProfile() override;
 
     /// Hands all samples of a parameter to a trace, in order of time.
@@ -65,7 +64,7 @@ public:
 signals:
     /// The user moved the graph's cursor to a time (s) and value.
     void signalCursor(float time, double value);
-    /// A result or failure to tell the user in words.
+    /// A result or failure as a sentence for the user.
     void signalNotice(const QString& sentence);
     /// The user followed the link of a sentence that says what is missing.
     void signalInstallProfile();
@@ -83,22 +82,17 @@ private:
     void createCommands();
     void createHint();
     void createLayout();
-    void applySettings();
 
     void pageTo(double seconds);
     void setRange(const GraphTimeRange& range);
     void zoomAll();
     void zoomToMarkers();
     void setXrange(double seconds);
-    void fillRecord();
-    void takeParameters();
     void updateHint();
     void followHint();
     void updateSurplus(std::size_t selected);
 
-    bool noteUserRange();
     void stepHistory(bool forward);
-    void trackHistory();
     void updateHistoryActions();
     void showStatistic(bool on);
 
@@ -108,17 +102,13 @@ private:
     GraphData mData;
     int mCommand = eGraphNoCommand; ///< the button held down
     RecordData* mRecord = nullptr;
-    QStringList mTraceNames; ///< full names of the parameters shown
     QTimer mRepeatTimer;
-
-    GraphRangeHistory mHistory;
-    GraphTimeRange mSeenRange;
-    bool mVisitPending = false; ///< the user changed the range a moment ago
-    int mStillTicks = 0;        ///< ticks since then without a further change
+    GraphVisits mVisits;
 
     GraphCommandBar* mCommands = nullptr;
     QLabel* mSurplus = nullptr;
     WidgetGraph* mGraph = nullptr;
+    std::unique_ptr<GraphFeed> mFeed;
     WidgetHint* mHint = nullptr;
     enum class Offer { SelectParameters, InstallProfile, Refill };
     Offer mOffer = Offer::SelectParameters; ///< what the link of the hint does

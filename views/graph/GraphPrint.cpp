@@ -1,6 +1,6 @@
 #include "views/graph/GraphPrint.h"
 
-#include "views/graph/GraphPicture.h"
+#include "views/graph/GraphVectorPainter.h"
 
 #include <QFontInfo>
 #include <QPainter>
@@ -39,7 +39,7 @@ void GraphPrint::paintPage(QPainter& painter, int) const
 {
     painter.save();
     painter.scale(mPixel, mPixel);
-    GraphPicture picture(mModel, mLook, mMarkersOn, (mRoom / mPixel).toSize(), mFont);
+    GraphVectorPainter picture(mModel, mLook, mMarkersOn, (mRoom / mPixel).toSize(), mFont);
     picture.setFineness(kFineness);
     picture.paint(painter);
     painter.restore();

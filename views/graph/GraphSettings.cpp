@@ -1,6 +1,8 @@
 #include "views/graph/GraphSettings.h"
 
 #include "core/Property.h"
+#include "views/graph/GraphColor.h"
+#include "views/graph/widget/WidgetGraphBase.h"
 
 #include <QColor>
 
@@ -141,6 +143,28 @@ void GraphSettings::storeStatisticOn(bool on)
 {
     mSettings.setSwitch(kStatistic, on);
     mSettings.writeXmlFile();
+}
+
+void GraphSettings::apply(const GraphData& data, WidgetGraphBase& graph)
+{
+    const GraphColor back = GraphColor::fromName(data.backColor);
+    const GraphColor grid = GraphColor::fromName(data.gridColor);
+    const GraphColor label = GraphColor::fromName(data.labelColor);
+    const GraphColor labelBack = GraphColor::fromName(data.labelBackColor);
+    graph.setXrange(static_cast<float>(data.xRange));
+    graph.setDisplayMode(static_cast<GraphModel::eDisplayMode>(data.displayMode));
+    graph.setGraphMode(static_cast<GraphModel::eGraphMode>(data.graphMode));
+    graph.setCursorMode(static_cast<GraphModel::eCursorMode>(data.cursorMode));
+    graph.setBackColor(back.red, back.green, back.blue);
+    graph.activateGrid(data.gridOn);
+    graph.setGridColor(grid.red, grid.green, grid.blue);
+    graph.setLabelColor(label.red, label.green, label.blue);
+    graph.setLabelBackColor(labelBack.red, labelBack.green, labelBack.blue);
+    graph.activateCursor(data.cursorOn);
+    graph.activateLegend(data.legendOn);
+    graph.setAutoScaleY(data.autoScaleOn);
+    graph.setYmin(static_cast<float>(data.yMin));
+    graph.setYmax(static_cast<float>(data.yMax));
 }
 
 } // namespace VELIX

@@ -4,6 +4,8 @@
 
 #include <optional>
 
+class WidgetGraphBase;
+
 namespace VELIX {
 
 class Property;
@@ -19,6 +21,9 @@ public:
     [[nodiscard]] std::optional<GraphData> load() const;
     /// Also writes the file of the settings.
     void store(const GraphData& data);
+
+    /// Hands all settings to a graph, in their order.
+    static void apply(const GraphData& data, WidgetGraphBase& graph);
 
     /// Whether the table of values between the markers is shown.
     bool statisticOn() const;

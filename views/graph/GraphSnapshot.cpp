@@ -1,6 +1,6 @@
 #include "views/graph/GraphSnapshot.h"
 
-#include "views/graph/GraphPicture.h"
+#include "views/graph/GraphVectorPainter.h"
 #include "views/graph/widget/WidgetGraph.h"
 
 #include <QBuffer>
@@ -29,7 +29,7 @@ QByteArray svgOf(const WidgetGraph& graph)
     generator.setViewBox(graph.rect());
     generator.setResolution(graph.logicalDpiX()); // else texts are smaller than their places
     QPainter painter(&generator);
-    GraphPicture(graph.model(), graph.look(), graph.markersOn(), graph.size(), graph.font())
+    GraphVectorPainter(graph.model(), graph.look(), graph.markersOn(), graph.size(), graph.font())
         .paint(painter);
     painter.end();
     return bytes.data();

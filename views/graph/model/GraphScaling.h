@@ -10,7 +10,6 @@ class GraphScaling
 {
 public:
     void setAutoScale(bool on) { mAutoScale = on; }
-    [[nodiscard]] bool autoScale() const { return mAutoScale; }
     /// Margin of the automatic scale as a fraction of the values' distance; negative is ignored.
     void setSpread(double spread);
     /// Fixes the scale at Ymin..Ymax even while autoscale is on.

@@ -100,11 +100,6 @@ public:
     [[nodiscard]] const std::deque<EntryType>& entries() const { return mEntries; }
     [[nodiscard]] const std::deque<FrameType>& frames() const { return mFrames; }
 
-    /// Number of samples stored before the first one of each whole second, counted from
-    /// firstSecond().
-    [[nodiscard]] const std::vector<std::uint32_t>& secondIndex() const { return mSecondIndex; }
-    [[nodiscard]] std::int64_t firstSecond() const { return mFirstSecond; }
-
     /// Time of the first sample in seconds; 0 without samples.
     [[nodiscard]] double firstTime() const
     {
@@ -146,6 +141,7 @@ private:
     std::size_t mEntryLimit;
     std::deque<EntryType> mEntries;
     std::vector<Block> mBlocks;
+    /// Number of samples stored before the first one of each whole second from mFirstSecond on.
     std::vector<std::uint32_t> mSecondIndex;
     std::int64_t mFirstSecond = 0;
     std::deque<FrameType> mFrames;

@@ -320,7 +320,7 @@ TEST(GraphTraceTest, FramesOutsideThePlotDoNotPileUp)
     EXPECT_EQ(trace.frames().front().startTime, 10.0) << "the line that enters the plot is kept";
     EXPECT_EQ(trace.entries().size(), 1000U);
     trace.clear();
-    EXPECT_TRUE(trace.isEmpty() && trace.frames().empty() && trace.secondIndex().empty());
+    EXPECT_TRUE(trace.isEmpty() && trace.frames().empty());
     EXPECT_FALSE(trace.hasRange());
 }
 

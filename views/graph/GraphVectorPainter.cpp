@@ -1,4 +1,4 @@
-#include "views/graph/GraphPicture.h"
+#include "views/graph/GraphVectorPainter.h"
 
 #include "views/graph/model/GraphModel.h"
 #include "views/graph/widget/GraphCurve.h"
@@ -76,14 +76,14 @@ void drawSamples(QPainter& painter, const std::vector<GraphVertex>& vertices, co
 
 } // namespace
 
-GraphPicture::GraphPicture(const GraphModel& model, const GraphLook& look, bool markersOn,
-                           const QSize& size, const QFont& font)
+GraphVectorPainter::GraphVectorPainter(const GraphModel& model, const GraphLook& look,
+                                       bool markersOn, const QSize& size, const QFont& font)
     : mModel(model), mLook(look), mScene(GraphScene::make(model, look, size, font)), mSize(size)
 {
     mPointer.markersOn = markersOn;
 }
 
-void GraphPicture::paint(QPainter& painter) const
+void GraphVectorPainter::paint(QPainter& painter) const
 {
     painter.fillRect(QRect(QPoint(0, 0), mSize), mLook.labelBack);
     if (mScene.layout.empty()) {
@@ -99,7 +99,7 @@ void GraphPicture::paint(QPainter& painter) const
     GraphOverlay(painter, mModel, mScene, mLook, mPointer).paint();
 }
 
-void GraphPicture::paintGrid(QPainter& painter) const
+void GraphVectorPainter::paintGrid(QPainter& painter) const
 {
     const QRectF plot = mScene.layout.plot();
     for (const bool major : {false, true}) {
@@ -127,7 +127,7 @@ void GraphPicture::paintGrid(QPainter& painter) const
     }
 }
 
-void GraphPicture::paintTraces(QPainter& painter) const
+void GraphVectorPainter::paintTraces(QPainter& painter) const
 {
     GraphCurve curve;
     for (std::size_t place = 0; place < mScene.shown.size(); ++place) {
@@ -154,7 +154,7 @@ void GraphPicture::paintTraces(QPainter& painter) const
     }
 }
 
-void GraphPicture::paintLines(QPainter& painter) const
+void GraphVectorPainter::paintLines(QPainter& painter) const
 {
     const QRectF plot = mScene.layout.plot();
     const auto line = [&](double time, const QColor& color) {

@@ -12,12 +12,12 @@ class GraphModel;
 
 /// The graph as vector graphics: what the graph widget shows of a model, painted with any painter,
 /// so that it can be printed at any size.
-class GraphPicture
+class GraphVectorPainter
 {
 public:
     /// model and look outlive the picture. size, font: the widget's.
-    GraphPicture(const GraphModel& model, const GraphLook& look, bool markersOn, const QSize& size,
-                 const QFont& font);
+    GraphVectorPainter(const GraphModel& model, const GraphLook& look, bool markersOn,
+                       const QSize& size, const QFont& font);
 
     /// Draws so many columns of samples to a pixel, for devices that are finer than the screen; by
     /// default the columns of the model.
