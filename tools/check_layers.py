@@ -61,7 +61,7 @@ def sources(root):
     """All headers and sources below the root, relative to it, without what a build made."""
     for folder, subfolders, files in os.walk(root):
         subfolders[:] = sorted(name for name in subfolders
-                               if name != "build" and not name.startswith("."))
+                               if name not in ("build", "cmake") and not name.startswith("."))
         for name in sorted(files):
             if name.endswith((".h", ".cpp")):
                 yield os.path.relpath(os.path.join(folder, name), root)

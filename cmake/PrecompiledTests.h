@@ -1,0 +1,4 @@
+// The same for tests.
+#include "cmake/PrecompiledWidgets.h"
+
+#include <gtest/gtest.h>
