@@ -5,10 +5,9 @@
 #include "core/XmlHandler.h"
 #include "profile/DataType.h"
 #include "profile/ProfileLoader.h"
+#include "profile/VariantFilter.h"
 
 #include <QDomDocument>
-#include <QSet>
-#include <QStringList>
 #include <QXmlStreamReader>
 
 namespace VELIX {
@@ -126,31 +125,12 @@ void Profile::clear()
 
 int Profile::checkVariant(const QString& current, const QDomNode& node)
 {
-    return checkVariant(current, node.toElement().attribute(QStringLiteral("variant")));
+    return VariantFilter(current).takes(node.toElement()) ? 1 : 0;
 }
 
 int Profile::checkVariant(const QString& current, const QString& list)
 {
-    if (list.isEmpty() || current.isEmpty()) {
-        return 1;
-    }
-    const QStringList items = list.split(QLatin1Char(','));
-    Diagnostics::print("variant <%s> size %d\n", list.toUtf8().constData(),
-                       static_cast<int>(items.size()));
-    QSet<QString> included;
-    QSet<QString> excluded;
-    for (const QString& item : items) {
-        const QString name = item.trimmed();
-        if (name.startsWith(QLatin1Char('!'))) {
-            excluded.insert(name.mid(1));
-        } else {
-            included.insert(name);
-        }
-    }
-    if (excluded.contains(current)) {
-        return 0;
-    }
-    return included.isEmpty() || included.contains(current) ? 1 : 0;
+    return VariantFilter(current).takes(list) ? 1 : 0;
 }
 
 std::vector<const ProfileParameter*> Profile::selectedParameters() const

@@ -2,7 +2,6 @@
 
 #include "core/XmlHandler.h"
 #include "profile/DataType.h"
-#include "profile/Profile.h"
 
 #include <QDomElement>
 
@@ -71,8 +70,8 @@ ECoordinate coordinateOf(const QString& role)
 
 } // namespace
 
-ProfileLoader::ProfileLoader(const std::map<QString, int>& types, QString variant)
-    : mTypes(types), mVariant(std::move(variant))
+ProfileLoader::ProfileLoader(const std::map<QString, int>& types, const QString& variant)
+    : mTypes(types), mVariant(variant)
 {}
 
 ProfileModel ProfileLoader::load(const QDomElement& root)
@@ -83,9 +82,9 @@ ProfileModel ProfileLoader::load(const QDomElement& root)
     mModel.info.name = header.text("name");
     mModel.info.comment = header.text("comment");
 
-    // One pass in document order, since names resolve against what stands above.
+    // One pass in document order, since names resolve against what comes before.
     for (QDomElement e = root.firstChildElement(); !e.isNull(); e = e.nextSiblingElement()) {
-        if (!Profile::checkVariant(mVariant, e)) {
+        if (!mVariant.takes(e)) {
             continue;
         }
         const QString name = e.nodeName();
@@ -108,7 +107,7 @@ void ProfileLoader::eachChild(const QDomElement& parent, const QString& name,
 {
     for (QDomElement e = parent.firstChildElement(name); !e.isNull();
          e = e.nextSiblingElement(name)) {
-        if (Profile::checkVariant(mVariant, e)) {
+        if (mVariant.takes(e)) {
             read(e);
         }
     }
@@ -217,7 +216,7 @@ void ProfileLoader::assignBits(ProfileDevice& device,
     }
 }
 
-// Conversions may stand below the devices that need them.
+// Conversions may follow the devices that need them.
 void ProfileLoader::resolveUnits()
 {
     const auto resolve = [this](ProfileParameter& p) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "profile/ProfileModel.h"
+#include "profile/VariantFilter.h"
 
 #include <QString>
 
@@ -13,12 +14,13 @@ namespace VELIX {
 
 /// Builds a profile model from the document of a profile file, for one variant.
 ///
-/// Names of enumerations and thresholds are resolved where a parameter stands, so their lists
+/// Names of enumerations and thresholds are resolved while a parameter is read, so their lists
 /// must precede the devices; unknown names quietly become 0.
 class ProfileLoader
 {
 public:
-    ProfileLoader(const std::map<QString, int>& types, QString variant);
+    /// types: the codes of the data types by name; they must outlive the loader.
+    ProfileLoader(const std::map<QString, int>& types, const QString& variant);
 
     ProfileModel load(const QDomElement& root);
 
@@ -34,7 +36,7 @@ private:
                    const std::function<void(const QDomElement&)>& read) const;
 
     const std::map<QString, int>& mTypes;
-    QString mVariant;
+    VariantFilter mVariant;
     ProfileModel mModel;
     std::map<QString, int> mEnumIds;
     std::map<QString, int> mThresholdIds;
