@@ -13,7 +13,7 @@ namespace VELIX {
 class ChunkArena
 {
 public:
-    /// Memory for `bytes`, aligned for any type; throws std::bad_alloc if there is none.
+    /// Returns memory for `bytes`, aligned for any type; throws std::bad_alloc if there is none.
     void* allocate(std::size_t bytes);
 
     template <class T>

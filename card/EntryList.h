@@ -36,13 +36,13 @@ public:
     /// Whether no entry is earlier than the one before it.
     bool isSorted() const { return mSorted; }
 
-    /// Position of the first entry at or after a time (seconds); size() if there is none.
-    /// The answer is that of a scan from the front, also for entries out of order.
+    /// Returns the position of the first entry at or after a time (seconds); size() if there is
+    /// none. The answer is that of a scan from the front, also for entries out of order.
     std::size_t firstAtOrAfter(double time) const;
-    /// Position of the first entry after a time (seconds), likewise.
+    /// Returns the position of the first entry after a time (seconds), likewise.
     std::size_t firstAfter(double time) const;
 
-    /// The entries ordered by time; those of equal time keep their order.
+    /// Returns the entries ordered by time; those of equal time keep their order.
     std::vector<const RecordEntry*> sortedByTime() const;
 
     /// Appends to an owning list; returns the stored entry, whose address stays.

@@ -52,7 +52,7 @@ void FlightFinder::onTakeoffCandidate(double time, double speed)
 }
 
 // The counter runs on from the take-off, and flying at exactly 40 (or at no number) counts like a
-// landing candidate: both belong to the rule as it always was.
+// landing candidate: both are kept for compatibility.
 bool FlightFinder::isLanded(double speed)
 {
     if (speed > kLandingSpeed) {

@@ -20,7 +20,7 @@ public:
         double landingTime = 0.0; ///< s, sample that confirmed the landing
     };
 
-    /// Takes the next sample; a flight if this sample confirms its landing.
+    /// Takes the next sample; returns a flight if this sample confirms its landing.
     std::optional<Flight> add(double time, double speed);
 
 private:

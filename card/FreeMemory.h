@@ -4,7 +4,7 @@
 
 namespace VELIX {
 
-/// Bytes of memory that the system could give to this program now; 0 if that cannot be told.
+/// Returns the bytes of memory that the system could give to this program now; 0 if unknown.
 std::uint64_t freeMemory();
 
 } // namespace VELIX

@@ -29,14 +29,14 @@ const EntryList& RecordData::entries(std::uint32_t id) const
 
 RecordIdList& RecordData::list(std::uint32_t id)
 {
-    const auto [place, isNew] = mIds.try_emplace(id);
+    const auto [at, isNew] = mIds.try_emplace(id);
     if (isNew && isCollective(id)) {
-        place->second.entries = EntryList(EntryList::Kind::View);
+        at->second.entries = EntryList(EntryList::Kind::View);
     }
-    return place->second;
+    return at->second;
 }
 
-// Appending needs no order, so a small direct-mapped table stands before the ordered map.
+// Appending needs no order, so a small direct-mapped table spares most searches of the ordered map.
 RecordIdList& RecordData::recentList(std::uint32_t id)
 {
     Recent& recent = mRecent[id % mRecent.size()];

@@ -31,26 +31,26 @@ public:
     RecordData& operator=(const RecordData&) = delete;
 
     const IdMap& ids() const { return mIds; }
-    /// The entries of an identifier; null if the data has no such list.
+    /// Returns the entries of an identifier; null if the data has no such list.
     const RecordIdList* find(std::uint32_t id) const;
-    /// The entries of an identifier; an empty list if there are none.
+    /// Returns the entries of an identifier; an empty list if there are none.
     const EntryList& entries(std::uint32_t id) const;
-    /// The list of an identifier, created if absent.
+    /// Returns the list of an identifier, created if absent.
     RecordIdList& list(std::uint32_t id);
 
     /// Files an entry under its identifier and in the collective list of its source.
     void append(const RecordEntry& entry);
-    /// To be called after the last append: what is derived from all entries (`last` of each list,
-    /// the seconds that look-ups cover for a stop time in seconds).
+    /// Derives what needs all entries, after the last append: `last` of each list and the seconds
+    /// that look-ups cover for a stop time (s).
     void finish(double indexStop);
-    /// Bytes of memory that the entries and their lists take, roughly. Damaged files can give every
-    /// entry an identifier of its own, whose list takes more than the entry.
+    /// Returns roughly the bytes of memory that the entries and their lists take. Damaged files can
+    /// give every entry an identifier of its own, whose list takes more than the entry.
     std::size_t memory() const;
     /// Forgets entries, events and the chosen flight.
     void clear();
 
-    /// The entries of `whole` whose time lies in [from, to], boundaries included. They are shared,
-    /// not copied; the result keeps `whole` alive.
+    /// Returns the entries of `whole` whose time is in [from, to], boundaries included. They are
+    /// shared, not copied; the result keeps `whole` alive.
     static std::shared_ptr<RecordData> narrowed(std::shared_ptr<const RecordData> whole,
                                                 double from, double to);
 

@@ -15,15 +15,15 @@ namespace VELIX {
 class RecordFieldReader
 {
 public:
-    /// Opens a file for reading; isOpen() tells whether that worked, errno why not.
+    /// Opens a file for reading; isOpen() says whether that worked, errno why not.
     explicit RecordFieldReader(const char* path);
 
     bool isOpen() const { return mFile != nullptr; }
-    std::int64_t size() const; ///< bytes; 0 if it cannot be told
+    std::int64_t size() const; ///< bytes; 0 if unknown
     bool seek(std::int64_t position);
     void setSwap(bool swap) { mSwap = swap; }
 
-    /// Reads up to `bytes` into a buffer; the number of bytes read.
+    /// Reads up to `bytes` into a buffer; returns the number of bytes read.
     std::size_t read(void* buffer, std::size_t bytes);
 
     // From the file: false on a short read, the value is then 0 (a text empty).

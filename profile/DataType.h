@@ -50,7 +50,7 @@ enum class EExtraction {
     Unsigned8,
 };
 
-/// The extraction of a data type code; None for codes that are not decoded or unknown.
+/// Returns the extraction of a data type code; None for codes that are not decoded or unknown.
 EExtraction extractionOf(int dataType);
 
 } // namespace VELIX

@@ -150,7 +150,7 @@ TEST_F(FlightLoading, FlightsAreFoundInTheUnitThatIsShown)
     EXPECT_TRUE(flights().empty());
     mProfile.setCurrentUnit(eUnitMetric);
     mCard.loadCycle(1, -1);
-    EXPECT_EQ(flights().size(), 2U) << "found anew on every load";
+    EXPECT_EQ(flights().size(), 2U) << "found again on every load";
 }
 
 } // namespace

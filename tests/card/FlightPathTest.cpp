@@ -82,7 +82,7 @@ TEST_F(FlightPath, CrossesTheDateLineTheShortWay)
     EXPECT_NEAR(points[1].speed, 0.04 * 111120 * std::cos(10 * M_PI / 180) / 10, 1.0);
 }
 
-TEST_F(FlightPath, TellsCourseAndSpeedOverGround)
+TEST_F(FlightPath, HasCourseAndSpeedOverGround)
 {
     const struct
     {

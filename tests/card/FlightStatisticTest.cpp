@@ -123,7 +123,7 @@ TEST_F(FlightStatistics, WhatIsNeverFoundIsZeroOrNotFiniteOrLiesAtTheOrigin)
     EXPECT_NEAR(s.distance15, 10 * 60 * 1852.0, 3.0);
 }
 
-TEST_F(FlightStatistics, TellWhichUnitsTheyWereConvertedTo)
+TEST_F(FlightStatistics, NameTheUnitsTheyWereConvertedTo)
 {
     ProfileBuilder builder;
     builder.conversion("m", "ft", 3.0, 0.0).conversion("l/h", "gal/h", 0.25, 0.0).device("EMU");
@@ -152,8 +152,8 @@ TEST(GreatCircle, IsANauticalMileAMinute)
     EXPECT_NEAR(greatCircleDistance(60, 10, 60, 11), 55560.0, 10.0);
     EXPECT_NEAR(greatCircleDistance(90, 0, -90, 0), 180 * 111120.0, 1e-3);
     for (int i = 0; i < 1000; ++i) { // rounding must not turn equal points into no number
-        const double place = i * 0.0917;
-        EXPECT_NEAR(greatCircleDistance(place, place, place, place), 0.0, 0.2);
+        const double at = i * 0.0917;
+        EXPECT_NEAR(greatCircleDistance(at, at, at, at), 0.0, 0.2);
     }
 }
 

@@ -24,7 +24,7 @@ namespace VELIX::Test {
 ///         .set("unitMetric", "C").set("unitImperial", "F").set("thresholdId", "Hot");
 ///     profile.load(target);
 ///
-/// set() adds an attribute to the element written last. Values stand at startByte 4 unless set.
+/// set() adds an attribute to the element written last. Values are at startByte 4 unless set.
 class ProfileBuilder
 {
 public:

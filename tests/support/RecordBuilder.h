@@ -25,8 +25,8 @@ namespace VELIX::Test {
 ///     auto data = record.data();           // as a reader would have filled it
 ///     record.write(path);                  // or as a record file
 ///
-/// Time, identifier and source hold until they are given anew; each value appends one entry.
-/// Values stand in payload bytes 4 to 7 (startByte 4), byte 1 says their type.
+/// Time, identifier and source hold until they are given again; each value appends one entry.
+/// Values are in payload bytes 4 to 7 (startByte 4), byte 1 says their type.
 class RecordBuilder
 {
 public:

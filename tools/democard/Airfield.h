@@ -2,14 +2,14 @@
 
 namespace VELIX::Demo {
 
-/// A place on the map plane of the airfield: metres east and north of the runway's beginning.
+/// A position on the map plane of the airfield: metres east and north of the runway's beginning.
 struct PlanePoint
 {
     double east = 0.0;
     double north = 0.0;
 };
 
-/// A place as the flight plan names it: metres from the runway's beginning in the direction of
+/// A position as the flight plan names it: metres from the runway's beginning in the direction of
 /// take-off, and metres to the right of the centre line.
 struct RunwayPoint
 {

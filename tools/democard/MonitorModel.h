@@ -58,7 +58,7 @@ struct MonitorInput
 {
     double clock = 0.0; ///< s since power-up
     EKey key = EKey::Off;
-    bool positionKnown = false; ///< and with it the date: the satellites tell both
+    bool positionKnown = false; ///< and with it the date: both come from the satellites
     bool positionJumps = false;
     bool exhaustSensorFailed = false;
 };

@@ -20,7 +20,7 @@ namespace VELIX {
 
 namespace {
 
-void tell(const QString& sentence)
+void say(const QString& sentence)
 {
     std::fprintf(stderr, "%s\n", sentence.toLocal8Bit().constData());
 }
@@ -46,12 +46,12 @@ int CardCommand::run()
 CardCommand::Status CardCommand::open()
 {
     if (!mProfile.loadProfile(mOptions.profile, mOptions.variant)) {
-        tell(QStringLiteral("%1 is not a usable parameter profile.").arg(mOptions.profile));
+        say(QStringLiteral("%1 is not a usable parameter profile.").arg(mOptions.profile));
         return Status::Failed;
     }
     warnOfUnknownVariant();
     if (!mCard.readContainer(mOptions.card)) {
-        tell(QStringLiteral("There is no card folder %1.").arg(mOptions.card));
+        say(QStringLiteral("There is no card folder %1.").arg(mOptions.card));
         return Status::Failed;
     }
     return Status::Done;
@@ -67,7 +67,7 @@ void CardCommand::warnOfUnknownVariant()
         std::any_of(variants.begin(), variants.end(),
                     [this](const ProfileVariant& v) { return v.name == mOptions.variant; });
     if (!known) {
-        tell(QStringLiteral("Warning: the profile lists no variant %1.").arg(mOptions.variant));
+        say(QStringLiteral("Warning: the profile lists no variant %1.").arg(mOptions.variant));
     }
 }
 
@@ -83,8 +83,8 @@ CardCommand::Status CardCommand::select()
     if (wanted.isEmpty()) {
         return Status::Done;
     }
-    tell(QStringLiteral("The profile has no parameter %1.")
-             .arg(wanted.values().join(QStringLiteral(", "))));
+    say(QStringLiteral("The profile has no parameter %1.")
+            .arg(wanted.values().join(QStringLiteral(", "))));
     return Status::WrongUsage;
 }
 
@@ -99,11 +99,11 @@ CardCommand::Status CardCommand::load()
                                 ? mCard.loadCycle(*mOptions.cycle, mOptions.flight, nobody)
                                 : mCard.loadFiles(files, nobody);
     if (!outcome.ok) {
-        tell(outcome.reason);
+        say(outcome.reason);
         return Status::Failed;
     }
     if (!outcome.reason.isEmpty()) {
-        tell(QStringLiteral("Warning: %1").arg(outcome.reason));
+        say(QStringLiteral("Warning: %1").arg(outcome.reason));
     }
     warnOfMissingFlight();
     return Status::Done;
@@ -116,9 +116,9 @@ void CardCommand::warnOfMissingFlight() const
     }
     const auto flights = mCard.recordCycles().at(*mOptions.cycle).flights.size();
     if (mOptions.flight >= 0 && static_cast<std::size_t>(mOptions.flight) >= flights) {
-        tell(QStringLiteral("Warning: cycle %1 has no flight %2, the whole cycle is loaded.")
-                 .arg(*mOptions.cycle)
-                 .arg(mOptions.flight));
+        say(QStringLiteral("Warning: cycle %1 has no flight %2, the whole cycle is loaded.")
+                .arg(*mOptions.cycle)
+                .arg(mOptions.flight));
     }
 }
 
@@ -130,14 +130,14 @@ CardCommand::Status CardCommand::write()
         if (outcome.ok) {
             return Status::Done;
         }
-        tell(QStringLiteral("%1 could not be written: %2.").arg(mOptions.output, outcome.reason));
+        say(QStringLiteral("%1 could not be written: %2.").arg(mOptions.output, outcome.reason));
         return Status::Failed;
     }
     QFile out;
     if (out.open(mResults, QIODevice::WriteOnly) && writeTo(out) && out.flush()) {
         return Status::Done;
     }
-    tell(QStringLiteral("The result could not be written."));
+    say(QStringLiteral("The result could not be written."));
     return Status::Failed;
 }
 
@@ -164,7 +164,7 @@ bool CardCommand::writeKml(QIODevice& out, Progress& progress)
     mOptions.kml.parameters = mProfile.selectedParameters();
     ExportKml writer(mProfile);
     if (!writer.summary(record, mOptions.kml).hasPositions) {
-        tell(QStringLiteral("Warning: there are no positions, the path is empty."));
+        say(QStringLiteral("Warning: there are no positions, the path is empty."));
     }
     return writer.writeDocument(record, mOptions.kml, out, progress);
 }

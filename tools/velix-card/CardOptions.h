@@ -12,7 +12,7 @@
 
 namespace VELIX {
 
-/// What one call of velix-card asks for.
+/// The wishes of one call of velix-card.
 struct CardOptions
 {
     enum class Command { Info, Csv, Kml };

@@ -10,10 +10,11 @@ class CardContainer;
 class Profile;
 struct RecordFlight;
 
-/// The listing of a card: its files and cycles.
+/// Returns the listing of a card: its files and cycles.
 QJsonObject cardReport(const CardContainer& card);
 
-/// What is loaded: flights, record, events; with times (s) also the values and fault words there.
+/// Returns what is loaded: flights, record, events; with times (s) also the values and fault words
+/// there.
 QJsonObject recordReport(CardContainer& card, Profile& profile,
                          const std::vector<RecordFlight>& flights,
                          const std::vector<double>& times);
