@@ -91,7 +91,7 @@ TEST(ProfileLoader, KnowsEveryTypeNameAndNoOther)
     }
 }
 
-TEST(ProfileLoader, NamesResolveOnlyAgainstWhatStandsAbove)
+TEST(ProfileLoader, NamesResolveOnlyAgainstWhatComesBefore)
 {
     Profile profile;
     ASSERT_TRUE(ProfileBuilder::loadText(profile, document(R"(
@@ -110,7 +110,7 @@ TEST(ProfileLoader, NamesResolveOnlyAgainstWhatStandsAbove)
         << "of two of one name the later one";
     EXPECT_GT(devices[1].parameters.at(2).thresholdId, 0);
 
-    // Conversions are looked up by their text when a value is shown, wherever they stand; one
+    // Conversions are looked up by their text when a value is shown, wherever they are; one
     // without a factor turns everything into its offset.
     profile.setCurrentUnit(eUnitImperial);
     const RecordEntry entry = RecordBuilder().floatValue(100.0F).last();
@@ -162,31 +162,7 @@ TEST(ProfileLoader, MatrixBitsAreKeptBeforeTheirIdentifierIsOverwritten)
     EXPECT_EQ(profile.data().devices[0].parameters.at(9).name, QStringLiteral("b0 again"));
 }
 
-TEST(ProfileLoader, RefusesWhatIsNoProfileAndIsEmptyThen)
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("Profile.xml"));
-    CapturedDiagnostics output;
-    for (const char* content : {"", "no xml", "<Other/>", "<CanAerospaceProfile>"}) {
-        SCOPED_TRACE(content);
-        Profile profile;
-        ASSERT_TRUE(ProfileBuilder::loadText(profile, document("<Device name='D'/>")));
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        file.close();
-        EXPECT_EQ(profile.loadProfile(path, QString()), 0);
-        EXPECT_TRUE(profile.isEmpty());
-        EXPECT_EQ(profile.loadVariants(path), 0);
-    }
-    Profile profile;
-    EXPECT_EQ(profile.loadVariants(QStringLiteral("/no/such")), 0);
-    EXPECT_NE(output.text().find("Profile::loadVariants Error could not load </no/such>\n"),
-              std::string::npos);
-    EXPECT_EQ(profile.loadProfile(folder.path(), QString()), 0) << "a folder is no profile";
-}
-
-TEST(ProfileLoader, ReloadingReplacesEverythingButTheUnit)
+TEST(ProfileLoader, ReloadingReplacesEverythingButTheUnitAlsoByWhatIsNoProfile)
 {
     Profile profile;
     profile.setCurrentUnit(eUnitImperial);
@@ -194,13 +170,27 @@ TEST(ProfileLoader, ReloadingReplacesEverythingButTheUnit)
         ProfileBuilder builder;
         builder.device(name).parameter(1, QStringLiteral("x"), "LONG");
         ASSERT_TRUE(builder.load(profile));
-        EXPECT_TRUE(profile.selectedParameters().empty());
+        EXPECT_EQ(ProfileBuilder::selection(profile), QString());
         ProfileBuilder::selectAll(profile);
-        ASSERT_EQ(profile.selectedParameters().size(), 1U);
-        EXPECT_EQ(profile.selectedParameters()[0]->fullName,
-                  QLatin1String(name) + QStringLiteral("/x"));
+        EXPECT_EQ(ProfileBuilder::selection(profile), QLatin1String(name) + QStringLiteral("/x"));
     }
     EXPECT_EQ(profile.currentUnit(), eUnitImperial);
+
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("Profile.xml"));
+    CapturedDiagnostics output;
+    for (const char* content : {"", "no xml", "<Other/>", "<CanAerospaceProfile>"}) {
+        SCOPED_TRACE(content);
+        ASSERT_TRUE(ProfileBuilder::loadText(profile, document("<Device name='D'/>")));
+        ASSERT_TRUE(writeFile(path, content));
+        EXPECT_EQ(profile.loadProfile(path, QString()), 0);
+        EXPECT_TRUE(profile.isEmpty());
+        EXPECT_EQ(profile.loadVariants(path), 0);
+    }
+    EXPECT_EQ(profile.loadProfile(folder.path(), QString()), 0) << "a folder is no profile";
+    EXPECT_EQ(profile.loadVariants(QStringLiteral("/no/such")), 0);
+    EXPECT_NE(output.text().find("Profile::loadVariants Error could not load </no/such>\n"),
+              std::string::npos);
 }
 
 } // namespace

@@ -10,19 +10,18 @@ namespace {
 TEST(ProfileVariant, ListsAcceptAndExclude)
 {
     CapturedDiagnostics output;
-    struct Row
+    const struct
     {
         const char* current;
         const char* list;
         int accepted;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"A", "", 1},      {"", "A", 1},    {"", "!A", 1},        {"A", "A", 1},
         {"B", "A", 0},     {"A", "A,B", 1}, {"B", " A , B ", 1},  {"C", "A,B", 0},
         {"C", "!C", 0},    {"A", "!C", 1},  {"A", "A,!A", 0},     {"B", "A,!A", 0},
         {"A", "!C,!D", 1}, {"a", "A", 0},   {"D", " !C , !D", 0}, {"AB", "A", 0},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         const auto list = QString::fromUtf8(row.list);
         EXPECT_EQ(Profile::checkVariant(QString::fromUtf8(row.current), list), row.accepted)
             << row.current << " in <" << row.list << ">";
@@ -67,11 +66,7 @@ TEST(ProfileVariant, EveryElementCanBeLimitedToVariants)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("p.xml"));
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(kXml);
-    file.close();
-
+    ASSERT_TRUE(writeFile(path, kXml));
     CapturedDiagnostics output;
     Profile profile;
     ASSERT_NE(profile.loadProfile(path), 0);

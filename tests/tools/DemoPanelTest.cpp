@@ -3,8 +3,7 @@
 #include "platform/viewlib/ViewReader.h"
 #include "platform/viewlib/ViewVariables.h"
 #include "profile/Profile.h"
-
-#include <QFile>
+#include "tests/support/TestFile.h"
 
 #include <gtest/gtest.h>
 
@@ -36,9 +35,7 @@ std::map<std::string, ProfileParameter> boundParameters(const Profile& profile)
 
 QByteArray panelText()
 {
-    QFile file(QStringLiteral(DEMO_RESOURCES "/../views/instruments.v"));
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-    return file.readAll();
+    return VELIX::Test::readFile(QStringLiteral(DEMO_RESOURCES "/../views/instruments.v"));
 }
 
 int stateOf(const QColor& color)

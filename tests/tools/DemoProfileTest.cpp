@@ -1,9 +1,9 @@
 // The demo profile describes exactly the messages that the generator sends.
 
 #include "profile/Profile.h"
+#include "tests/support/TestFile.h"
 #include "tools/democard/MessageTable.h"
 
-#include <QFile>
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
@@ -18,10 +18,8 @@ const QString kProject = QStringLiteral(DEMO_RESOURCES "/CurrentProject.xml");
 /// What follows a piece of text in a file, up to the next quotation mark.
 std::set<std::string> following(const QString& path, const char* text)
 {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
     const QRegularExpression pattern(QLatin1String(text) + QStringLiteral("([^\"]+)\""));
-    auto matches = pattern.globalMatch(QString::fromUtf8(file.readAll()));
+    auto matches = pattern.globalMatch(QString::fromUtf8(VELIX::Test::readFile(path)));
     std::set<std::string> found;
     while (matches.hasNext()) {
         found.insert(matches.next().captured(1).toStdString());
@@ -92,7 +90,7 @@ TEST_F(DemoProfile, DescribesEveryMessageAsItIsSent)
             errorTypes.insert(p.errorType);
         }
     }
-    EXPECT_EQ(described, messageTable().size()) << "nor any bit that lies in no fault word";
+    EXPECT_EQ(described, messageTable().size()) << "nor any bit outside of a fault word";
     EXPECT_EQ(errorTypes, (std::set<int>{1, 2, 3}));
 }
 
