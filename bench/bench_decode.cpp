@@ -121,11 +121,12 @@ void getDoubleImperial(benchmark::State& state)
 
 void getDataState(benchmark::State& state)
 {
+    CoordinateFilter filter;
     overMessages(state, eUnitMetric,
-                 [](Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
+                 [&filter](Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
                      int band = 0;
                      QColor color;
-                     profile.getDataState(e, p, band, color);
+                     profile.decoder().judge(ParameterSample(e, p, filter), band, color);
                      benchmark::DoNotOptimize(band);
                  });
 }
@@ -143,12 +144,14 @@ void getDataString(benchmark::State& state)
 void appendDataString(benchmark::State& state)
 {
     std::string text;
-    overMessages(state, eUnitMetric,
-                 [&text](Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
-                     text.clear();
-                     profile.appendDataString(e, p, text);
-                     benchmark::DoNotOptimize(text.data());
-                 });
+    CoordinateFilter filter;
+    overMessages(
+        state, eUnitMetric,
+        [&text, &filter](Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
+            text.clear();
+            profile.decoder().appendText(ParameterSample(e, p, filter), text);
+            benchmark::DoNotOptimize(text.data());
+        });
 }
 
 BENCHMARK(getDouble)->DenseRange(kFloat, kLatitude);

@@ -54,7 +54,7 @@ CardContainer& CardContainer::instance()
     return container;
 }
 
-CardContainer::CardContainer(Profile& profile)
+CardContainer::CardContainer(const Profile& profile)
     : mProfile(profile), mLoaded(std::make_shared<RecordData>()), mWorking(mLoaded)
 {}
 
@@ -166,7 +166,6 @@ void CardContainer::take(LoadedRecord record)
     mStartTime = record.startTime;
     mStopTime = record.stopTime;
     mIsLoaded = record.isLoaded;
-    mProfile.resetCoordinates();
     calcIndex();
     calcFlightPath();
 }
@@ -221,9 +220,10 @@ void CardContainer::calcFlights(RecordCycle& cycle)
     cycle.flights.clear();
     const ProfileParameter speed =
         mProfile.getParameterFromVelixType(QStringLiteral("GroundSpeed"));
+    const ProfileDecoder decoder = mProfile.decoder();
     FlightFinder finder;
     for (const RecordEntry& entry : mLoaded->entries(static_cast<std::uint32_t>(speed.id))) {
-        const auto found = finder.add(entry.time, mProfile.getDouble(entry, speed, true));
+        const auto found = finder.add(entry.time, decoder.number(ParameterSample(entry, speed)));
         if (!found) {
             continue;
         }
@@ -265,8 +265,8 @@ double CardContainer::getValue(const ProfileParameter& p, double time, int& stat
     if (after == list.entries.size()) {
         return 0.0;
     }
-    mProfile.resetCoordinates(); // a single look-up has no position before it
-    return mProfile.getDouble(list.entries[after == 0 ? 0 : after - 1], p, state, color, true);
+    const RecordEntry& entry = list.entries[after == 0 ? 0 : after - 1];
+    return mProfile.decoder().number(ParameterSample(entry, p), state, color);
 }
 
 double CardContainer::getValue(const ProfileParameter& p, double time)

@@ -38,7 +38,7 @@ public:
     };
 
     static CardContainer& instance();
-    explicit CardContainer(Profile& profile);
+    explicit CardContainer(const Profile& profile);
 
     /// Lists a card folder by the headers of its record files. Fails if there is no such folder;
     /// nothing changes then, nor by a listing that is cancelled. The loaded data stays.
@@ -107,7 +107,7 @@ private:
     void take(LoadedRecord record);
     void calcIndex();
 
-    Profile& mProfile;
+    const Profile& mProfile;
     QString mName;
     std::map<QString, RecordFile> mRecordFiles;
     std::map<std::uint32_t, RecordCycle> mCycles;

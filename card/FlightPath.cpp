@@ -1,6 +1,6 @@
 #include "card/FlightPath.h"
 
-#include "card/RecordData.h"
+#include "card/SampleWalk.h"
 #include "platform/tessel/Geodetic.h"
 #include "profile/Profile.h"
 
@@ -14,7 +14,7 @@ namespace {
 using Tessel::Geodetic::kMetresPerDegree;
 using Tessel::Geodetic::kRadiansPerDegree;
 
-constexpr double kStandstill = 0.5; // m between samples: too short to tell a course
+constexpr double kStandstill = 0.5; // m between samples: too short to have a course
 
 struct Sample
 {
@@ -49,7 +49,7 @@ std::vector<const RecordEntry*> samplesOf(const RecordData& record, const Profil
 }
 
 /// Decodes both series in one walk by time: the filter judges a longitude by the last latitude.
-Positions decodePositions(const RecordData& record, Profile& profile)
+Positions decodePositions(const RecordData& record, const Profile& profile)
 {
     const ProfileParameter lat = profile.getParameterFromVelixType(QStringLiteral("Latitude"));
     const ProfileParameter lon = profile.getParameterFromVelixType(QStringLiteral("Longitude"));
@@ -59,14 +59,14 @@ Positions decodePositions(const RecordData& record, Profile& profile)
     Positions positions;
     positions.latitudes.reserve(lats.size());
     positions.longitudes.reserve(lons.size());
-    const auto decode = [&profile](const RecordEntry& entry, const ProfileParameter& p,
-                                   std::vector<Sample>& out) {
-        const double degrees = profile.getMetric(entry, p);
+    CoordinateFilter filter;
+    const auto decode = [&filter](const RecordEntry& entry, const ProfileParameter& p,
+                                  std::vector<Sample>& out) {
+        const double degrees = ProfileDecoder::metric(ParameterSample(entry, p, filter));
         if (std::isfinite(degrees)) {
             out.push_back({entry.time, degrees});
         }
     };
-    profile.resetCoordinates();
     auto nextLon = lons.begin();
     for (const RecordEntry* entry : lats) {
         for (; nextLon != lons.end() && (*nextLon)->time < entry->time; ++nextLon) {
@@ -80,12 +80,12 @@ Positions decodePositions(const RecordData& record, Profile& profile)
     return positions;
 }
 
-std::vector<Sample> decodeAltitudes(const RecordData& record, Profile& profile)
+std::vector<Sample> decodeAltitudes(const RecordData& record, const Profile& profile)
 {
     const ProfileParameter p = profile.getParameterFromVelixType(QStringLiteral("Altitude"));
     std::vector<Sample> altitudes;
     for (const RecordEntry* entry : samplesOf(record, p)) {
-        const double metres = profile.getMetric(*entry, p);
+        const double metres = ProfileDecoder::metric(ParameterSample(*entry, p));
         if (std::isfinite(metres)) {
             altitudes.push_back({entry->time, metres});
         }
@@ -148,7 +148,7 @@ void orient(std::vector<FlightPathPoint>& path)
 
 } // namespace
 
-std::vector<FlightPathPoint> flightPath(const RecordData& record, Profile& profile)
+std::vector<FlightPathPoint> flightPath(const RecordData& record, const Profile& profile)
 {
     const Positions positions = decodePositions(record, profile);
     if (positions.latitudes.empty() || positions.longitudes.empty()) {

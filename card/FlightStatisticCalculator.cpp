@@ -40,8 +40,8 @@ double greatCircleDistance(double lat1, double lon1, double lat2, double lon2)
            kMetresPerNauticalMile;
 }
 
-FlightStatisticCalculator::FlightStatisticCalculator(const RecordData& record, Profile& profile,
-                                                     ValueAt valueAt)
+FlightStatisticCalculator::FlightStatisticCalculator(const RecordData& record,
+                                                     const Profile& profile, ValueAt valueAt)
     : mRecord(record), mProfile(profile), mValueAt(std::move(valueAt))
 {}
 
@@ -50,9 +50,10 @@ void FlightStatisticCalculator::walk(const char* role, const RecordFlight& fligh
 {
     const ProfileParameter p = mProfile.getParameterFromVelixType(QString::fromLatin1(role));
     const EntryList& entries = mRecord.entries(static_cast<std::uint32_t>(p.id));
+    const ProfileDecoder decoder = mProfile.decoder();
     const auto goesOn = [&](const RecordEntry& entry) {
         return entry.time <= flight.stopTime &&
-               visit(entry.time, mProfile.getDouble(entry, p, true));
+               visit(entry.time, decoder.number(ParameterSample(entry, p)));
     };
     if (entries.isSorted()) {
         std::size_t i = entries.firstAtOrAfter(flight.startTime);
@@ -76,7 +77,8 @@ double FlightStatisticCalculator::valueAt(const char* role, double time)
 QString FlightStatisticCalculator::convertedUnit(const char* role) const
 {
     const ProfileParameter p = mProfile.getParameterFromVelixType(QString::fromLatin1(role));
-    return mProfile.currentUnit() == eUnitImperial && p.hasConversion ? p.unitImperial : QString();
+    const NumberFormat format = mProfile.format(p);
+    return format.isConverted() ? format.unit(NumberFormat::EUnitOf::Number) : QString();
 }
 
 FlightStatisticCalculator::Point FlightStatisticCalculator::positionAt(double time)

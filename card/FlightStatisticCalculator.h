@@ -19,7 +19,7 @@ public:
     /// The value of a parameter at a time (s).
     using ValueAt = std::function<double(const ProfileParameter&, double)>;
 
-    FlightStatisticCalculator(const RecordData& record, Profile& profile, ValueAt valueAt);
+    FlightStatisticCalculator(const RecordData& record, const Profile& profile, ValueAt valueAt);
 
     /// Fills the statistic of a flight whose times are set.
     void fill(RecordFlight& flight);
@@ -59,11 +59,12 @@ private:
     Heights heights(const RecordFlight& flight, const Reference& reference);
 
     const RecordData& mRecord;
-    Profile& mProfile;
+    const Profile& mProfile;
     ValueAt mValueAt;
 };
 
-/// Great-circle distance in metres between two points in degrees (one nautical mile a minute).
+/// Returns the great-circle distance in metres between two points in degrees (one nautical mile a
+/// minute).
 double greatCircleDistance(double lat1, double lon1, double lat2, double lon2);
 
 } // namespace VELIX

@@ -1,8 +1,7 @@
 #include "card/LimitFinder.h"
 
-#include "card/DecodingOrder.h"
 #include "card/EventText.h"
-#include "card/RecordData.h"
+#include "card/SampleWalk.h"
 #include "profile/Profile.h"
 
 namespace VELIX {
@@ -15,25 +14,24 @@ bool entersBand(int previous, int state)
            (previous == eThresholdWarning && state == eThresholdLimit);
 }
 
-void findLimitsOf(const ProfileDevice& device, const ProfileParameter& p, const EntryList& entries,
-                  Profile& profile, std::vector<RecordLimit>& limits)
+void findLimitsOf(const ProfileDevice& device, const ProfileParameter& p, const RecordData& record,
+                  const Profile& profile, std::vector<RecordLimit>& limits)
 {
     if (p.thresholdId == 0) {
         return; // never leaves state 0
     }
-    profile.resetCoordinates();
+    const ProfileDecoder decoder = profile.decoder();
     int previous = eThresholdLimit; // the first sample never starts an event
-    inDecodingOrder(entries, p, [&](const RecordEntry& entry) {
-        const TextValue value = profile.textValue(entry, p);
+    forEachSample(record, p, profile, [&](const ParameterSample& sample) {
         int state = eThresholdOk;
         QColor color;
-        profile.judge(p, value, state, color);
+        decoder.judge(sample, state, color);
         if (entersBand(previous, state)) {
-            const QString text = profile.text(p, value);
+            const QString text = decoder.text(sample);
             if (text != QLatin1String("nan")) {
                 RecordLimit event;
                 event.color = color;
-                describeEvent(event, entry.time, device.name, p, text, p.viewId);
+                describeEvent(event, sample.entry().time, device.name, p, text, p.viewId);
                 limits.push_back(std::move(event));
             }
         }
@@ -43,13 +41,12 @@ void findLimitsOf(const ProfileDevice& device, const ProfileParameter& p, const 
 
 } // namespace
 
-std::vector<RecordLimit> findLimits(const RecordData& record, Profile& profile)
+std::vector<RecordLimit> findLimits(const RecordData& record, const Profile& profile)
 {
     std::vector<RecordLimit> limits;
     for (const ProfileDevice& device : profile.data().devices) {
         for (const auto& [id, p] : device.parameters) {
-            findLimitsOf(device, p, record.entries(static_cast<std::uint32_t>(id)), profile,
-                         limits);
+            findLimitsOf(device, p, record, profile, limits);
         }
     }
     sortByTime(limits);

@@ -12,6 +12,6 @@ class RecordData;
 /// Finds the moments at which a parameter enters its warning or limit band from below.
 ///
 /// A parameter's first sample never counts, neither does a fall from limit to warning. By time.
-std::vector<RecordLimit> findLimits(const RecordData& record, Profile& profile);
+std::vector<RecordLimit> findLimits(const RecordData& record, const Profile& profile);
 
 } // namespace VELIX

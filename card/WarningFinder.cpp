@@ -21,21 +21,17 @@ QColor lampColor(int state)
 }
 
 void findWarningsOf(const ProfileDevice& device, const ProfileParameter& p,
-                    const EntryList& entries, Profile& profile,
+                    const EntryList& entries, const Profile& profile,
                     std::vector<RecordWarning>& warnings)
 {
-    profile.resetCoordinates();
     int previous = 0;
     for (const RecordEntry& entry : entries) {
         const int state = profile.getInt(entry, p);
         if (state != 0 && state != previous) {
-            int ignoredState = 0;
-            QColor ignoredColor;
             RecordWarning event;
             event.color = lampColor(state);
             describeEvent(event, entry.time, device.name, p,
-                          profile.getDataString(entry, p, ignoredState, ignoredColor),
-                          p.unitMetric);
+                          profile.decoder().text(ParameterSample(entry, p)), p.unitMetric);
             warnings.push_back(std::move(event));
         }
         previous = state;
@@ -44,7 +40,7 @@ void findWarningsOf(const ProfileDevice& device, const ProfileParameter& p,
 
 } // namespace
 
-std::vector<RecordWarning> findWarnings(const RecordData& record, Profile& profile)
+std::vector<RecordWarning> findWarnings(const RecordData& record, const Profile& profile)
 {
     std::vector<RecordWarning> warnings;
     for (const ProfileDevice& device : profile.data().devices) {

@@ -10,6 +10,6 @@ class Profile;
 class RecordData;
 
 /// Finds the moments at which a warning lamp changes to a lit state. By time.
-std::vector<RecordWarning> findWarnings(const RecordData& record, Profile& profile);
+std::vector<RecordWarning> findWarnings(const RecordData& record, const Profile& profile);
 
 } // namespace VELIX

@@ -1,7 +1,6 @@
 #include "export/ExportCsv.h"
 
-#include "card/DecodingOrder.h"
-#include "card/RecordData.h"
+#include "card/SampleWalk.h"
 #include "core/Progress.h"
 #include "export/OutputFile.h"
 #include "profile/Profile.h"
@@ -72,17 +71,17 @@ std::vector<std::uint64_t> ticksOf(const EntryList& entries, int resolution)
 }
 
 Column fillColumn(const RecordData& record, const ProfileParameter& p, int resolution,
-                  Profile& profile)
+                  const Profile& profile)
 {
-    const EntryList& entries = record.entries(static_cast<std::uint32_t>(p.id));
+    const ProfileDecoder decoder = profile.decoder();
     Column column;
-    column.header = profile.columnLabel(p).toStdString();
-    column.cells.reserve(entries.size());
-    profile.resetCoordinates();
-    inDecodingOrder(entries, p, [&](const RecordEntry& entry) {
+    column.header = profile.format(p).label(NumberFormat::EUnitOf::Text).toStdString();
+    column.cells.reserve(record.entries(static_cast<std::uint32_t>(p.id)).size());
+    forEachSample(record, p, profile, [&](const ParameterSample& sample) {
         const std::size_t begin = column.texts.size();
-        profile.appendDataString(entry, p, column.texts);
-        column.cells.push_back({tickOf(entry.time, resolution), begin, column.texts.size()});
+        decoder.appendText(sample, column.texts);
+        column.cells.push_back(
+            {tickOf(sample.entry().time, resolution), begin, column.texts.size()});
     });
     const auto earlier = [](const Column::Cell& a, const Column::Cell& b) {
         return a.tick < b.tick;
@@ -224,7 +223,7 @@ private:
 
 } // namespace
 
-ExportCsv::ExportCsv(Profile& profile) : mProfile(profile) {}
+ExportCsv::ExportCsv(const Profile& profile) : mProfile(profile) {}
 
 std::vector<const ProfileParameter*> ExportCsv::columns(const CsvExportOptions& options) const
 {

@@ -19,7 +19,7 @@ struct ProfileParameter;
 class ExportCsv
 {
 public:
-    explicit ExportCsv(Profile& profile);
+    explicit ExportCsv(const Profile& profile);
 
     /// Writes the file of the options. An export that fails, for the system's reason in its own
     /// words, or is cancelled keeps an old file.
@@ -37,7 +37,7 @@ public:
 private:
     std::vector<const ProfileParameter*> columns(const CsvExportOptions& options) const;
 
-    Profile& mProfile;
+    const Profile& mProfile;
 };
 
 } // namespace VELIX

@@ -1,8 +1,7 @@
 #include "export/ExportKml.h"
 
 #include "card/CardContainer.h"
-#include "card/DecodingOrder.h"
-#include "card/RecordData.h"
+#include "card/SampleWalk.h"
 #include "core/Progress.h"
 #include "core/Truncate.h"
 #include "export/KmlDocument.h"
@@ -56,28 +55,24 @@ bool isZipped(const KmlExportOptions& options)
         .endsWith(QLatin1String(".kmz"), Qt::CaseInsensitive);
 }
 
-/// Calls visit(key, entry) for the first sample of a parameter in the span of each placemark.
+/// Calls visit(key, sample) for the first sample of a parameter in the span of each placemark.
 template <class Visit>
 void firstOfEachSpan(const RecordData& record, const ProfileParameter& p,
-                     const KmlExportOptions& options, Profile& profile, Visit visit)
+                     const KmlExportOptions& options, const Profile& profile, Visit visit)
 {
     std::set<std::int32_t> seen;
     auto recent = seen.end(); // samples come in runs of one span
-    profile.resetCoordinates();
-    inDecodingOrder(
-        record.entries(static_cast<std::uint32_t>(p.id)), p, [&](const RecordEntry& entry) {
-            const std::int32_t key =
-                truncateToInt(entry.time / options.timeStep / options.placeMarkInterval);
-            bool first = recent == seen.end() || *recent != key;
-            if (first) {
-                std::tie(recent, first) = seen.insert(key);
-            }
-            if (first) {
-                visit(key, entry);
-            } else if (p.coordinate != ECoordinate::None) {
-                profile.textValue(entry, p); // the filter has to see every position
-            }
-        });
+    forEachSample(record, p, profile, [&](const ParameterSample& sample) {
+        const std::int32_t key =
+            truncateToInt(sample.entry().time / options.timeStep / options.placeMarkInterval);
+        bool first = recent == seen.end() || *recent != key;
+        if (first) {
+            std::tie(recent, first) = seen.insert(key);
+        }
+        if (first) {
+            visit(key, sample);
+        }
+    });
 }
 
 std::size_t eventCount(const RecordData& record, const KmlExportOptions& options)
@@ -93,7 +88,7 @@ std::size_t eventCount(const RecordData& record, const KmlExportOptions& options
 class KmlWriter
 {
 public:
-    KmlWriter(const RecordData& record, const KmlExportOptions& options, Profile& profile,
+    KmlWriter(const RecordData& record, const KmlExportOptions& options, const Profile& profile,
               Progress& progress)
         : mRecord(record),
           mOptions(options),
@@ -113,7 +108,7 @@ private:
 
     const RecordData& mRecord;
     const KmlExportOptions& mOptions;
-    Profile& mProfile;
+    const Profile& mProfile;
     Progress& mProgress;
     KmlPath mPath;
     std::map<std::int32_t, KmlExportPlacemark> mPlacemarks;
@@ -137,21 +132,24 @@ bool KmlWriter::exportPlaceMarks()
 
 void KmlWriter::addParameter(const ProfileParameter& p)
 {
-    const std::string unit = " [" + mProfile.textUnit(p).toStdString() + ']';
+    const std::string unit =
+        " [" + mProfile.format(p).unit(NumberFormat::EUnitOf::Text).toStdString() + ']';
+    const ProfileDecoder decoder = mProfile.decoder();
     std::string text;
-    firstOfEachSpan(mRecord, p, mOptions, mProfile, [&](std::int32_t key, const RecordEntry& e) {
-        const auto [at, created] = mPlacemarks.try_emplace(key);
-        KmlExportPlacemark& mark = at->second;
-        if (created) {
-            const std::int64_t firstPoint = std::int64_t{key} * mOptions.placeMarkInterval;
-            mark.name = timeOfDay(static_cast<double>(firstPoint) * mOptions.timeStep);
-            mark.position = *mPath.firstOf(firstPoint, mOptions.placeMarkInterval);
-        }
-        text.clear();
-        mProfile.appendDataString(e, p, text);
-        text += unit;
-        mark.values.push_back({p.fullName, p.name, QString::fromStdString(text)});
-    });
+    firstOfEachSpan(
+        mRecord, p, mOptions, mProfile, [&](std::int32_t key, const ParameterSample& sample) {
+            const auto [at, created] = mPlacemarks.try_emplace(key);
+            KmlExportPlacemark& mark = at->second;
+            if (created) {
+                const std::int64_t firstPoint = std::int64_t{key} * mOptions.placeMarkInterval;
+                mark.name = timeOfDay(static_cast<double>(firstPoint) * mOptions.timeStep);
+                mark.position = *mPath.firstOf(firstPoint, mOptions.placeMarkInterval);
+            }
+            text.clear();
+            decoder.appendText(sample, text);
+            text += unit;
+            mark.values.push_back({p.fullName, p.name, QString::fromStdString(text)});
+        });
 }
 
 bool KmlWriter::exportErrors()
@@ -207,7 +205,7 @@ bool KmlWriter::exportFile(QIODevice& out)
 
 } // namespace
 
-ExportKml::ExportKml(Profile& profile) : mProfile(profile) {}
+ExportKml::ExportKml(const Profile& profile) : mProfile(profile) {}
 
 bool ExportKml::writeDocument(const RecordData& record, const KmlExportOptions& options,
                               QIODevice& out, Progress& progress)
@@ -252,7 +250,7 @@ KmlSummary ExportKml::summary(const RecordData& record, const KmlExportOptions& 
         for (const ProfileParameter* p : valid.parameters) {
             firstOfEachSpan(
                 record, *p, valid, mProfile,
-                [&keys](std::int32_t key, const RecordEntry& /*entry*/) { keys.insert(key); });
+                [&keys](std::int32_t key, const ParameterSample& /*sample*/) { keys.insert(key); });
         }
         summary.parameterMarks = keys.size();
     }

@@ -27,7 +27,7 @@ struct KmlSummary
 class ExportKml
 {
 public:
-    explicit ExportKml(Profile& profile);
+    explicit ExportKml(const Profile& profile);
 
     /// Writes the file of the options. An export that fails, for the system's reason in its own
     /// words, or is cancelled keeps an old file.
@@ -43,7 +43,7 @@ public:
     KmlSummary summary(const RecordData& record, const KmlExportOptions& options);
 
 private:
-    Profile& mProfile;
+    const Profile& mProfile;
 };
 
 } // namespace VELIX

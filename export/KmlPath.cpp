@@ -1,7 +1,6 @@
 #include "export/KmlPath.h"
 
-#include "card/DecodingOrder.h"
-#include "card/RecordData.h"
+#include "card/SampleWalk.h"
 #include "core/Diagnostics.h"
 #include "core/Truncate.h"
 #include "export/FixedText.h"
@@ -80,31 +79,31 @@ const ProfileParameter* parameterOf(const Profile& profile, int id)
     return last;
 }
 
-void readSeries(const Series& series, const RecordData& record, Profile& profile, int timeStep,
-                Lines* log, KmlPath::Points& points)
+void readSeries(const Series& series, const RecordData& record, const Profile& profile,
+                int timeStep, Lines* log, KmlPath::Points& points)
 {
     const ProfileParameter* p = parameterOf(profile, series.id);
     if (p == nullptr) {
         return;
     }
     auto recent = points.end(); // samples come in runs of one step
-    inDecodingOrder(record.entries(static_cast<std::uint32_t>(series.id)), *p,
-                    [&](const RecordEntry& entry) {
-                        const double value = profile.getMetric(entry, *p);
-                        if (log != nullptr && series.logged != nullptr) {
-                            log->add("time", entry.time);
-                            log->space();
-                            log->add(series.logged, value);
-                            log->end();
-                        }
-                        const std::int32_t key = truncateToInt(entry.time / timeStep);
-                        if (recent == points.end() || recent->first != key) {
-                            recent = points.try_emplace(key).first;
-                        }
-                        if (std::isfinite(value)) {
-                            recent->second.*series.member = value;
-                        }
-                    });
+    forEachSample(record, *p, profile, [&](const ParameterSample& sample) {
+        const double time = sample.entry().time;
+        const double value = ProfileDecoder::metric(sample);
+        if (log != nullptr && series.logged != nullptr) {
+            log->add("time", time);
+            log->space();
+            log->add(series.logged, value);
+            log->end();
+        }
+        const std::int32_t key = truncateToInt(time / timeStep);
+        if (recent == points.end() || recent->first != key) {
+            recent = points.try_emplace(key).first;
+        }
+        if (std::isfinite(value)) {
+            recent->second.*series.member = value;
+        }
+    });
 }
 
 bool isMissing(double value)
@@ -130,7 +129,7 @@ void carryOn(Iterator from, Iterator to, Member member, Filled filled)
 
 } // namespace
 
-KmlPath::KmlPath(const RecordData& record, Profile& profile, int timeStep, Log log)
+KmlPath::KmlPath(const RecordData& record, const Profile& profile, int timeStep, Log log)
 {
     gather(record, profile, timeStep, log);
     fillGaps(log);
@@ -141,10 +140,9 @@ KmlPath::KmlPath(const RecordData& record, Profile& profile, int timeStep, Log l
     }
 }
 
-void KmlPath::gather(const RecordData& record, Profile& profile, int timeStep, Log log)
+void KmlPath::gather(const RecordData& record, const Profile& profile, int timeStep, Log log)
 {
     Lines lines;
-    profile.resetCoordinates();
     for (const Series& series : {kLatitude, kLongitude, kAltitude}) {
         readSeries(series, record, profile, timeStep, log == Log::On ? &lines : nullptr, mPoints);
     }

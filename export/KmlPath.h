@@ -22,7 +22,7 @@ public:
     enum class Log { Off, On };
 
     /// timeStep: s, at least 1. With the log on, every decoded position is printed.
-    KmlPath(const RecordData& record, Profile& profile, int timeStep, Log log);
+    KmlPath(const RecordData& record, const Profile& profile, int timeStep, Log log);
 
     const Points& points() const { return mPoints; }
     /// The point at a key, else the nearest earlier one, else the first; null if there is none.
@@ -31,7 +31,7 @@ public:
     const KmlExportData* firstOf(std::int64_t key, std::int64_t count) const;
 
 private:
-    void gather(const RecordData& record, Profile& profile, int timeStep, Log log);
+    void gather(const RecordData& record, const Profile& profile, int timeStep, Log log);
     void fillGaps(Log log);
 
     Points mPoints;

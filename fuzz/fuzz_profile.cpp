@@ -45,22 +45,26 @@ void decode(Profile& profile, const RecordEntry& entry, const ProfileParameter& 
         profile.resetCoordinates();
         const QString text = profile.getDataString(entry, p, textState, textColor);
         std::string appended;
-        profile.resetCoordinates();
-        profile.appendDataString(entry, p, appended);
+        const ParameterSample sample(entry, p);
+        const ProfileDecoder decoder = profile.decoder();
+        decoder.appendText(sample, appended);
         require(text.toStdString() == appended, "an exported text differs from the shown one");
 
         int state = -1;
         QColor color;
-        profile.resetCoordinates();
-        profile.getDataState(entry, p, state, color);
+        decoder.judge(sample, state, color);
         require(state == textState && color == textColor, "a state differs from that of the text");
 
         profile.getDouble(entry, p, state, color, true);
         profile.getDouble(entry, p, false);
-        profile.columnLabel(p);
-        profile.systemUnit(p);
+        decoder.metric(sample);
+        for (const auto of : {NumberFormat::EUnitOf::Number, NumberFormat::EUnitOf::Text,
+                              NumberFormat::EUnitOf::List}) {
+            profile.format(p).label(of);
+        }
+        profile.format(p).decimals();
+        profile.format(p).decimals(NumberFormat::EDecimals::Step);
     }
-    profile.getMetric(entry, p);
     profile.getInt(entry, p);
 }
 

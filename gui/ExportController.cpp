@@ -6,6 +6,7 @@
 #include "export/wizard/DialogExportCsv.h"
 #include "export/wizard/DialogExportKml.h"
 #include "gui/dialogs/DialogService.h"
+#include "profile/Profile.h"
 
 #include <QDir>
 #include <QScopedValueRollback>
@@ -18,6 +19,8 @@ ExportController::ExportController(const AppContext& context, DialogService& dia
       mContext(context),
       mDialogs(dialogs),
       mWindow(window),
+      mExportKml(context.profile),
+      mExportCsv(context.profile),
       mDialogExportKml(new DialogExportKml(
           context.settings, dialogs,
           [this](const KmlExportOptions& options) {
@@ -31,11 +34,6 @@ ExportController::ExportController(const AppContext& context, DialogService& dia
           },
           window))
 {}
-
-void ExportController::takeProfile()
-{
-    mProfile = mContext.profile;
-}
 
 /// False for a failure, which the user has to know of; a cancelled export is none.
 template <typename Engine, typename Options>
@@ -71,12 +69,11 @@ QString ExportController::kmlFileName(const QString& cardPath)
 
 void ExportController::exportKml()
 {
-    takeProfile();
     KmlExportOptions options;
     options.fileName =
         kmlFileName(QString::fromStdString(mContext.settings.getString("LastPath", {})))
             .toStdString();
-    options.parameters = mProfile.selectedParameters();
+    options.parameters = mContext.profile.selectedParameters();
     if (mDialogExportKml->getOptions(options) && !write(mExportKml, options, tr("KML Export"))) {
         mDialogs.critical(mWindow, tr("VELIX Warning"), tr("Exporting KML file failed !"));
     }
@@ -84,7 +81,6 @@ void ExportController::exportKml()
 
 void ExportController::exportCsv()
 {
-    takeProfile();
     CsvExportOptions options;
     if (mDialogExportCsv->getOptions(options) && !write(mExportCsv, options, tr("CSV Export"))) {
         mDialogs.critical(mWindow, tr("VELIX Viewer Warning"), tr("Exporting CSV file failed !"));

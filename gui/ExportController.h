@@ -4,7 +4,6 @@
 #include "export/ExportKml.h"
 #include "gui/ExportProgressBox.h"
 #include "gui/project/AppContext.h"
-#include "profile/Profile.h"
 
 #include <QObject>
 
@@ -44,17 +43,13 @@ signals:
 private:
     template <typename Engine, typename Options>
     bool write(Engine& engine, const Options& options, const QString& title);
-    void takeProfile();
 
     AppContext mContext;
     DialogService& mDialogs;
     QWidget* mWindow;
     int mPatience = ExportProgressBox::kPatienceMs;
-    /// The profile as it was when the export began. Timers run while progress is shown, and a
-    /// replay that goes on decodes positions, whose filter an export must have for itself.
-    Profile mProfile;
-    ExportKml mExportKml{mProfile};
-    ExportCsv mExportCsv{mProfile};
+    ExportKml mExportKml;
+    ExportCsv mExportCsv;
     DialogExportKml* mDialogExportKml;
     DialogExportCsv* mDialogExportCsv;
     bool mWriting = false;

@@ -2,22 +2,28 @@
 
 namespace VELIX {
 
-/// Decimal degrees of a value in the form dddmm.mmmm.
-/// Only the minutes are rounded to single precision, as the unit's own display does it.
+/// Returns the decimal degrees of a value in the form dddmm.mmmm. Only the minutes are rounded to
+/// single precision, as the unit's own display does it.
 double degreesFromDegreesMinutes(double value);
 
 /// Rejects positions that jump more than 10 km away from the one before.
 ///
-/// It works on a walk in time order: reset it before every walk and before every single look-up.
-/// The first five positions off the origin are always accepted. Degrees in, decimal degrees out.
+/// It works on a walk by time: every walk has one of its own. The first five positions off the
+/// origin are always accepted.
 class CoordinateFilter
 {
 public:
+    CoordinateFilter() = default;
+    /// latitude: decimal degrees at which longitudes are judged until a latitude comes.
+    explicit CoordinateFilter(double latitude) { mLatitude.last = latitude; }
+
+    /// Accepts the next positions whatever they are; the last latitude stays.
     void reset();
-    /// value: dddmm.mmmm; the decimal degrees of it, or the last latitude if it jumps.
+    /// Returns the decimal degrees of a value in the form dddmm.mmmm, or the last latitude if it
+    /// jumps.
     double latitude(double value);
-    /// As latitude(), the limit widened by the cosine of the last latitude; the distance is
-    /// taken the short way round the globe.
+    /// Does the same for longitudes, the limit widened by the cosine of the last latitude and the
+    /// distance taken the short way round the globe.
     double longitude(double value);
 
 private:

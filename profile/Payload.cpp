@@ -2,6 +2,7 @@
 
 #include <QtEndian>
 
+#include <bit>
 #include <cstring>
 #include <type_traits>
 
@@ -37,6 +38,11 @@ std::uint32_t Payload::word32(int position) const
 std::uint32_t Payload::word32LittleEndian(int position) const
 {
     return qFromLittleEndian(raw<std::uint32_t>(position));
+}
+
+double Payload::real(int position) const
+{
+    return static_cast<double>(std::bit_cast<float>(word32(position)));
 }
 
 std::uint32_t bitField(std::uint32_t word, int width, int startBit, int endBit)

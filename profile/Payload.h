@@ -6,7 +6,7 @@
 
 namespace VELIX {
 
-/// Reads numbers out of the addressable bytes of an entry. What lies outside of them reads as 0.
+/// Reads numbers out of the addressable bytes of an entry. What is outside of them reads as 0.
 class Payload
 {
 public:
@@ -16,6 +16,7 @@ public:
     std::uint16_t word16(int position) const; ///< big-endian
     std::uint32_t word32(int position) const; ///< big-endian
     std::uint32_t word32LittleEndian(int position) const;
+    double real(int position) const; ///< single precision, big-endian
 
 private:
     template <class T>
@@ -24,8 +25,8 @@ private:
     const RecordEntry& mEntry;
 };
 
-/// The bits startBit to endBit (inclusive) of a word of the given width, shifted down; 0 if they
-/// do not lie inside the word.
+/// Returns the bits startBit to endBit (inclusive) of a word of the given width, shifted down; 0 if
+/// they are not all inside the word.
 std::uint32_t bitField(std::uint32_t word, int width, int startBit, int endBit);
 
 } // namespace VELIX

@@ -3,7 +3,6 @@
 #include "core/Diagnostics.h"
 #include "core/Property.h"
 #include "core/XmlHandler.h"
-#include "profile/DataType.h"
 #include "profile/ProfileLoader.h"
 #include "profile/VariantFilter.h"
 
@@ -154,8 +153,56 @@ ProfileParameter Profile::getParameterFromVelixType(const QString& type) const
 
 const ProfileEnum* Profile::enumeration(const ProfileParameter& p) const
 {
-    const auto found = mModel.enums.find(p.enumId);
-    return found == mModel.enums.end() ? nullptr : &found->second;
+    return decoder().enumeration(p);
+}
+
+ParameterSample Profile::next(const RecordEntry& e, const ProfileParameter& p, bool scale)
+{
+    return {e, p, mCoordinates, scale ? ParameterSample::Scale::On : ParameterSample::Scale::Off};
+}
+
+int Profile::getInt(const RecordEntry& e, const ProfileParameter& p) const
+{
+    return ProfileDecoder::integer(e, p);
+}
+
+int Profile::getInt(const RecordEntry& e) const
+{
+    const auto found = mModel.parameters.find(static_cast<int>(e.id));
+    return found == mModel.parameters.end() ? getInt(e, ProfileParameter())
+                                            : getInt(e, found->second);
+}
+
+double Profile::getDouble(const RecordEntry& e, const ProfileParameter& p, int& state,
+                          QColor& color, bool scale)
+{
+    return decoder().number(next(e, p, scale), state, color);
+}
+
+double Profile::getDouble(const RecordEntry& e, const ProfileParameter& p, bool scale)
+{
+    return decoder().number(next(e, p, scale));
+}
+
+double Profile::getDouble(const RecordEntry& e, bool scale)
+{
+    return getDouble(e, mModel.parameters[static_cast<int>(e.id)], scale);
+}
+
+QString Profile::getDataString(const RecordEntry& e, const ProfileParameter& p, int& state,
+                               QColor& color)
+{
+    return decoder().text(next(e, p, true), state, color);
+}
+
+double Profile::convertUnit(const ProfileParameter& p, double value) const
+{
+    return decoder().convert(p, value);
+}
+
+void Profile::getThreshold(const ProfileParameter& p, double value, int& state, QColor& color) const
+{
+    decoder().threshold(p, value, state, color);
 }
 
 QString Profile::getEnumValue(int /*enumId*/, int /*value*/) const
@@ -163,20 +210,24 @@ QString Profile::getEnumValue(int /*enumId*/, int /*value*/) const
     return {};
 }
 
-QString Profile::textUnit(const ProfileParameter& p) const
+double Profile::calcCoordinate(double value)
 {
-    const bool converted = mUnit == eUnitImperial && p.dataType == eFloat && p.hasConversion;
-    return converted ? p.unitImperial : p.unitMetric;
+    return degreesFromDegreesMinutes(value);
 }
 
-QString Profile::systemUnit(const ProfileParameter& p) const
+double Profile::calcCoordinateLat(double value, double /*time*/)
 {
-    return mUnit == eUnitImperial ? p.unitImperial : p.unitMetric;
+    return mCoordinates.latitude(value);
 }
 
-QString Profile::columnLabel(const ProfileParameter& p) const
+double Profile::calcCoordinateLong(double value, double /*time*/)
 {
-    return p.label(textUnit(p));
+    return mCoordinates.longitude(value);
+}
+
+void Profile::resetCoordinates()
+{
+    mCoordinates.reset();
 }
 
 } // namespace VELIX

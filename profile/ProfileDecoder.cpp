@@ -1,17 +1,12 @@
-// The decoding half of Profile: from the bytes of a message to numbers, states and texts.
+#include "profile/ProfileDecoder.h"
 
 #include "core/Truncate.h"
-#include "profile/DataType.h"
 #include "profile/Payload.h"
-#include "profile/Profile.h"
-#include "profile/TextValue.h"
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <charconv>
 #include <cmath>
-#include <cstdint>
 
 namespace VELIX {
 
@@ -46,16 +41,6 @@ std::int64_t rawInteger(EExtraction extraction, const Payload& payload, const Pr
     return 0;
 }
 
-double scaled(const ProfileParameter& p, double value)
-{
-    return value * p.factor + p.offset;
-}
-
-double floatValue(const Payload& payload, const ProfileParameter& p)
-{
-    return static_cast<double>(std::bit_cast<float>(payload.word32(p.startByte)));
-}
-
 template <class T>
 void appendInteger(T value, std::string& out)
 {
@@ -77,43 +62,21 @@ void appendReal(double value, std::chars_format format, int precision, std::stri
     out.append(digits.data(), end);
 }
 
-} // namespace
-
-int Profile::getInt(const RecordEntry& e, const ProfileParameter& p) const
-{
-    return static_cast<std::int32_t>(rawInteger(extractionOf(e.data[1]), Payload(e), p));
-}
-
-int Profile::getInt(const RecordEntry& e) const
-{
-    const auto found = mModel.parameters.find(static_cast<int>(e.id));
-    return found == mModel.parameters.end() ? getInt(e, ProfileParameter())
-                                            : getInt(e, found->second);
-}
-
-double Profile::coordinate(const ProfileParameter& p, double value)
-{
-    switch (p.coordinate) {
-    case ECoordinate::Latitude:
-        return mCoordinates.latitude(value);
-    case ECoordinate::Longitude:
-        return mCoordinates.longitude(value);
-    case ECoordinate::None:
-        break;
-    }
-    return value;
-}
-
 /// The number in the metric unit; false for types without a decoder.
-bool Profile::decode(const RecordEntry& e, const ProfileParameter& p, bool scale, double& value)
+bool decode(const ParameterSample& sample, double& value)
 {
-    const Payload payload(e);
+    const ProfileParameter& p = sample.parameter();
+    const Payload payload(sample.entry());
     const EExtraction extraction = extractionOf(p.dataType);
     switch (extraction) {
     case EExtraction::None:
         return false;
     case EExtraction::Float:
-        value = floatValue(payload, p);
+        if (p.coordinate != ECoordinate::None) {
+            value = sample.position();
+            return true;
+        }
+        value = payload.real(p.startByte);
         break;
     case EExtraction::Signed32:
     case EExtraction::Unsigned32: // through single precision: displays are compared against it
@@ -124,50 +87,49 @@ bool Profile::decode(const RecordEntry& e, const ProfileParameter& p, bool scale
         break;
     }
     const bool isBitField = extraction == EExtraction::Bits32 || extraction == EExtraction::Bits16;
-    if (scale && !isBitField) {
-        value = scaled(p, value);
-    }
-    if (extraction == EExtraction::Float) {
-        value = coordinate(p, value);
+    if (sample.isScaled() && !isBitField) {
+        value = p.scaled(value);
     }
     return true;
 }
 
-double Profile::getDouble(const RecordEntry& e, const ProfileParameter& p, int& state,
-                          QColor& color, bool scale)
+} // namespace
+
+std::int32_t ProfileDecoder::integer(const RecordEntry& e, const ProfileParameter& p)
 {
-    double value = 0.0;
-    if (!decode(e, p, scale, value)) {
-        return 0.0;
-    }
-    getThreshold(p, value, state, color);
-    return convertUnit(p, value);
+    return static_cast<std::int32_t>(rawInteger(extractionOf(e.data[1]), Payload(e), p));
 }
 
-double Profile::getMetric(const RecordEntry& e, const ProfileParameter& p)
+double ProfileDecoder::number(const ParameterSample& sample, int& state, QColor& color) const
 {
     double value = 0.0;
-    decode(e, p, true, value);
+    if (!decode(sample, value)) {
+        return 0.0;
+    }
+    threshold(sample.parameter(), value, state, color);
+    return convert(sample.parameter(), value);
+}
+
+double ProfileDecoder::number(const ParameterSample& sample) const
+{
+    double value = 0.0;
+    return decode(sample, value) ? convert(sample.parameter(), value) : 0.0;
+}
+
+double ProfileDecoder::metric(const ParameterSample& sample)
+{
+    double value = 0.0;
+    decode(sample, value);
     return value;
 }
 
-double Profile::getDouble(const RecordEntry& e, const ProfileParameter& p, bool scale)
-{
-    double value = 0.0;
-    return decode(e, p, scale, value) ? convertUnit(p, value) : 0.0;
-}
-
-double Profile::getDouble(const RecordEntry& e, bool scale)
-{
-    return getDouble(e, mModel.parameters[static_cast<int>(e.id)], scale);
-}
-
-double Profile::convertUnit(const ProfileParameter& p, double value) const
+double ProfileDecoder::convert(const ProfileParameter& p, double value) const
 {
     return mUnit == eUnitImperial ? value * p.toImperial.factor + p.toImperial.offset : value;
 }
 
-void Profile::getThreshold(const ProfileParameter& p, double value, int& state, QColor& color) const
+void ProfileDecoder::threshold(const ProfileParameter& p, double value, int& state,
+                               QColor& color) const
 {
     color = QColor(255, 255, 255);
     state = eThresholdOk;
@@ -188,20 +150,24 @@ void Profile::getThreshold(const ProfileParameter& p, double value, int& state, 
     }
 }
 
-TextValue Profile::textValue(const RecordEntry& e, const ProfileParameter& p)
+TextValue ProfileDecoder::textValue(const ParameterSample& sample)
 {
     using Kind = TextValue::Kind;
-    const Payload payload(e);
+    const ProfileParameter& p = sample.parameter();
+    const Payload payload(sample.entry());
     const EExtraction extraction = extractionOf(p.dataType);
     if (extraction == EExtraction::Float) {
-        return {Kind::Fixed, coordinate(p, scaled(p, floatValue(payload, p))), 0};
+        const double number = p.coordinate != ECoordinate::None
+                                  ? sample.position()
+                                  : p.scaled(payload.real(p.startByte));
+        return {Kind::Fixed, number, 0};
     }
     if (extraction == EExtraction::Unsigned32) {
-        // Little-endian, unlike the number: that is how these texts have always been made.
-        return {Kind::General, scaled(p, payload.word32LittleEndian(p.startByte)), 0};
+        // Little-endian, unlike the number: kept for compatibility with texts made before.
+        return {Kind::General, p.scaled(payload.word32LittleEndian(p.startByte)), 0};
     }
     const std::int64_t raw = rawInteger(extraction, payload, p);
-    std::int32_t value = truncateToInt(scaled(p, static_cast<double>(raw)));
+    std::int32_t value = truncateToInt(p.scaled(static_cast<double>(raw)));
     switch (extraction) { // scaled integers wrap into their own width
     case EExtraction::None:
         return {};
@@ -227,14 +193,14 @@ TextValue Profile::textValue(const RecordEntry& e, const ProfileParameter& p)
     return {Kind::Integer, static_cast<double>(value), value};
 }
 
-void Profile::judge(const ProfileParameter& p, const TextValue& value, int& state,
-                    QColor& color) const
+void ProfileDecoder::judge(const ProfileParameter& p, const TextValue& value, int& state,
+                           QColor& color) const
 {
     switch (value.kind) {
     case TextValue::Kind::Fixed:
     case TextValue::Kind::General:
     case TextValue::Kind::Integer:
-        getThreshold(p, value.number, state, color);
+        threshold(p, value.number, state, color);
         break;
     case TextValue::Kind::Undecoded:
         color = QColor(255, 255, 255);
@@ -245,8 +211,8 @@ void Profile::judge(const ProfileParameter& p, const TextValue& value, int& stat
     }
 }
 
-void Profile::appendEnumText(const ProfileParameter& p, const TextValue& value,
-                             std::string& out) const
+void ProfileDecoder::appendEnumText(const ProfileParameter& p, const TextValue& value,
+                                    std::string& out) const
 {
     appendInteger(value.integer, out);
     const ProfileEnum* labels = enumeration(p);
@@ -264,11 +230,12 @@ void Profile::appendEnumText(const ProfileParameter& p, const TextValue& value,
     out += found->second.label.toStdString();
 }
 
-void Profile::appendText(const ProfileParameter& p, const TextValue& value, std::string& out) const
+void ProfileDecoder::appendText(const ProfileParameter& p, const TextValue& value,
+                                std::string& out) const
 {
     switch (value.kind) {
     case TextValue::Kind::Fixed:
-        appendReal(convertUnit(p, value.number), std::chars_format::fixed, p.precision, out);
+        appendReal(convert(p, value.number), std::chars_format::fixed, p.precision, out);
         break;
     case TextValue::Kind::General:
         appendReal(value.number, std::chars_format::general, p.precision, out);
@@ -288,50 +255,36 @@ void Profile::appendText(const ProfileParameter& p, const TextValue& value, std:
     }
 }
 
-QString Profile::getDataString(const RecordEntry& e, const ProfileParameter& p, int& state,
-                               QColor& color)
+const ProfileEnum* ProfileDecoder::enumeration(const ProfileParameter& p) const
 {
-    const TextValue value = textValue(e, p);
-    judge(p, value, state, color);
-    return text(p, value);
+    const auto found = mModel.enums.find(p.enumId);
+    return found == mModel.enums.end() ? nullptr : &found->second;
 }
 
-QString Profile::text(const ProfileParameter& p, const TextValue& value) const
+QString ProfileDecoder::text(const ParameterSample& sample) const
 {
     std::string utf8;
-    appendText(p, value, utf8);
+    appendText(sample, utf8);
     return QString::fromStdString(utf8);
 }
 
-void Profile::appendDataString(const RecordEntry& e, const ProfileParameter& p, std::string& out)
+QString ProfileDecoder::text(const ParameterSample& sample, int& state, QColor& color) const
 {
-    appendText(p, textValue(e, p), out);
+    const TextValue value = textValue(sample);
+    judge(sample.parameter(), value, state, color);
+    std::string utf8;
+    appendText(sample.parameter(), value, utf8);
+    return QString::fromStdString(utf8);
 }
 
-void Profile::getDataState(const RecordEntry& e, const ProfileParameter& p, int& state,
-                           QColor& color)
+void ProfileDecoder::appendText(const ParameterSample& sample, std::string& out) const
 {
-    judge(p, textValue(e, p), state, color);
+    appendText(sample.parameter(), textValue(sample), out);
 }
 
-double Profile::calcCoordinate(double value)
+void ProfileDecoder::judge(const ParameterSample& sample, int& state, QColor& color) const
 {
-    return degreesFromDegreesMinutes(value);
-}
-
-double Profile::calcCoordinateLat(double value, double /*time*/)
-{
-    return mCoordinates.latitude(value);
-}
-
-double Profile::calcCoordinateLong(double value, double /*time*/)
-{
-    return mCoordinates.longitude(value);
-}
-
-void Profile::resetCoordinates()
-{
-    mCoordinates.reset();
+    judge(sample.parameter(), textValue(sample), state, color);
 }
 
 } // namespace VELIX

@@ -11,7 +11,7 @@ namespace VELIX {
 /// Which coordinate a parameter carries; decoding filters positions.
 enum class ECoordinate { None, Latitude, Longitude };
 
-/// One value of a CANaerospace message: where it lies, how it is scaled, shown and judged.
+/// One value of a CANaerospace message: its position, how it is scaled, shown and judged.
 struct ProfileParameter
 {
     QString name;
@@ -40,7 +40,8 @@ struct ProfileParameter
     ProfileUnit toImperial;     ///< identity if the profile knows no conversion
     bool hasConversion = false; ///< the profile names the conversion of this unit pair
 
-    /// The label that a list of parameters shows: the name, with the unit in brackets if any.
+    double scaled(double value) const { return value * factor + offset; }
+    /// Returns the name, with the unit in brackets if there is one.
     QString label(const QString& unit) const;
 };
 

@@ -172,7 +172,7 @@ void DialogProfile::addParameter(QTreeWidgetItem* device, ProfileParameter& para
 {
     auto* item = new QTreeWidgetItem(device);
     item->setData(0, kParameterRole, QVariant::fromValue(&parameter));
-    item->setText(0, parameter.label(mProfile.systemUnit(parameter)));
+    item->setText(0, mProfile.format(parameter).label(NumberFormat::EUnitOf::List));
     item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
     item->setCheckState(0, checkState(parameter));
 }
@@ -192,7 +192,7 @@ void DialogProfile::forEachItem(
 void DialogProfile::updateUnits()
 {
     forEachItem([this](QTreeWidgetItem& item, const ProfileParameter& parameter) {
-        item.setText(0, parameter.label(mProfile.systemUnit(parameter)));
+        item.setText(0, mProfile.format(parameter).label(NumberFormat::EUnitOf::List));
     });
     TreeColumn::fit(*mTree);
 }

@@ -1,6 +1,5 @@
 #include "profile/CoordinateFilter.h"
 #include "profile/Profile.h"
-#include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
 
 #include <gtest/gtest.h>
@@ -82,36 +81,33 @@ TEST(CoordinateFilter, AllowsMoreDegreesOfLongitudeTowardsThePolesAndComparesThe
 
 TEST(CoordinateFilter, BelongsToTheRolesOfRealsAlone)
 {
-    Profile profile;
-    ProfileBuilder builder;
-    builder.device("EMU");
-    int id = 0;
-    for (const char* role : {"Latitude", "Longitude", "Altitude"}) {
-        builder.parameter(id++, QString(), "FLOAT").set("velixDataType", role).set("factor", "100");
-    }
-    ASSERT_TRUE(builder.load(profile));
-    const auto& parameters = profile.data().devices.front().parameters;
+    ProfileParameter p;
+    p.dataType = eFloat;
+    p.startByte = 4;
+    p.factor = 100.0; // scaled before it is converted
     const RecordEntry entry = RecordBuilder().floatValue(48.5F).last();
-    const double degrees[] = {48.0 + 50.0 / 60.0, 48.0 + 50.0 / 60.0,
-                              4850.0}; // scaled before it is converted
-    for (const int role : {0, 1, 2}) {
-        EXPECT_NEAR(profile.getDouble(entry, parameters.at(role), true), degrees[role], 1e-4);
+    EXPECT_EQ(ProfileDecoder::metric(ParameterSample(entry, p)), 4850.0);
+    for (const ECoordinate role : {ECoordinate::Longitude, ECoordinate::Latitude}) {
+        p.coordinate = role;
+        EXPECT_NEAR(ProfileDecoder::metric(ParameterSample(entry, p)), 48.0 + 50.0 / 60.0, 1e-4);
     }
-    ProfileParameter whole = parameters.at(0);
+    ProfileParameter whole = p;
     whole.dataType = eLong;
-    EXPECT_EQ(profile.getDouble(RecordBuilder().longValue(48).last(), whole, true), 4800.0);
+    const RecordEntry number = RecordBuilder().longValue(48).last();
+    EXPECT_EQ(ProfileDecoder::metric(ParameterSample(number, whole)), 4800.0);
 
-    // Texts and states pass through the same filter.
+    // Decoded one by one, positions are judged until the coordinates are reset.
+    Profile profile;
     int state = 0;
     QColor color;
     for (int i = 0; i < 5; ++i) {
-        profile.getDataState(entry, parameters.at(0), state, color);
+        profile.getDataString(entry, p, state, color);
     }
     const RecordEntry jump = RecordBuilder().floatValue(10.0F).last();
-    const auto text = [&] { return profile.getDataString(jump, parameters.at(0), state, color); };
-    EXPECT_EQ(text(), QStringLiteral("48.833333"));
+    EXPECT_NEAR(profile.getDouble(jump, p, true), 48.0 + 50.0 / 60.0, 1e-4);
     profile.resetCoordinates();
-    EXPECT_EQ(text(), QStringLiteral("10.000000"));
+    EXPECT_EQ(profile.getDataString(jump, p, state, color), QStringLiteral("10.000000"));
+    EXPECT_NEAR(profile.getDouble(jump, p, false), 0.0 + 10.0 / 60.0, kTolerance) << "unscaled";
     EXPECT_NEAR(profile.calcCoordinateLat(1030.0, 0.0), 10.5, kTolerance);
     EXPECT_NEAR(profile.calcCoordinateLong(1030.0, 0.0), 10.5, kTolerance);
 }

@@ -53,7 +53,7 @@ protected:
         QColor color;
         std::string text = mProfile.getDataString(entry, p, state, color).toStdString();
         std::string exported = "kept ";
-        mProfile.appendDataString(entry, p, exported);
+        mProfile.decoder().appendText(ParameterSample(entry, p), exported);
         EXPECT_EQ(exported, "kept " + text) << "exports and views must agree";
         return text;
     }
@@ -169,7 +169,7 @@ TEST_F(Decoder, ReadsValuesThatDoNotFitTheEntryAsZero)
     const struct
     {
         int type;
-        int lastStart; ///< the last place where the whole value lies in the 28 bytes
+        int lastStart; ///< the last position at which the whole value is inside the 28 bytes
         double number;
     } rows[] = {{eULong, 24, 4294967296.0}, {eUShort, 26, 65535.0}, {eUChar, 27, 255.0}};
     for (const auto& row : rows) {

@@ -92,33 +92,43 @@ TEST_F(Judged, TextsAreJudgedByTheValueThatTheyShowBeforeConversion)
     {
         const char* type;
         std::uint32_t word;
+        double number;    ///< converted whatever its type
+        const char* text; ///< converted for reals only
         int state;
         QColor color;
     } rows[] = {
-        {"FLOAT", 0x42C80000, 1, kYellow}, // 100
-        {"LONG", 120, 2, kRed},
-        {"ULONG", 0x64000000, 1, kYellow}, // little-endian 100
-        {"UCHAR", 0x78000000, 2, kRed},
-        {"BLONG", 0xFFFF, 7, kUntouched},
-        {"BSHORT", 0xFFFF0000, 7, kUntouched},
-        {"ACHAR", 0xFFFFFFFF, 7, kWhite},
+        {"FLOAT", 0x42C80000, 212, "212.000000", 1, kYellow}, // 100
+        {"LONG", 120, 248, "120", 2, kRed},
+        {"ULONG", 0x64000000, 3019898912.0, "100", 1, kYellow}, // little-endian 100
+        {"UCHAR", 0x78000000, 248, "120", 2, kRed},
+        {"BLONG", 0xFFFF, 117995, "65535: Invalid ENUM Type", 7, kUntouched},
+        {"BSHORT", 0xFFFF0000, 117995, "65535", 7, kUntouched},
+        {"ACHAR", 0xFFFFFFFF, 0, "Datatype 23 not implemented", 7, kWhite},
+        {"Plain", 0x42C80000, 100, "100.000000", 0, kWhite},
     };
     mProfile.setCurrentUnit(eUnitImperial);
     for (const auto& row : rows) {
         SCOPED_TRACE(row.type);
         const RecordEntry entry = RecordBuilder().payload(eNoData, row.word).last();
-        for (const bool asText : {true, false}) {
-            int state = 7;
-            QColor color = kUntouched;
-            if (asText) {
-                mProfile.getDataString(entry, named(row.type), state, color);
-            } else {
-                mProfile.getDataState(entry, named(row.type), state, color);
-            }
-            EXPECT_EQ(state, row.state);
-            EXPECT_EQ(color, row.color);
-        }
+        int state = 7;
+        QColor color = kUntouched;
+        EXPECT_EQ(mProfile.getDataString(entry, named(row.type), state, color).toStdString(),
+                  row.text);
+        EXPECT_EQ(state, row.state);
+        EXPECT_EQ(color, row.color);
+        int judged = 7;
+        color = kUntouched;
+        const ParameterSample sample(entry, named(row.type));
+        mProfile.decoder().judge(sample, judged, color);
+        EXPECT_EQ(judged, row.state) << "without its text";
+        EXPECT_EQ(color, row.color) << "without its text";
+        EXPECT_EQ(mProfile.decoder().number(sample), row.number);
     }
+    const RecordEntry hundred = RecordBuilder().floatValue(100.0F).last();
+    EXPECT_EQ(ProfileDecoder::metric(ParameterSample(hundred, named("FLOAT"))), 100.0);
+    mProfile.setCurrentUnit(eUnitMetric);
+    EXPECT_EQ(mProfile.getDouble(hundred, named("FLOAT"), true), 100.0);
+
     ProfileParameter p = named("UCHAR");
     p.factor = 2.0;
     const RecordEntry entry = RecordBuilder().ucharValue(130).last(); // 260, shown as 4
@@ -126,43 +136,6 @@ TEST_F(Judged, TextsAreJudgedByTheValueThatTheyShowBeforeConversion)
     EXPECT_EQ(mState, 0);
     mProfile.getDouble(entry, p, mState, mColor, true);
     EXPECT_EQ(mState, 2) << "the number does not wrap";
-}
-
-TEST_F(Judged, NumbersAreConvertedForEveryTypeButTextsForRealsOnly)
-{
-    const struct
-    {
-        const char* type;
-        std::uint32_t word;
-        double number;
-        const char* text;
-        const char* column;
-        const char* system;
-    } rows[] = {
-        {"FLOAT", 0x42C80000, 212, "212.000000", "FLOAT [F]", "F"},
-        {"LONG", 100, 212, "100", "LONG [C]", "F"},
-        {"UCHAR", 0x64000000, 212, "100", "UCHAR [C]", "F"},
-        {"BLONG", 100, 212, "100: Invalid ENUM Type", "BLONG [C]", "F"},
-        {"ACHAR", 100, 0, "Datatype 23 not implemented", "ACHAR [C]", "F"},
-        {"Plain", 0x42C80000, 100, "100.000000", "Plain [C]", "K"},
-        {"Bare", 0x42C80000, 100, "100.000000", "Bare", ""},
-    };
-    mProfile.setCurrentUnit(eUnitImperial);
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.type);
-        const ProfileParameter& p = named(row.type);
-        const RecordEntry entry = RecordBuilder().payload(eNoData, row.word).last();
-        EXPECT_EQ(mProfile.getDouble(entry, p, true), row.number);
-        EXPECT_EQ(mProfile.getDataString(entry, p, mState, mColor).toStdString(), row.text);
-        EXPECT_EQ(mProfile.columnLabel(p).toStdString(), row.column);
-        EXPECT_EQ(mProfile.systemUnit(p).toStdString(), row.system);
-    }
-    const RecordEntry hundred = RecordBuilder().floatValue(100.0F).last();
-    EXPECT_EQ(mProfile.getMetric(hundred, named("FLOAT")), 100.0);
-    mProfile.setCurrentUnit(eUnitMetric);
-    EXPECT_EQ(mProfile.getDouble(hundred, named("FLOAT"), true), 100.0);
-    EXPECT_EQ(mProfile.columnLabel(named("FLOAT")), QStringLiteral("FLOAT [C]"));
-    EXPECT_EQ(mProfile.systemUnit(named("FLOAT")), QStringLiteral("C"));
 }
 
 } // namespace

@@ -3,10 +3,10 @@
 #include "tools/democard/DemoCard.h"
 #include "card/CardContainer.h"
 #include "card/LimitFinder.h"
+#include "card/SampleWalk.h"
 #include "card/WarningFinder.h"
 #include "profile/Profile.h"
 #include "tests/support/CapturedDiagnostics.h"
-#include "tools/democard/MessageTable.h"
 #include "tools/democard/MonitorModel.h"
 
 #include <QCryptographicHash>
@@ -15,7 +15,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <memory>
+#include <set>
 
 namespace VELIX::Demo {
 namespace {
@@ -60,12 +62,6 @@ protected:
     static Profile& profile() { return sWorld->profile; }
     static QString folder() { return sWorld->folder.path(); }
 
-    /// The flights of a cycle, which stays loaded as a whole.
-    static const std::vector<RecordFlight>& flights(std::uint32_t cycle)
-    {
-        EXPECT_EQ(card().loadCycle(cycle, -1), 1);
-        return card().recordCycles().at(cycle).flights;
-    }
     /// All error bits that a fault word ever shows in the loaded data.
     static std::uint32_t bitsOf(std::uint32_t id)
     {
@@ -99,152 +95,91 @@ TEST_F(DemoCard, IsTheSameToTheByteEveryTimeAndEverywhere)
     EXPECT_FALSE(writeDemoCard(folder() + QStringLiteral("/missing")));
 }
 
-TEST_F(DemoCard, HasTwoPowerCyclesDatedByTheirSecondFile)
+TEST_F(DemoCard, HasTheEventsOfItsStory)
 {
-    const auto& cycles = card().recordCycles();
-    ASSERT_EQ(cycles.size(), 2U);
-    for (const std::uint32_t number : {1U, 2U}) {
-        const RecordCycle& cycle = cycles.at(number);
-        EXPECT_EQ(cycle.files.size(), 3U);
+    const struct
+    {
+        std::uint32_t cycle;
+        QTime powerUp;
+        std::size_t flights;
+        std::vector<const char*> events; ///< "name colour" of a limit or "name: value" of a lamp
+        std::array<std::uint32_t, 3> faults; ///< bits that lane A, lane B and the unit report
+    } rows[] = {
+        {1,
+         QTime(12, 41, 17),
+         2,
+         {"Lane A Oil Temperature #ffc65c", "Lane A Oil Temperature #ff8070",
+          "Airframe Bus Voltage #ff8070", "Lane A Oil Lamp: 1: amber", "Lane A Oil Lamp: 2: red",
+          "Airframe Fuel Lamp: 1: amber"},
+         {bit(EFaultA::OilHot) | bit(EFaultA::OilLimit) | bit(EFaultA::SupplyLow), 0, 0}},
+        {2,
+         QTime(14, 2, 44),
+         1,
+         {"Lane A Engine Speed #ff8070", "Airframe Bus Voltage #ffc65c",
+          "Airframe Power Lamp: 1: amber", "Lane B Lane Lamp: 1: amber"},
+         {bit(EFaultA::Overspeed), bit(EFaultB::ExhaustSensor),
+          bit(EFaultUnit::GeneratorOff) | bit(EFaultUnit::WorkshopDue)}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.cycle);
+        ASSERT_EQ(card().loadCycle(row.cycle, -1), 1);
+        const RecordCycle& cycle = card().recordCycles().at(row.cycle);
+        // Dated by the second file, within the seconds that headers round to.
         EXPECT_TRUE(cycle.files[0].recordInfo().dateInvalid);
-        EXPECT_FALSE(cycle.files[1].recordInfo().dateInvalid);
         EXPECT_EQ(cycle.dateTime.date(), QDate(2026, 6, 13));
-        EXPECT_GT(cycle.stopTime, 3000.0);
-    }
-    // Power-up as planned, within the seconds that headers round to.
-    EXPECT_LE(std::abs(cycles.at(1).dateTime.time().secsTo(QTime(12, 41, 17))), 1);
-    EXPECT_LE(std::abs(cycles.at(2).dateTime.time().secsTo(QTime(14, 2, 44))), 1);
-}
-
-TEST_F(DemoCard, SendsEveryMessageAtItsRateInTimeOrder)
-{
-    ASSERT_EQ(card().loadCycle(1, -1), 1);
-    const RecordData& data = card().recordData();
-    const double seconds = card().stopTime() - card().startTime();
-    for (const Message& m : messageTable()) {
-        const EntryList& entries = data.entries(m.id);
-        const double unknown = m.needsPosition ? 35.0 : 0.0; // s until the receiver has a fix
-        EXPECT_NEAR(static_cast<double>(entries.size()), (seconds - unknown) * m.rate, 1.0 + m.rate)
-            << m.name;
-        double last = 0.0;
-        for (const RecordEntry& e : entries) {
-            ASSERT_GT(e.time, last) << m.name;
-            ASSERT_EQ(e.source, sourceOf(m)) << m.name;
-            last = e.time;
+        EXPECT_LE(std::abs(cycle.dateTime.time().secsTo(row.powerUp)), 1);
+        EXPECT_EQ(cycle.flights.size(), row.flights);
+        for (const RecordFlight& flight : cycle.flights) {
+            EXPECT_NEAR(flight.statistic.minAlt, 372.0, 1.0);
+            EXPECT_GT(flight.statistic.climb, 990.0);
+            EXPECT_NEAR(flight.statistic.distance15, 500.0, 150.0);
+        }
+        std::set<std::string> events;
+        const std::vector<RecordLimit> limits = findLimits(card().recordData(), profile());
+        for (const RecordLimit& limit : limits) {
+            events.insert(limit.name + " " + limit.color.name().toStdString());
+        }
+        // The list is to be read, not scrolled: sensors that hover around a threshold would fill
+        // it.
+        EXPECT_LT(limits.size(), 25U);
+        for (const RecordWarning& warning : findWarnings(card().recordData(), profile())) {
+            events.insert(warning.name + ": " +
+                          warning.value.substr(0, warning.value.find(' ', 3)));
+        }
+        for (const char* event : row.events) {
+            EXPECT_EQ(events.count(event), 1U) << event;
+        }
+        const std::uint32_t words[] = {0x4F0, 0x5F0, 0x3F0};
+        for (std::size_t i = 0; i < row.faults.size(); ++i) {
+            EXPECT_EQ(bitsOf(words[i]) & row.faults[i], row.faults[i]) << words[i];
         }
     }
 }
 
-TEST_F(DemoCard, HasTwoTowsAndARidgeFlightWithSoundFigures)
+/// The largest step between two neighbours, in degrees.
+double largestStep(const std::vector<double>& degrees)
 {
-    std::vector<RecordFlight> all = flights(1);
-    ASSERT_EQ(all.size(), 2U);
-    const std::vector<RecordFlight>& ridge = flights(2);
-    ASSERT_EQ(ridge.size(), 1U);
-    all.push_back(ridge.front());
-    for (const RecordFlight& f : all) {
-        const FlightStatistic& s = f.statistic;
-        ASSERT_TRUE(s.valid);
-        EXPECT_NEAR(s.minAlt, 372.0, 1.0);
-        EXPECT_GT(s.distance, 200.0);
-        EXPECT_LT(s.distance, 400.0);
-        EXPECT_GT(s.distance15, s.distance + 80.0);
-        EXPECT_LT(s.distance15, 650.0);
-        EXPECT_GT(s.climbRate, 1.5);
-        EXPECT_GT(s.fuelA, 2.0);
-        EXPECT_NEAR(s.fuelA, s.fuelB, s.fuelA * 0.1);
+    double largest = 0.0;
+    for (std::size_t i = 1; i < degrees.size(); ++i) {
+        largest = std::max(largest, std::abs(degrees[i] - degrees[i - 1]));
     }
-    EXPECT_NEAR(all[0].statistic.climb, 1010.0, 15.0);
-    EXPECT_NEAR(all[1].statistic.climb, 1040.0, 15.0);
-    EXPECT_LT(all[1].statistic.climbRate, all[0].statistic.climbRate);
-    EXPECT_GT(all[2].statistic.flightTime, 2400.0);
-    EXPECT_GT(all[2].statistic.maxSpeed, 220.0);
-}
-
-/// Whether a parameter enters its warning (1) or limit (2) band in [from, to] seconds.
-bool enters(const std::vector<RecordLimit>& limits, const char* name, const QColor& band,
-            double from, double to)
-{
-    return std::any_of(limits.begin(), limits.end(), [&](const RecordLimit& l) {
-        return l.name == name && l.color == band && l.time >= from && l.time <= to;
-    });
-}
-
-TEST_F(DemoCard, ExceedsAFewLimits)
-{
-    const QColor amber(0xFF, 0xC6, 0x5C);
-    const QColor red(0xFF, 0x80, 0x70);
-    const std::vector<RecordFlight> tows = flights(1);
-    const std::vector<RecordLimit> first = findLimits(card().recordData(), profile());
-    ASSERT_EQ(tows.size(), 2U);
-    const char* oil = "Lane A Oil Temperature";
-    EXPECT_FALSE(enters(first, oil, amber, tows[0].startTime, tows[0].stopTime));
-    EXPECT_TRUE(enters(first, oil, amber, tows[1].startTime, tows[1].stopTime));
-    EXPECT_TRUE(enters(first, oil, red, tows[1].startTime, tows[1].stopTime));
-    EXPECT_TRUE(enters(first, "Airframe Bus Voltage", red, 40.0, 60.0)) << "cranking";
-
-    ASSERT_EQ(card().loadCycle(2, -1), 1);
-    const double end = card().stopTime();
-    const std::vector<RecordLimit> second = findLimits(card().recordData(), profile());
-    EXPECT_TRUE(enters(second, "Lane A Engine Speed", red, 900.0, end)) << "pushing over";
-    EXPECT_TRUE(enters(second, "Airframe Bus Voltage", amber, 2000.0, end)) << "generator";
-    // The list is to be read, not scrolled: sensors that hover around a threshold would fill it.
-    EXPECT_LT(first.size(), 25U);
-    EXPECT_LT(second.size(), 25U);
-}
-
-TEST_F(DemoCard, LightsLampsAndSetsErrorBits)
-{
-    ASSERT_EQ(card().loadCycle(1, -1), 1);
-    std::vector<RecordWarning> lamps = findWarnings(card().recordData(), profile());
-    const auto lit = [&](const char* name, const char* value) {
-        return std::any_of(lamps.begin(), lamps.end(), [&](const RecordWarning& w) {
-            return w.name == name && w.time > 10.0 && w.value.find(value) != std::string::npos;
-        });
-    };
-    EXPECT_TRUE(lit("Lane A Oil Lamp", "amber"));
-    EXPECT_TRUE(lit("Lane A Oil Lamp", "red"));
-    EXPECT_TRUE(lit("Airframe Fuel Lamp", "amber"));
-    EXPECT_EQ(bitsOf(0x4F0), bit(EFaultA::SelfTest) | bit(EFaultA::LaneOff) | bit(EFaultA::OilHot) |
-                                 bit(EFaultA::OilLimit) | bit(EFaultA::SupplyLow));
-
-    ASSERT_EQ(card().loadCycle(2, -1), 1);
-    lamps = findWarnings(card().recordData(), profile());
-    EXPECT_TRUE(lit("Airframe Power Lamp", "amber"));
-    EXPECT_TRUE(lit("Lane B Lane Lamp", "amber"));
-    EXPECT_TRUE((bitsOf(0x4F0) & bit(EFaultA::Overspeed)) != 0);
-    EXPECT_TRUE((bitsOf(0x5F0) & bit(EFaultB::ExhaustSensor)) != 0);
-    EXPECT_TRUE((bitsOf(0x3F0) & bit(EFaultUnit::GeneratorOff)) != 0);
-    EXPECT_TRUE((bitsOf(0x3F0) & bit(EFaultUnit::WorkshopDue)) != 0);
+    return largest;
 }
 
 TEST_F(DemoCard, PositionsJumpAndTheFilterHoldsThem)
 {
-    const std::tuple<std::uint32_t, QString> rows[] = {{1U, QStringLiteral("Latitude")},
-                                                       {2U, QStringLiteral("Longitude")}};
+    const std::pair<std::uint32_t, const char*> rows[] = {{1U, "Latitude"}, {2U, "Longitude"}};
     for (const auto& [cycle, role] : rows) {
         ASSERT_EQ(card().loadCycle(cycle, -1), 1);
-        const ProfileParameter filtered = profile().getParameterFromVelixType(role);
-        ProfileParameter raw = filtered; // decoded without the role, and so without the filter
-        raw.coordinate = ECoordinate::None;
-        profile().resetCoordinates();
-        double filteredStep = 0.0;
-        double rawStep = 0.0;
-        double last = 0.0;
-        double lastRaw = 0.0;
-        for (const RecordEntry& e :
-             card().recordData().entries(static_cast<std::uint32_t>(raw.id))) {
-            const double value = profile().getDouble(e, filtered, true);
-            const double rawValue = Profile::calcCoordinate(profile().getDouble(e, raw, true));
-            if (last != 0.0) {
-                filteredStep = std::max(filteredStep, std::abs(value - last));
-                rawStep = std::max(rawStep, std::abs(rawValue - lastRaw));
-            }
-            last = value;
-            lastRaw = rawValue;
-        }
-        EXPECT_GT(rawStep, 0.15) << role.toStdString();
-        EXPECT_LT(filteredStep, 0.002) << role.toStdString();
+        const ProfileParameter p = profile().getParameterFromVelixType(QLatin1String(role));
+        std::vector<double> filtered;
+        std::vector<double> raw;
+        forEachSample(card().recordData(), p, profile(), [&](const ParameterSample& sample) {
+            filtered.push_back(sample.position());
+            raw.push_back(ParameterSample(sample.entry(), p).position());
+        });
+        EXPECT_GT(largestStep(raw), 0.15) << role;
+        EXPECT_LT(largestStep(filtered), 0.002) << role;
     }
 }
 

@@ -40,8 +40,8 @@ constexpr int kEventMargin = 24; // and the stripe ahead of the text
 
 } // namespace
 
-DialogDataEvents::DialogDataEvents(Profile& profile, DialogService& dialogs, const Texts& texts,
-                                   QWidget* parent)
+DialogDataEvents::DialogDataEvents(const Profile& profile, DialogService& dialogs,
+                                   const Texts& texts, QWidget* parent)
     : QWidget(parent),
       mTable(new CursorTable(kRowHeight, kGridLine, this)),
       mProfile(profile),

@@ -62,11 +62,12 @@ protected:
         QString fileName;  ///< suggested for the list as a file
     };
 
-    DialogDataEvents(Profile& profile, DialogService& dialogs, const Texts& texts, QWidget* parent);
+    DialogDataEvents(const Profile& profile, DialogService& dialogs, const Texts& texts,
+                     QWidget* parent);
     ~DialogDataEvents() override;
 
     /// Fills the record's own list and gives its events by time.
-    virtual Events findEvents(RecordData& record, Profile& profile) const = 0;
+    virtual Events findEvents(RecordData& record, const Profile& profile) const = 0;
     RecordData* record() const { return mRecord; }
 
     void changeEvent(QEvent* event) override;
@@ -96,7 +97,7 @@ private:
     bool mBusy = false; ///< the view itself fills or selects and emits no signal
     CursorTable* mTable = nullptr;
 
-    Profile& mProfile;
+    const Profile& mProfile;
     DialogService& mDialogs;
     const Texts mTexts;
     Events mEvents;      ///< the record's own

@@ -5,7 +5,7 @@
 
 namespace VELIX {
 
-DialogDataLimit::DialogDataLimit(Profile& profile, DialogService& dialogs, QWidget* parent)
+DialogDataLimit::DialogDataLimit(const Profile& profile, DialogService& dialogs, QWidget* parent)
     : DialogDataEvents(profile, dialogs,
                        {tr("Warning/Limit Exceed"),
                         tr("No limit or warning exceeded in this record."),
@@ -19,7 +19,8 @@ void DialogDataLimit::updateProfile()
     updateRecord(record());
 }
 
-DialogDataEvents::Events DialogDataLimit::findEvents(RecordData& record, Profile& profile) const
+DialogDataEvents::Events DialogDataLimit::findEvents(RecordData& record,
+                                                     const Profile& profile) const
 {
     record.limits = findLimits(record, profile);
     Events events;

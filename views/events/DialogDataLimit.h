@@ -10,13 +10,13 @@ class DialogDataLimit final : public DialogDataEvents
     Q_OBJECT
 
 public:
-    DialogDataLimit(Profile& profile, DialogService& dialogs, QWidget* parent = nullptr);
+    DialogDataLimit(const Profile& profile, DialogService& dialogs, QWidget* parent = nullptr);
 
     /// Finds the events again: other thresholds or units give other ones.
     void updateProfile() override;
 
 private:
-    Events findEvents(RecordData& record, Profile& profile) const override;
+    Events findEvents(RecordData& record, const Profile& profile) const override;
 };
 
 } // namespace VELIX

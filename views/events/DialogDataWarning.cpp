@@ -5,7 +5,8 @@
 
 namespace VELIX {
 
-DialogDataWarning::DialogDataWarning(Profile& profile, DialogService& dialogs, QWidget* parent)
+DialogDataWarning::DialogDataWarning(const Profile& profile, DialogService& dialogs,
+                                     QWidget* parent)
     : DialogDataEvents(profile, dialogs,
                        {tr("Warning Lamps"), tr("No warning lamp was lit in this record."),
                         tr("No parameter profile was installed when this record was loaded, so "
@@ -15,7 +16,8 @@ DialogDataWarning::DialogDataWarning(Profile& profile, DialogService& dialogs, Q
                        parent)
 {}
 
-DialogDataEvents::Events DialogDataWarning::findEvents(RecordData& record, Profile& profile) const
+DialogDataEvents::Events DialogDataWarning::findEvents(RecordData& record,
+                                                       const Profile& profile) const
 {
     record.warnings = findWarnings(record, profile);
     Events events;

@@ -10,14 +10,14 @@ class DialogDataWarning final : public DialogDataEvents
     Q_OBJECT
 
 public:
-    DialogDataWarning(Profile& profile, DialogService& dialogs, QWidget* parent = nullptr);
+    DialogDataWarning(const Profile& profile, DialogService& dialogs, QWidget* parent = nullptr);
 
     /// Does nothing: a lamp was lit whatever the profile says now, so the events stay until the
     /// next record.
     void updateProfile() override {}
 
 private:
-    Events findEvents(RecordData& record, Profile& profile) const override;
+    Events findEvents(RecordData& record, const Profile& profile) const override;
 };
 
 } // namespace VELIX

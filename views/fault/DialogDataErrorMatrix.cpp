@@ -18,7 +18,7 @@ constexpr int kGap = 8;
 
 } // namespace
 
-DialogDataErrorMatrix::DialogDataErrorMatrix(Profile& profile, QWidget* parent)
+DialogDataErrorMatrix::DialogDataErrorMatrix(const Profile& profile, QWidget* parent)
     : QWidget(parent),
       mProfile(profile),
       mScrollArea(new QScrollArea(this)),

@@ -24,7 +24,7 @@ class DialogDataErrorMatrix : public QWidget, public DataView
     Q_OBJECT
 
 public:
-    explicit DialogDataErrorMatrix(Profile& profile, QWidget* parent = nullptr);
+    explicit DialogDataErrorMatrix(const Profile& profile, QWidget* parent = nullptr);
 
     /// Makes the panels again from the profile; they have no record then. Of matrices with the same
     /// identifier all are on screen, but only the last one follows record and cursor.
@@ -52,7 +52,7 @@ private slots:
 private:
     void updateHint();
 
-    Profile& mProfile;
+    const Profile& mProfile;
     RecordData* mRecord = nullptr;
     QTimer mUpdateTimer;
     int mMode = 0;

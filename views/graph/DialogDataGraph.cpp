@@ -31,7 +31,7 @@ constexpr int kGap = 4;
 
 } // namespace
 
-DialogDataGraph::DialogDataGraph(Profile& profile, Property& settings, DialogService& dialogs,
+DialogDataGraph::DialogDataGraph(const Profile& profile, Property& settings, DialogService& dialogs,
                                  QWidget* parent)
     : QWidget(parent), mProfile(profile), mDialogs(dialogs), mSettings(settings)
 {

@@ -33,7 +33,7 @@ class DialogDataGraph : public QWidget, public DataView, public Printable
     Q_OBJECT
 
 public:
-    DialogDataGraph(Profile& profile, Property& settings, DialogService& dialogs,
+    DialogDataGraph(const Profile& profile, Property& settings, DialogService& dialogs,
                     QWidget* parent = nullptr);
     ~DialogDataGraph() override;
 
@@ -96,7 +96,7 @@ private:
     void updateHistoryActions();
     void showStatistic(bool on);
 
-    Profile& mProfile;
+    const Profile& mProfile;
     DialogService& mDialogs;
     GraphSettings mSettings;
     GraphData mData;

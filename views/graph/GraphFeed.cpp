@@ -1,15 +1,15 @@
 #include "views/graph/GraphFeed.h"
 
-#include "card/RecordData.h"
+#include "card/SampleWalk.h"
 #include "profile/Profile.h"
-#include "views/common/GraphValues.h"
 #include "views/graph/widget/WidgetGraphBase.h"
 
 #include <algorithm>
 
 namespace VELIX {
 
-GraphFeed::GraphFeed(WidgetGraphBase& graph, Profile& profile) : mGraph(graph), mProfile(profile)
+GraphFeed::GraphFeed(WidgetGraphBase& graph, const Profile& profile)
+    : mGraph(graph), mProfile(profile)
 {
     mGraph.setMaxParameters(kMaxTraces);
 }
@@ -33,8 +33,10 @@ std::size_t GraphFeed::takeParameters()
         const ProfileParameter& parameter = *parameters[i];
         mGraph.setActive(i, true);
         mGraph.setParameterName(i, parameter.name.toStdString());
-        mGraph.setParameterUnit(i, GraphValues::unit(mProfile, parameter));
-        mGraph.setPrecision(i, GraphValues::decimals(mProfile, parameter));
+        const NumberFormat format = mProfile.format(parameter);
+        const QString& unit = format.unit(NumberFormat::EUnitOf::Number);
+        mGraph.setParameterUnit(i, unit.isEmpty() ? "-" : unit.toStdString());
+        mGraph.setPrecision(i, format.decimals());
     }
     return parameters.size();
 }
@@ -51,21 +53,11 @@ void GraphFeed::fill(const RecordData& record) const
 void GraphFeed::fillTrace(unsigned int trace, const ProfileParameter& parameter,
                           const RecordData& record) const
 {
-    const EntryList& entries = record.entries(static_cast<std::uint32_t>(parameter.id));
-    const auto put = [&](const RecordEntry& entry) {
-        mGraph.setTime(entry.time);
-        mGraph.putValue(trace, mProfile.getDouble(entry, parameter, true), false);
-    };
-    mProfile.resetCoordinates(); // positions are judged by those before them
-    if (entries.isSorted()) {
-        for (const RecordEntry& entry : entries) {
-            put(entry);
-        }
-        return;
-    }
-    for (const RecordEntry* entry : entries.sortedByTime()) {
-        put(*entry);
-    }
+    const ProfileDecoder decoder = mProfile.decoder();
+    forEachSampleByTime(record, parameter, mProfile, [&](const ParameterSample& sample) {
+        mGraph.setTime(sample.entry().time);
+        mGraph.putValue(trace, decoder.number(sample), false);
+    });
 }
 
 } // namespace VELIX

@@ -20,7 +20,7 @@ public:
     static constexpr unsigned int kMaxTraces = 30;
 
     /// Both outlive the feed.
-    GraphFeed(WidgetGraphBase& graph, Profile& profile);
+    GraphFeed(WidgetGraphBase& graph, const Profile& profile);
 
     /// Gives one trace to each selected parameter, as far as there is room.
     /// @return the number of parameters selected
@@ -35,7 +35,7 @@ public:
 
 private:
     WidgetGraphBase& mGraph;
-    Profile& mProfile;
+    const Profile& mProfile;
     QStringList mNames; ///< full names of the parameters shown
 };
 

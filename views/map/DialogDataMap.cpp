@@ -5,7 +5,6 @@
 #include "gui/look/Palette.h"
 #include "profile/DataType.h"
 #include "profile/Profile.h"
-#include "views/common/GraphValues.h"
 #include "views/map/MapMenu.h"
 #include "views/map/MapValues.h"
 #include "views/map/WidgetMap.h"
@@ -59,7 +58,7 @@ QString rgba(const QColor& color, double alpha)
 
 } // namespace
 
-DialogDataMap::DialogDataMap(Profile& profile, const CardContainer& card, Property& settings,
+DialogDataMap::DialogDataMap(const Profile& profile, const CardContainer& card, Property& settings,
                              const std::string& dataPath, QWidget* parent)
     : QWidget(parent), mProfile(profile), mCard(card), mSelection(settings)
 {
@@ -257,27 +256,29 @@ void DialogDataMap::fillEntry(DataEntry& entry) const
     const std::size_t after = std::max<std::size_t>(samples.firstAfter(mTime), 1);
     int state = 0;
     QColor color;
-    mProfile.resetCoordinates(); // the true position, wherever the cursor was before
-    const auto [text, unit] = textOf(samples[after - 1], *entry.parameter, state, color);
+    // A sample of its own: the true position, wherever the cursor was before.
+    const ParameterSample sample(samples[after - 1], *entry.parameter);
+    const auto [text, unit] = textOf(sample, state, color);
     entry.value = unit.isEmpty() ? text : text + QChar(0x2009) + unit;
     entry.color = state != 0 ? color : QColor(); // a value in its green band needs no attention
 }
 
 /// In the unit system in use, also whole numbers: beside the legend and the instrument panel one
 /// value is not to come in two units.
-DialogDataMap::TextAndUnit DialogDataMap::textOf(const RecordEntry& sample,
-                                                 const ProfileParameter& parameter, int& state,
+DialogDataMap::TextAndUnit DialogDataMap::textOf(const ParameterSample& sample, int& state,
                                                  QColor& color) const
 {
+    const ProfileParameter& parameter = sample.parameter();
+    const NumberFormat format = mProfile.format(parameter);
     const EExtraction extraction = extractionOf(parameter.dataType);
     const bool isWhole = extraction != EExtraction::None && extraction != EExtraction::Float;
-    if (isWhole && parameter.enumId == 0 && parameter.hasConversion &&
-        mProfile.currentUnit() == eUnitImperial) {
-        const double value = mProfile.getDouble(sample, parameter, state, color, true);
-        return {QString::number(value, 'f', GraphValues::decimals(mProfile, parameter)),
-                mProfile.systemUnit(parameter)};
+    if (isWhole && parameter.enumId == 0 && format.isConverted()) {
+        const double value = mProfile.decoder().number(sample, state, color);
+        return {QString::number(value, 'f', format.decimals()),
+                format.unit(NumberFormat::EUnitOf::Number)};
     }
-    return {mProfile.getDataString(sample, parameter, state, color), mProfile.textUnit(parameter)};
+    return {mProfile.decoder().text(sample, state, color),
+            format.unit(NumberFormat::EUnitOf::Text)};
 }
 
 // --- commands

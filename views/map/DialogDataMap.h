@@ -22,11 +22,11 @@ namespace VELIX {
 
 class CardContainer;
 class MapValues;
+class ParameterSample;
 class Profile;
 class Property;
 class WidgetMap;
 struct ProfileParameter;
-struct RecordEntry;
 
 /// The map beside the views: the path of the record, the aircraft at the cursor, and the values of
 /// some parameters there.
@@ -37,7 +37,7 @@ class DialogDataMap : public QWidget, public DataView
 public:
     /// The card brings the path of its working data. dataPath: folder for tiles and terrain, empty
     /// if nothing is to be kept.
-    DialogDataMap(Profile& profile, const CardContainer& card, Property& settings,
+    DialogDataMap(const Profile& profile, const CardContainer& card, Property& settings,
                   const std::string& dataPath, QWidget* parent = nullptr);
     ~DialogDataMap() override;
 
@@ -85,13 +85,13 @@ private:
     void fillDataLabel();
     void fillDataValue();
     void fillEntry(DataEntry& entry) const;
-    [[nodiscard]] TextAndUnit textOf(const RecordEntry& sample, const ProfileParameter& parameter,
-                                     int& state, QColor& color) const;
+    [[nodiscard]] TextAndUnit textOf(const ParameterSample& sample, int& state,
+                                     QColor& color) const;
     void colorPath();
     void takePath();
     void updateHint();
 
-    Profile& mProfile;
+    const Profile& mProfile;
     const CardContainer& mCard;
     MapContext mContext; ///< with the mode "Center AC"
     MapSelection mSelection;

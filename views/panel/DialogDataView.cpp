@@ -24,8 +24,8 @@ constexpr int kUpdatePeriod = 1000; // ms
 
 } // namespace
 
-DialogDataView::DialogDataView(Profile& profile, CardContainer& card, const DataHandler& paths,
-                               QWidget* parent)
+DialogDataView::DialogDataView(const Profile& profile, CardContainer& card,
+                               const DataHandler& paths, QWidget* parent)
     : QOpenGLWidget(parent),
       mProfile(profile),
       mCard(card),
@@ -115,8 +115,7 @@ double DialogDataView::valueAtCursor(const ProfileParameter& p, const EntryList&
     if (entries.empty() || entries.firstAtOrAfter(mTime) < entries.size()) {
         return mCard.getValue(p, mTime, state, color);
     }
-    mProfile.resetCoordinates();
-    return mProfile.getDouble(entries.back(), p, state, color, true);
+    return mProfile.decoder().number(ParameterSample(entries.back(), p), state, color);
 }
 
 /// Returns the number that the current variant's entry in the profile has as its id.

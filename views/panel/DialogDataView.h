@@ -36,7 +36,7 @@ class DialogDataView : public QOpenGLWidget, public DataView
 public:
     using ViewParameter = VELIX::ViewParameter;
 
-    DialogDataView(Profile& profile, CardContainer& card, const DataHandler& paths,
+    DialogDataView(const Profile& profile, CardContainer& card, const DataHandler& paths,
                    QWidget* parent = nullptr);
     ~DialogDataView() override;
 
@@ -80,7 +80,7 @@ private:
     double valueAtCursor(const ProfileParameter& p, const EntryList& entries, int& state,
                          QColor& color);
 
-    Profile& mProfile;
+    const Profile& mProfile;
     CardContainer& mCard;
     const DataHandler& mPaths;
     std::unique_ptr<Vista2D::VistaView> mView;

@@ -19,7 +19,6 @@ constexpr int kMargin = 16;
 constexpr int kFieldWidth = 216;
 constexpr int kFieldHeight = 44;
 constexpr int kGap = 16;
-constexpr int kMostDecimals = 6;
 // More fields than this could not be read on any screen.
 constexpr int kMostFields = 150;
 // Characters, and labels of all fields together: far below what a view description may have.
@@ -58,27 +57,13 @@ bool canName(const QString& id)
            std::all_of(id.begin(), id.end(), [](QChar c) { return c.isPrint(); });
 }
 
-/// Returns the decimals that distinguish the steps of an integer type, or those that the profile
-/// prescribes.
-int decimalsOf(const ProfileParameter& p, bool isImperial)
-{
-    const double converted = isImperial ? std::fabs(p.toImperial.factor) : 1.0;
-    const double step =
-        p.dataType == eFloat ? std::pow(10.0, -p.precision) : std::fabs(p.factor) * converted;
-    if (!(step > 0.0) || !std::isfinite(step)) {
-        return 0;
-    }
-    return static_cast<int>(
-        std::clamp(std::floor(0.01 - std::log10(step)), 0.0, double(kMostDecimals)));
-}
-
 void writeScales(QTextStream& out, const ProfileParameter& p)
 {
     for (const bool isImperial : {false, true}) {
-        const QString& unit = isImperial && p.hasConversion ? p.unitImperial : p.unitMetric;
+        const NumberFormat format(p, isImperial ? eUnitImperial : eUnitMetric);
         out << "    scale if=\"UNIT " << (isImperial ? "=" : "!=")
-            << " 1\" decimals=" << decimalsOf(p, isImperial)
-            << " unit=" << quoted(unit, kLongestUnit) << "\n";
+            << " 1\" decimals=" << format.decimals(NumberFormat::EDecimals::Step)
+            << " unit=" << quoted(format.unit(NumberFormat::EUnitOf::Number), kLongestUnit) << "\n";
     }
 }
 

@@ -1,6 +1,6 @@
 #include "views/table/DialogDataTable.h"
 
-#include "card/RecordData.h"
+#include "card/SampleWalk.h"
 #include "gui/look/WidgetHint.h"
 #include "profile/Profile.h"
 #include "views/common/CursorTable.h"
@@ -25,7 +25,7 @@ constexpr int kCellMargin = 16;
 
 } // namespace
 
-DialogDataTable::DialogDataTable(Profile& profile, QWidget* parent)
+DialogDataTable::DialogDataTable(const Profile& profile, QWidget* parent)
     : QWidget(parent),
       mProfile(profile),
       mTable(new CursorTable(kLeastRowHeight, kRowMargin, this)),
@@ -119,7 +119,7 @@ void DialogDataTable::fillHeaders()
 {
     QStringList labels;
     for (const auto& column : mColumns) {
-        labels.append(mProfile.columnLabel(column->parameter));
+        labels.append(mProfile.format(column->parameter).label(NumberFormat::EUnitOf::Text));
     }
     if (mMode == 0) {
         mTable->setColumnCount(1 + labels.size());
@@ -189,7 +189,7 @@ void DialogDataTable::fillColumn(int column, const TableColumn& context)
 {
     const EntryList& entries = entriesOf(context);
     if (context.parameter.coordinate != ECoordinate::None) {
-        fillCoordinates(column, context, entries);
+        fillCoordinates(column, context);
         return;
     }
     const bool sorted = entries.isSorted(); // then no row comes again after another one
@@ -212,16 +212,15 @@ void DialogDataTable::fillColumn(int column, const TableColumn& context)
 }
 
 /// A position is judged by those before it, so the texts are made here, in order of time.
-void DialogDataTable::fillCoordinates(int column, const TableColumn& context,
-                                      const EntryList& entries)
+void DialogDataTable::fillCoordinates(int column, const TableColumn& context)
 {
-    mProfile.resetCoordinates();
+    const ProfileDecoder decoder = mProfile.decoder();
     std::size_t row = 0;
-    for (const RecordEntry* entry : entries.sortedByTime()) {
+    forEachSampleByTime(*mRecord, context.parameter, mProfile, [&](const ParameterSample& sample) {
         int state = eThresholdOk;
         QColor color;
-        const QString text = mProfile.getDataString(*entry, context.parameter, state, color);
-        row = mRows.row(rowKey(*entry), row);
+        const QString text = decoder.text(sample, state, color);
+        row = mRows.row(rowKey(sample.entry()), row);
         const int at = static_cast<int>(row);
         auto* item = static_cast<TableTextItem*>(mTable->item(at, column));
         if (item == nullptr) {
@@ -229,7 +228,7 @@ void DialogDataTable::fillCoordinates(int column, const TableColumn& context,
             mTable->setItem(at, column, item);
         }
         item->setValue(text, valueBackground(state, color));
-    }
+    });
 }
 
 const EntryList& DialogDataTable::entriesOf(const TableColumn& column) const
@@ -293,11 +292,10 @@ void DialogDataTable::slotTimeout()
                 item = new TableTextItem;
                 mTable->setItem(row, 0, item);
             }
-            mProfile.resetCoordinates();
             int state = eThresholdOk;
             QColor color;
-            const QString text =
-                mProfile.getDataString(list->last, column->parameter, state, color);
+            const QString text = mProfile.decoder().text(
+                ParameterSample(list->last, column->parameter), state, color);
             item->setValue(text, valueBackground(state, color));
         }
         ++row;

@@ -26,7 +26,7 @@ class DialogDataTable : public QWidget, public DataView
     Q_OBJECT
 
 public:
-    explicit DialogDataTable(Profile& profile, QWidget* parent = nullptr);
+    explicit DialogDataTable(const Profile& profile, QWidget* parent = nullptr);
     ~DialogDataTable() override;
 
     void setTime(double seconds) override;
@@ -63,12 +63,12 @@ private:
     void calcTime();
     void fillTime();
     void fillColumn(int column, const TableColumn& context);
-    void fillCoordinates(int column, const TableColumn& context, const EntryList& entries);
+    void fillCoordinates(int column, const TableColumn& context);
     void fitColumns();
     void updateHint();
     const EntryList& entriesOf(const TableColumn& column) const;
 
-    Profile& mProfile;
+    const Profile& mProfile;
     TimeRows mRows;
     std::vector<std::unique_ptr<TableColumn>> mColumns; ///< cells point into them
     RecordData* mRecord = nullptr;

@@ -29,16 +29,14 @@ QString TableTimeItem::cellText() const
 
 QString TableValueItem::cellText() const
 {
-    int state = eThresholdOk;
-    QColor color;
-    return mColumn->profile.getDataString(*mEntry, mColumn->parameter, state, color);
+    return mColumn->profile.decoder().text(ParameterSample(*mEntry, mColumn->parameter));
 }
 
 QColor TableValueItem::cellBackground() const
 {
     int state = eThresholdOk;
     QColor color;
-    mColumn->profile.getDataState(*mEntry, mColumn->parameter, state, color);
+    mColumn->profile.decoder().judge(ParameterSample(*mEntry, mColumn->parameter), state, color);
     return valueBackground(state, color);
 }
 

@@ -14,7 +14,7 @@ struct RecordEntry;
 /// profile may be loaded again while the table is on screen.
 struct TableColumn
 {
-    Profile& profile;
+    const Profile& profile;
     ProfileParameter parameter;
 };
 

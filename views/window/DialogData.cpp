@@ -42,16 +42,16 @@ const DataHandler& pathsWithoutHome()
 
 } // namespace
 
-DialogData::DialogData(Profile& profile, CardContainer& card, bool emuOnly, QWidget* parent)
+DialogData::DialogData(const Profile& profile, CardContainer& card, bool emuOnly, QWidget* parent)
     : DialogData(profile, card, Property::instance(), StandardDialogs::instance(), emuOnly, parent)
 {}
 
-DialogData::DialogData(Profile& profile, CardContainer& card, Property& settings,
+DialogData::DialogData(const Profile& profile, CardContainer& card, Property& settings,
                        DialogService& dialogs, bool emuOnly, QWidget* parent)
     : DialogData(profile, card, settings, dialogs, pathsWithoutHome(), emuOnly, parent)
 {}
 
-DialogData::DialogData(Profile& profile, CardContainer& card, Property& settings,
+DialogData::DialogData(const Profile& profile, CardContainer& card, Property& settings,
                        DialogService& dialogs, const DataHandler& paths, bool emuOnly,
                        QWidget* parent)
     : QWidget(parent),

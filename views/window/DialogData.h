@@ -38,12 +38,14 @@ class DialogData : public QWidget
 public:
     /// emuOnly: hides what only someone at a desk needs (time of day, position, time editor).
     /// Without a home: it reads the resources beside the program, but keeps no files.
-    DialogData(Profile& profile, CardContainer& card, bool emuOnly, QWidget* parent = nullptr);
+    DialogData(const Profile& profile, CardContainer& card, bool emuOnly,
+               QWidget* parent = nullptr);
     /// The same with settings, and with dialogs that ask the user on behalf of the views.
-    DialogData(Profile& profile, CardContainer& card, Property& settings, DialogService& dialogs,
-               bool emuOnly, QWidget* parent = nullptr);
-    DialogData(Profile& profile, CardContainer& card, Property& settings, DialogService& dialogs,
-               const DataHandler& paths, bool emuOnly, QWidget* parent = nullptr);
+    DialogData(const Profile& profile, CardContainer& card, Property& settings,
+               DialogService& dialogs, bool emuOnly, QWidget* parent = nullptr);
+    DialogData(const Profile& profile, CardContainer& card, Property& settings,
+               DialogService& dialogs, const DataHandler& paths, bool emuOnly,
+               QWidget* parent = nullptr);
 
     /// Shows the record that the card holds now, if any; the cursor goes to its start.
     void updateRecord();
@@ -99,7 +101,7 @@ private:
     void updateTime();
     void updateDisplay();
 
-    Profile& mProfile;
+    const Profile& mProfile;
     CardContainer& mCard;
     ReplayClock mClock;
     CursorRoutes mRoutes;

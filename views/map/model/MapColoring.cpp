@@ -1,6 +1,6 @@
 #include "views/map/model/MapColoring.h"
 
-#include "card/RecordData.h"
+#include "card/SampleWalk.h"
 #include "profile/Profile.h"
 #include "views/map/model/MapTexts.h"
 
@@ -88,15 +88,14 @@ bool isWhole(double value)
     return !std::isfinite(value) || value == std::round(value);
 }
 
-/// The decimals that tell the ends of a scale apart.
+/// The decimals that distinguish the ends of a scale.
 int decimalsOf(const std::vector<double>& values)
 {
     if (std::all_of(values.begin(), values.end(), isWhole)) {
         return 0;
     }
     const auto [lowest, highest] = rangeOf(values);
-    const double span = highest - lowest;
-    return span >= 20.0 || span <= 0.0 ? 0 : span >= 2.0 ? 1 : 2;
+    return NumberFormat::decimalsOfSpan(highest - lowest);
 }
 
 /// An enumeration's values have names.
@@ -147,39 +146,41 @@ MapColoring MapColoring::byAltitude(const std::vector<FlightPathPoint>& path, bo
 }
 
 MapColoring MapColoring::byParameter(const std::vector<FlightPathPoint>& path,
-                                     const RecordData& record, Profile& profile,
+                                     const RecordData& record, const Profile& profile,
                                      const ProfileParameter& parameter)
 {
-    const auto entries = record.entries(static_cast<std::uint32_t>(parameter.id)).sortedByTime();
+    const ProfileDecoder decoder = profile.decoder();
     std::vector<double> values;
     std::vector<QRgb> judged(path.size(), 0);
     std::map<int, QRgb> passed; // by state: the milder one first
     values.reserve(path.size());
-    profile.resetCoordinates();
     double value = std::nan("");
     int state = 0;
     QColor color;
-    const auto take = [&](const RecordEntry& entry) {
-        state = 0;
-        color = QColor();
-        value = profile.getDouble(entry, parameter, state, color, true);
-    };
-    auto next = entries.begin();
-    if (next != entries.end()) {
-        take(**next++);
-    }
-    for (std::size_t i = 0; i < path.size(); ++i) {
-        for (; next != entries.end() && (*next)->time <= path[i].time; ++next) {
-            take(**next);
-        }
-        values.push_back(value);
+    const auto takePoint = [&] {
         if (state != 0 && color.isValid()) {
-            judged[i] = color.rgb();
+            judged[values.size()] = color.rgb();
             passed.emplace(state, color.rgb());
         }
+        values.push_back(value);
+    };
+    bool first = true;
+    forEachSampleByTime(record, parameter, profile, [&](const ParameterSample& sample) {
+        while (!first && values.size() < path.size() &&
+               path[values.size()].time < sample.entry().time) {
+            takePoint();
+        }
+        first = false;
+        state = 0;
+        color = QColor();
+        value = decoder.number(sample, state, color);
+    });
+    while (values.size() < path.size()) {
+        takePoint();
     }
     MapColoring result = coloring(MapTexts::label(profile, parameter),
-                                  profile.systemUnit(parameter), decimalsOf(values), values);
+                                  profile.format(parameter).unit(NumberFormat::EUnitOf::List),
+                                  decimalsOf(values), values);
     for (std::size_t i = 0; i < path.size(); ++i) {
         if (judged[i] != 0) {
             result.colors[i] = judged[i];

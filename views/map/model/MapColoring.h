@@ -25,7 +25,7 @@ public:
     /// By the value that a parameter had at each point; where it passes a threshold, in the
     /// threshold's colour. Points before its first sample take that one.
     static MapColoring byParameter(const std::vector<FlightPathPoint>& path,
-                                   const RecordData& record, Profile& profile,
+                                   const RecordData& record, const Profile& profile,
                                    const ProfileParameter& parameter);
 
     /// The colour at 0 (lowest value) to 1 (highest) of the scale.
