@@ -27,7 +27,7 @@ public:
                 mGiven = true;
                 mAnswer(*dialog);
             } else if (modal != nullptr && ++mTicks > kMostTicks) {
-                modal->close(); // nobody else would, and the test waits
+                modal->close(); // or the test would wait for ever
             }
         });
         mTimer.start();

@@ -142,6 +142,8 @@ TEST_F(ProgramTest, FindsProjectCardAndChoicesAgain)
     select(0, 0);
     EXPECT_EQ(headings(), "Time | Ground Speed | Oil Temp [F]");
     EXPECT_TRUE(table().item(0, 2)->text().startsWith(QStringLiteral("194."))); // 90 C
+    EXPECT_EQ(find<QTreeWidget>("treeParameters").topLevelItem(1)->child(0)->text(0),
+              QStringLiteral("Oil Temp [F]"));
     action(eActionQuit).trigger();
     EXPECT_FALSE(window->isVisible());
     EXPECT_FALSE(readFile(file).contains("Ground Speed"));

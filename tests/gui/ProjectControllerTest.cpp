@@ -32,7 +32,6 @@ protected:
     }
 
     TestProgram program;
-    Outcome outcome; ///< of the last operation
     ProjectController controller{program.project, program.settings, program.dialogs, nullptr};
 };
 
@@ -45,28 +44,24 @@ const QString kQuestion =
 
 TEST_F(ProjectControllerTest, AFileThatIsNoProjectNeverBecomesTheOneOfSave)
 {
-    const QString profile = file("Profile.xml");
-    ASSERT_TRUE(demoProfile().write(profile));
-    const QByteArray before = readFile(profile);
-    program.dialogs.file = profile;
-    EXPECT_TRUE((outcome = controller.openProject()).ok);
+    ASSERT_TRUE(demoProfile().write(file("Profile.xml")));
+    const QByteArray before = readFile(file("Profile.xml"));
+    program.dialogs.file = file("Profile.xml");
+    const Outcome opened = controller.openProject();
+    EXPECT_TRUE(opened.ok);
+    EXPECT_FALSE(opened.reason.isEmpty());
     EXPECT_EQ(controller.file(), runFile());
-    EXPECT_FALSE(outcome.reason.isEmpty());
-    choose(kSpeedId);
-    EXPECT_TRUE((outcome = controller.saveProject(false)).ok);
-    EXPECT_EQ(readFile(profile), before);
     EXPECT_EQ(program.storedSetting("LastProjectPath"), runFile()); // proposed by "Save as"
+    EXPECT_TRUE(controller.saveProject(false).ok);
+    EXPECT_EQ(readFile(file("Profile.xml")), before);
 }
 
 TEST_F(ProjectControllerTest, KeepsARunFileThatItCannotRead)
 {
-    EXPECT_EQ(controller.file(), runFile());
-    EXPECT_EQ(program.storedSetting("LastProjectPath"), runFile());
-    EXPECT_FALSE((outcome = controller.readLast()).ok) << "the first run has none";
-    EXPECT_TRUE(outcome.reason.isEmpty());
+    const Outcome first = controller.readLast();
+    EXPECT_TRUE(!first.ok && first.reason.isEmpty()) << "the first run has none";
     ASSERT_TRUE(writeFile(runFile(), "<VelixProject><Para"));
-    EXPECT_FALSE((outcome = controller.readLast()).ok);
-    EXPECT_FALSE(outcome.reason.isEmpty());
+    EXPECT_FALSE(controller.readLast().reason.isEmpty());
     choose(kSpeedId);
     controller.saveOnQuit();
     EXPECT_TRUE(holds(runFile(), kSpeed));
@@ -76,60 +71,54 @@ TEST_F(ProjectControllerTest, KeepsARunFileThatItCannotRead)
 TEST_F(ProjectControllerTest, SavesWithoutAskingAndAsksForANewName)
 {
     choose(kSpeedId);
-    EXPECT_TRUE((outcome = controller.saveProject(false)).ok);
+    EXPECT_TRUE(controller.saveProject(false).ok);
     EXPECT_TRUE(program.dialogs.takeAsked().isEmpty());
     EXPECT_TRUE(holds(runFile(), kSpeed));
     EXPECT_FALSE(controller.isModified());
 
-    EXPECT_FALSE((outcome = controller.saveProject(true)).ok); // cancelled
+    EXPECT_TRUE(controller.saveProject(true).cancelled);
     EXPECT_EQ(controller.file(), runFile());
     EXPECT_EQ(program.dialogs.lastStart, runFile());
-    EXPECT_EQ(program.dialogs.lastFilter, QStringLiteral("Project Files (*.xml)"));
+    EXPECT_EQ(program.dialogs.takeAsked(), QStringList(QStringLiteral("Save VELIX Project")));
 
     program.dialogs.file = file("mine");
-    EXPECT_TRUE((outcome = controller.saveProject(true)).ok);
-    EXPECT_EQ(program.dialogs.takeAsked().value(1), QStringLiteral("Save VELIX Project"));
+    EXPECT_TRUE(controller.saveProject(true).ok);
     EXPECT_EQ(controller.file(), file("mine.xml"));
     EXPECT_EQ(program.storedSetting("LastProjectPath"), file("mine.xml"));
-
     choose(kOilId);
-    EXPECT_TRUE((outcome = controller.saveProject(false)).ok); // goes to that file from now on
+    EXPECT_TRUE(controller.saveProject(false).ok); // goes to that file from now on
     EXPECT_TRUE(holds(file("mine.xml"), kOil));
     EXPECT_TRUE(holds(runFile(), kSpeed));
-}
 
-TEST_F(ProjectControllerTest, DoesNotReplaceAFileThatTheUserDidNotName)
-{
-    ASSERT_TRUE(writeFile(file("other.xml"), "mine"));
+    // A file that the user did not name is replaced on request alone.
+    ASSERT_TRUE(writeFile(file("other.xml"), "theirs"));
     program.dialogs.file = file("other");
-    EXPECT_FALSE((outcome = controller.saveProject(true)).ok);
-    EXPECT_EQ(readFile(file("other.xml")), QByteArray("mine"));
-    program.dialogs.agrees = true;
-    EXPECT_TRUE((outcome = controller.saveProject(true)).ok);
-    EXPECT_TRUE(holds(file("other.xml"), "VelixProject"));
+    for (const bool agrees : {false, true}) {
+        program.dialogs.agrees = agrees;
+        EXPECT_EQ(controller.saveProject(true).ok, agrees);
+        EXPECT_EQ(holds(file("other.xml"), "theirs"), !agrees);
+    }
 }
 
 TEST_F(ProjectControllerTest, NewAndOpenAskAboutUnsavedChangesOnly)
 {
-    EXPECT_TRUE((outcome = controller.newProject()).ok);
+    EXPECT_TRUE(controller.newProject().ok);
     EXPECT_TRUE(program.dialogs.takeAsked().isEmpty());
 
     choose(kSpeedId);
     program.dialogs.answer = DialogService::Answer::Cancel;
-    EXPECT_FALSE((outcome = controller.newProject()).ok);
-    EXPECT_FALSE((outcome = controller.openProject()).ok);
+    EXPECT_TRUE(controller.newProject().cancelled);
+    EXPECT_TRUE(controller.openProject().cancelled);
     EXPECT_EQ(program.dialogs.takeAsked(), (QStringList{kQuestion, kQuestion}));
     EXPECT_TRUE(controller.isModified());
-    EXPECT_EQ(program.selection(), QLatin1String(kSpeed));
 
     program.dialogs.answer = DialogService::Answer::Yes;
-    EXPECT_TRUE((outcome = controller.newProject()).ok);
+    EXPECT_TRUE(controller.newProject().ok);
     EXPECT_TRUE(holds(runFile(), kSpeed));
     EXPECT_EQ(program.selection(), QString());
-
     choose(kOilId);
     program.dialogs.answer = DialogService::Answer::No;
-    EXPECT_TRUE((outcome = controller.newProject()).ok);
+    EXPECT_TRUE(controller.newProject().ok);
     EXPECT_TRUE(holds(runFile(), kSpeed));
 }
 
@@ -137,13 +126,11 @@ TEST_F(ProjectControllerTest, AFailedSaveDoesNotGoOnToNew)
 {
     choose(kSpeedId);
     program.dialogs.file = file("none/there.xml");
-    EXPECT_FALSE((outcome = controller.saveProject(true)).ok);
-    EXPECT_TRUE(outcome.reason.contains(file("none/there.xml")));
+    EXPECT_TRUE(controller.saveProject(true).reason.contains(file("none/there.xml")));
     EXPECT_EQ(controller.file(), runFile());
-
-    ASSERT_TRUE(QDir().mkpath(runFile())); // a folder in the place of the file
+    ASSERT_TRUE(QDir().mkpath(runFile())); // a folder instead of the file
     program.dialogs.answer = DialogService::Answer::Yes;
-    EXPECT_FALSE((outcome = controller.newProject()).ok);
+    EXPECT_FALSE(controller.newProject().ok);
     EXPECT_EQ(program.selection(), QLatin1String(kSpeed));
     EXPECT_TRUE(controller.isModified());
 }
@@ -155,19 +142,18 @@ TEST_F(ProjectControllerTest, OpeningMakesThatFileTheOneThatIsSaved)
     program.dialogs.answer = DialogService::Answer::No;
     program.dialogs.file = file("a.xml");
     choose(kSpeedId);
-    EXPECT_TRUE((outcome = controller.openProject()).ok);
+    EXPECT_TRUE(controller.openProject().ok);
     EXPECT_EQ(program.dialogs.takeAsked().value(1), QStringLiteral("Open VELIX Project"));
     EXPECT_EQ(program.selection(), QLatin1String(kOil));
-    EXPECT_EQ(controller.file(), file("a.xml"));
     EXPECT_EQ(program.storedSetting("LastProjectPath"), file("a.xml"));
+    controller.saveOnQuit();
+    EXPECT_TRUE(holds(runFile(), kOil));
 
     program.dialogs.file = file("missing.xml");
-    EXPECT_FALSE((outcome = controller.openProject()).ok);
-    EXPECT_FALSE(outcome.reason.isEmpty());
+    EXPECT_FALSE(controller.openProject().reason.isEmpty());
     EXPECT_EQ(controller.file(), file("a.xml"));
     EXPECT_EQ(program.selection(), QLatin1String(kOil));
-
-    EXPECT_TRUE((outcome = controller.newProject()).ok);
+    EXPECT_TRUE(controller.newProject().ok);
     EXPECT_EQ(controller.file(), runFile());
 }
 
@@ -177,19 +163,13 @@ TEST_F(ProjectControllerTest, QuittingWritesTheRunsOwnFileAndNoOther)
     EXPECT_FALSE(QFile::exists(runFile())) << "nothing was done";
     choose(kOilId);
     program.dialogs.file = file("a.xml");
-    ASSERT_TRUE((outcome = controller.saveProject(true)).ok);
+    ASSERT_TRUE(controller.saveProject(true).ok);
     const QByteArray saved = readFile(file("a.xml"));
     controller.saveOnQuit();
     EXPECT_TRUE(holds(runFile(), kOil)) << "saved elsewhere";
     choose(kSpeedId);
-    program.dialogs.takeAsked();
     controller.saveOnQuit();
-    EXPECT_TRUE(program.dialogs.takeAsked().isEmpty());
+    EXPECT_EQ(program.dialogs.takeAsked().size(), 1) << "when saving";
     EXPECT_TRUE(holds(runFile(), kSpeed));
     EXPECT_EQ(readFile(file("a.xml")), saved);
-
-    ASSERT_TRUE((outcome = controller.openProject()).ok);
-    ASSERT_TRUE(QFile::remove(runFile()));
-    controller.saveOnQuit();
-    EXPECT_TRUE(holds(runFile(), kOil)) << "opened from elsewhere";
 }

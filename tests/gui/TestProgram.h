@@ -104,7 +104,7 @@ struct TestProgram
         initResources();
         paths.init(home.path().toUtf8().constData(), home.path().toStdString());
         settings.setConfigFile(data("VELIX.ini").toStdString());
-        settings.setString("TileServer", ""); // what the map cannot fetch it would tell the log
+        settings.setString("TileServer", ""); // what the map cannot fetch would go into the log
     }
 
     /// A file in the program's own folder.

@@ -32,7 +32,7 @@ TEST(DialogSplash, WritesItsLastFifteenLinesFifteenPixelsApart)
         }
     }
     for (int line = 0; line < 15; ++line) {
-        const int baseline = 30 + 15 * line; // which the E stands on
+        const int baseline = 30 + 15 * line; // at the foot of the E
         EXPECT_TRUE(rows.count(baseline - 1)) << line;
         EXPECT_FALSE(rows.count(baseline)) << line;
     }

@@ -46,7 +46,7 @@ TEST(CardTexts, ClockDoesNotWrapAndSurvivesDamage)
     }
 }
 
-TEST(CardTexts, CycleTellsNameStartAndLengthFromFirstStartToLastStop)
+TEST(CardTexts, CycleShowsNameStartAndLengthFromFirstStartToLastStop)
 {
     RecordCycle cycle;
     EXPECT_EQ(CardTexts::cycle(cycle), QStringLiteral(" Unknown Date (00:00:00)"));
@@ -57,7 +57,7 @@ TEST(CardTexts, CycleTellsNameStartAndLengthFromFirstStartToLastStop)
     EXPECT_EQ(CardTexts::cycle(cycle), QStringLiteral("Cycle 3 2.3.2024 8:01:02 (01:01:01)"));
 }
 
-TEST(CardTexts, FlightTellsTakeOffAndFlightTime)
+TEST(CardTexts, FlightShowsTakeOffAndFlightTime)
 {
     RecordFlight flight;
     flight.takeoffTime = 4000.0;

@@ -90,10 +90,12 @@ TEST_F(DialogCardTest, ListsCyclesAndFilesInCardOrder)
     EXPECT_EQ(raw.topLevelItem(0)->child(10)->text(0), QStringLiteral("Samples Total: 360"));
 }
 
-TEST_F(DialogCardTest, LoadsOnceAfterAQuickSweepOverFiles)
+TEST_F(DialogCardTest, LoadsOnlyTheLastChoiceOfAQuickSweep)
 {
     openCard();
     QTreeWidget& raw = tree("treeRaw");
+    QTreeWidget& cycles = tree("treeCycles");
+    cycles.setCurrentItem(cycles.topLevelItem(0));
     for (int i = 2; i >= 0; --i) { // from the last to the first
         raw.topLevelItem(i)->setSelected(true);
         QTest::qWait(kMarginMs);
@@ -106,6 +108,11 @@ TEST_F(DialogCardTest, LoadsOnceAfterAQuickSweepOverFiles)
         names.append(CardContainer::name(path));
     }
     EXPECT_EQ(names.join(QLatin1Char(' ')), QStringLiteral("0001.CAN 0002.CAN 0003.CAN"));
+
+    cycles.setCurrentItem(cycles.topLevelItem(1));
+    dialog.reloadCardInfo(); // another card
+    rest();
+    EXPECT_EQ(loadsCycle.count(), 0);
 }
 
 TEST_F(DialogCardTest, ShowsFlightsBelowALoadedCycleAndKeepsThemWhenOneIsChosen)
@@ -138,23 +145,6 @@ TEST_F(DialogCardTest, ShowsFlightsBelowALoadedCycleAndKeepsThemWhenOneIsChosen)
     rest();
     EXPECT_EQ(cycle->child(1), flight);
     EXPECT_FALSE(cycle->isExpanded());
-}
-
-TEST_F(DialogCardTest, OnlyTheLastChoiceIsLoaded)
-{
-    openCard();
-    QTreeWidget& cycles = tree("treeCycles");
-    cycles.setCurrentItem(cycles.topLevelItem(0));
-    tree("treeRaw").topLevelItem(2)->setSelected(true);
-    EXPECT_TRUE(cycles.selectedItems().isEmpty());
-    rest();
-    EXPECT_EQ(loadsCycle.count(), 0);
-    EXPECT_EQ(loadsFiles->count(), 1);
-
-    cycles.setCurrentItem(cycles.topLevelItem(1));
-    dialog.reloadCardInfo(); // another card
-    rest();
-    EXPECT_EQ(loadsCycle.count(), 0);
 }
 
 TEST_F(DialogCardTest, IsUsedByKeyboardAndCopies)

@@ -44,7 +44,7 @@ bool hasInkOnItsEdge(const QImage& image)
     return false;
 }
 
-TEST(ImageHandler, DrawsEveryPictureInTheColoursOfItsLook)
+TEST(ImageHandler, DrawsEveryImageInTheColoursOfItsLook)
 {
     for (const Palette* palette : {&Palette::light(), &Palette::dark()}) {
         const ImageHandler handler(*palette);
@@ -73,8 +73,8 @@ TEST(ImageHandler, DrawsWhatMeansSomethingInItsColour)
                                                    {"warning", Palette::dark().warning},
                                                    {"limit", Palette::dark().limit}};
     for (const auto& [name, color] : rows) {
-        const QImage picture = draw(handler.icon(QLatin1String(name)), 48, QIcon::Normal);
-        EXPECT_GT(opaquePixels(picture, color), 8) << name;
+        const QImage image = draw(handler.icon(QLatin1String(name)), 48, QIcon::Normal);
+        EXPECT_GT(opaquePixels(image, color), 8) << name;
     }
     EXPECT_TRUE(handler.icon(QStringLiteral("nosuch")).isNull());
 }
@@ -82,7 +82,7 @@ TEST(ImageHandler, DrawsWhatMeansSomethingInItsColour)
 TEST(ImageHandler, DrawsInDevicePixels)
 {
     const QIcon icon = ImageHandler(Palette::light()).icon(QStringLiteral("tab-data"));
-    // At ratio 2 the picture is the one of twice the size, not a blown-up one.
+    // At ratio 2 the image is the one of twice the size, not a blown-up one.
     QImage fine = draw(icon, 16, QIcon::Normal, 2.0);
     fine.setDevicePixelRatio(1.0);
     EXPECT_EQ(fine, draw(icon, 32, QIcon::Normal));

@@ -12,7 +12,7 @@ struct Pair
 {
     const char* name;
     QColor Palette::*text;
-    QColor Palette::*ground;
+    QColor Palette::*background;
     double least;
 };
 
@@ -43,7 +43,7 @@ TEST(Palette, KeepsEveryTextReadableInBothLooks)
 {
     for (const Palette* palette : {&Palette::light(), &Palette::dark()}) {
         for (const Pair& pair : Pairs) {
-            EXPECT_GE(Palette::contrast(palette->*pair.text, palette->*pair.ground), pair.least)
+            EXPECT_GE(Palette::contrast(palette->*pair.text, palette->*pair.background), pair.least)
                 << pair.name << (palette == &Palette::dark() ? ", dark" : ", light");
         }
         EXPECT_LT(Palette::contrast(palette->disabledText, palette->window),
@@ -59,14 +59,14 @@ TEST(Palette, MeasuresContrastAsWcagDoes)
     EXPECT_NEAR(Palette::contrast(QColor(0x77, 0x77, 0x77), Qt::white), 4.48, 0.01);
 }
 
-TEST(Palette, FindsReadableTextForEveryGroundThatDataMayBring)
+TEST(Palette, FindsReadableTextForEveryBackgroundThatDataMayBring)
 {
     for (int red = 0; red <= 255; red += 15) {
         for (int green = 0; green <= 255; green += 15) {
             for (int blue = 0; blue <= 255; blue += 15) {
-                const QColor ground(red, green, blue);
-                ASSERT_GE(Palette::contrast(Palette::textOn(ground), ground), Readable)
-                    << ground.name().toStdString();
+                const QColor background(red, green, blue);
+                ASSERT_GE(Palette::contrast(Palette::textOn(background), background), Readable)
+                    << background.name().toStdString();
             }
         }
     }

@@ -106,7 +106,7 @@ TEST_F(DialogProfileTest, ATickIsInTheProfileAtOnceAndBlinksUntilConfirmed)
     EXPECT_FALSE(blinks());
 }
 
-TEST_F(DialogProfileTest, ClearTakesAllTicksAndTellsOnce)
+TEST_F(DialogProfileTest, ClearTakesAllTicksAndSignalsOnce)
 {
     ProfileBuilder::selectAll(program.profile);
     dialog.updateProject();
@@ -120,46 +120,37 @@ TEST_F(DialogProfileTest, ClearTakesAllTicksAndTellsOnce)
     EXPECT_FALSE(blinks());
 }
 
-TEST_F(DialogProfileTest, SearchFindsByNameAndByDevice)
-{
-    const struct
-    {
-        const char* text;
-        const char* lines;
-    } rows[] = {{"oil", "[ ] 2 Lane A\n  [ ] Oil Temp [C]"},
-                {" FLAP ", "[ ] 1 Airframe\n  [ ] Flaps"},
-                {"airframe", "[ ] 1 Airframe\n  [ ] Ground Speed\n  [ ] Flaps"},
-                {"nothing", ""}};
-    for (const auto& row : rows) {
-        search(row.text);
-        EXPECT_EQ(lines().toStdString(), row.lines) << row.text;
-    }
-    for (const char* text : {"flaps", ""}) { // what it hides is not to be ticked with its device
-        search(text);
-        EXPECT_EQ(tree().topLevelItem(0)->flags().testFlag(Qt::ItemIsUserCheckable), *text == 0);
-    }
-    EXPECT_FALSE(blinks());
-}
-
-TEST_F(DialogProfileTest, CountsWhatIsSelectedAndSelectsWhatIsShown)
+TEST_F(DialogProfileTest, SearchFindsByNameAndByDeviceAndSelectsWhatItFinds)
 {
     const auto& count = *dialog.findChild<QLabel*>(QStringLiteral("countParameters"));
     const struct
     {
-        const char* filter;
+        const char* text;
+        const char* lines;
         int entry; ///< of the context menu: all or none shown
         const char* selection;
         const char* count;
-    } rows[] = {{"oil", 0, "Lane A/Oil Temp", "1 of 3 selected"},
-                {"airframe", 0, "Airframe/Ground Speed, Airframe/Flaps, Lane A/Oil Temp",
-                 "3 of 3 selected"},
-                {"flaps", 1, "Airframe/Ground Speed, Lane A/Oil Temp", "2 of 3 selected"},
-                {"", 1, "", "0 of 3 selected"}};
+        bool deviceCanBeTicked; ///< not with what the search hides
+    } rows[] = {
+        {"oil", "[ ] 2 Lane A\n  [ ] Oil Temp [C]", 0, "Lane A/Oil Temp", "1 of 3 selected", false},
+        {"nothing", "", 0, "Lane A/Oil Temp", "1 of 3 selected", false},
+        {"airframe", "[ ] 1 Airframe\n  [ ] Ground Speed\n  [ ] Flaps", 0,
+         "Airframe/Ground Speed, Airframe/Flaps, Lane A/Oil Temp", "3 of 3 selected", true},
+        {" FLAP ", "[x] 1 Airframe\n  [x] Flaps", 1, "Airframe/Ground Speed, Lane A/Oil Temp",
+         "2 of 3 selected", false},
+        {"", "[-] 1 Airframe\n  [x] Ground Speed\n  [ ] Flaps\n[x] 2 Lane A\n  [x] Oil Temp [C]", 1,
+         "", "0 of 3 selected", true},
+    };
+    EXPECT_FALSE(blinks());
     for (const auto& row : rows) {
-        search(row.filter);
+        search(row.text);
+        EXPECT_EQ(lines().toStdString(), row.lines) << row.text;
+        EXPECT_EQ(tree().topLevelItem(0)->flags().testFlag(Qt::ItemIsUserCheckable),
+                  row.deviceCanBeTicked)
+            << row.text;
         tree().actions().at(row.entry)->trigger();
-        EXPECT_EQ(program.selection(), QLatin1String(row.selection));
-        EXPECT_EQ(count.text(), QLatin1String(row.count));
+        EXPECT_EQ(program.selection(), QLatin1String(row.selection)) << row.text;
+        EXPECT_EQ(count.text(), QLatin1String(row.count)) << row.text;
     }
     EXPECT_TRUE(blinks());
     EXPECT_EQ(changes.count(), 0); // not confirmed yet

@@ -37,71 +37,59 @@ const QByteArray kProfile = "<CanAerospaceProfile name='New &lt;b&gt;' version='
 
 } // namespace
 
-TEST_F(ProfileInstallTest, ReplacesTheInstalledProfileOnlyByAProfile)
+TEST_F(ProfileInstallTest, KnowsAProfileFromOtherFiles)
 {
-    ASSERT_TRUE(program.installProfile());
-    const QByteArray before = installed();
-    for (const char* text : {"<Other/>", "<CanAerospaceProfile>", ""}) {
-        EXPECT_FALSE(ProfileInstaller::isProfile(chosen(text))) << text;
-        EXPECT_EQ(installed(), before) << text;
-    }
+    EXPECT_TRUE(ProfileInstaller::isProfile(chosen(kProfile)));
     const QByteArray deep = QByteArray("<a>").repeated(50000) + QByteArray("</a>").repeated(50000);
+    for (const QByteArray& text : {QByteArray("<Other/>"), QByteArray("<CanAerospaceProfile>"),
+                                   "<CanAerospaceProfile>" + deep + "</CanAerospaceProfile>"}) {
+        EXPECT_FALSE(ProfileInstaller::isProfile(chosen(text))) << text.left(50).constData();
+    }
     QFile huge(program.home.filePath(QStringLiteral("huge.xml")));
     ASSERT_TRUE(huge.open(QIODevice::WriteOnly));
     ASSERT_TRUE(huge.resize(qint64(2) << 30));
-    for (const QString& file : {chosen("<CanAerospaceProfile>" + deep + "</CanAerospaceProfile>"),
-                                huge.fileName(), program.home.path()}) {
-        EXPECT_FALSE(ProfileInstaller::isProfile(file));
-        EXPECT_EQ(installed(), before);
-    }
-    EXPECT_TRUE(ProfileInstaller::install(chosen(kProfile), settings.installedFile()).ok);
-    EXPECT_EQ(installed(), kProfile);
+    EXPECT_FALSE(ProfileInstaller::isProfile(huge.fileName()));
+    EXPECT_FALSE(ProfileInstaller::isProfile(program.home.path()));
 }
 
-TEST_F(ProfileInstallTest, InstallingTheInstalledFileKeepsIt)
+TEST_F(ProfileInstallTest, DialogReportsTheOutcomeAndForgetsAChosenFile)
 {
     ASSERT_TRUE(program.installProfile());
     const QByteArray before = installed();
-    EXPECT_TRUE(ProfileInstaller::install(settings.installedFile(), settings.installedFile()).ok);
-    EXPECT_EQ(installed(), before);
-}
-
-TEST_F(ProfileInstallTest, ReportsAFolderThatCannotBeWritten)
-{
-    EXPECT_FALSE(ProfileInstaller::install(
-                     chosen(kProfile), program.home.filePath(QStringLiteral("none/Profile.xml")))
-                     .ok);
-}
-
-TEST_F(ProfileInstallTest, DialogTellsTheOutcomeAndForgetsAChosenFile)
-{
     DialogProfileInfo dialog(program.profile, settings, program.dialogs);
     QSignalSpy changes(&dialog, &DialogProfileInfo::signalProfileChanged);
-
-    dialog.installProfile(); // cancelled
-    EXPECT_EQ(program.dialogs.takeAsked(), QStringList(QStringLiteral("Select Profile File")));
+    const auto install = [&](const QString& file) {
+        program.dialogs.file = file;
+        dialog.installProfile();
+        return program.dialogs.takeAsked().mid(1).join(QLatin1Char('|'));
+    };
+    EXPECT_EQ(install({}), QString()); // cancelled
     EXPECT_EQ(program.dialogs.lastFilter,
               QStringLiteral("Profile File (*.xml);;All Files (* *.*)"));
-
-    program.dialogs.file = chosen("<Other/>");
-    dialog.installProfile();
-    EXPECT_EQ(program.dialogs.takeAsked().value(1),
+    EXPECT_EQ(install(chosen("<Other/>")),
               QStringLiteral("VELIX Warning: Not a valid VELIX profile !"));
     EXPECT_EQ(changes.count(), 0);
-    EXPECT_TRUE(installed().isEmpty());
+    EXPECT_EQ(installed(), before);
 
-    program.dialogs.file = chosen(kProfile);
-    set("ProfileFile", program.dialogs.file);
+    const QString done = QStringLiteral("VELIX Info: New profile installed !");
+    EXPECT_EQ(install(settings.installedFile()), done);
+    EXPECT_EQ(installed(), before);
+    set("ProfileFile", chosen(kProfile));
     set("Profile", QStringLiteral("../chosen.xml"));
-    dialog.installProfile();
-    EXPECT_EQ(program.dialogs.takeAsked().value(1),
-              QStringLiteral("VELIX Info: New profile installed !"));
-    EXPECT_EQ(changes.count(), 1);
+    EXPECT_EQ(install(chosen(kProfile)), done);
+    EXPECT_EQ(installed(), kProfile);
+    EXPECT_EQ(changes.count(), 2);
     EXPECT_EQ(settings.profileFile(), settings.installedFile());
     EXPECT_EQ(program.setting("Profile"), QString());
+
+    ASSERT_TRUE(QFile::remove(settings.installedFile()));
+    ASSERT_TRUE(QDir().mkpath(settings.installedFile())); // a folder in place of the file
+    EXPECT_EQ(install(chosen(kProfile)),
+              QStringLiteral("VELIX Warning: Profile Installation failed !"));
+    EXPECT_EQ(changes.count(), 2);
 }
 
-TEST_F(ProfileInstallTest, DialogShowsTextsOfTheFileAsTheyStand)
+TEST_F(ProfileInstallTest, DialogShowsTextsOfTheFileAsTheyAre)
 {
     const QString file = chosen(kProfile);
     ASSERT_TRUE(program.profile.loadProfile(file));
@@ -115,7 +103,7 @@ TEST_F(ProfileInstallTest, DialogShowsTextsOfTheFileAsTheyStand)
     EXPECT_TRUE(text.endsWith(QStringLiteral("</table>Variants: <br>-  <b>Solo</b><br>")));
 }
 
-TEST_F(ProfileInstallTest, SettingsTellVariantAndChosenFileApart)
+TEST_F(ProfileInstallTest, SettingsDistinguishVariantAndChosenFile)
 {
     const QString file = chosen(kProfile);
     const struct

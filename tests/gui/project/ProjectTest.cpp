@@ -49,6 +49,12 @@ protected:
     void write(const QByteArray& text) const { ASSERT_TRUE(writeFile(path("Project.xml"), text)); }
     void select(std::initializer_list<int> ids) { ProfileBuilder::select(profile, ids); }
     QString selection() const { return ProfileBuilder::selection(profile); }
+    void switchTo(const char* variant)
+    {
+        project.rememberSelection();
+        ASSERT_TRUE(profile.setCurrentVariant(QLatin1String(variant)));
+        project.restoreSelection();
+    }
 
     QTemporaryDir folder;
     Profile profile;
@@ -57,11 +63,13 @@ protected:
 
 } // namespace
 
-TEST_F(ProjectTest, WritesSelectedParametersInProfileOrderAndPropertiesInKeyOrder)
+TEST_F(ProjectTest, ReadsBackWhatItWrites)
 {
+    const std::map<std::string, std::string> properties{{"rate", "500"}, {"bus", "1 & \xC3\xA4"}};
     select({30, 20, 10});
-    project.setCanProperties({{"rate", "500"}, {"bus", "1 & 2"}});
+    project.setCanProperties(properties);
     ASSERT_EQ(project.saveProject(projectFile()), 1);
+    // Parameters in the order of the profile, properties in that of their keys.
     EXPECT_EQ(written().toStdString(), "<VelixProject>\n"
                                        "    <Parameters>\n"
                                        "        <Parameter name=\"Lane A/Fuel\"/>\n"
@@ -69,23 +77,14 @@ TEST_F(ProjectTest, WritesSelectedParametersInProfileOrderAndPropertiesInKeyOrde
                                        "        <Parameter name=\"Lane B/Oil\"/>\n"
                                        "    </Parameters>\n"
                                        "    <CanProperties>\n"
-                                       "        <Property id=\"bus\" value=\"1 &amp; 2\"/>\n"
+                                       "        <Property id=\"bus\" value=\"1 &amp; \xC3\xA4\"/>\n"
                                        "        <Property id=\"rate\" value=\"500\"/>\n"
                                        "    </CanProperties>\n"
                                        "</VelixProject>\n");
-}
-
-TEST_F(ProjectTest, ReadsBackWhatItWrote)
-{
-    const std::map<std::string, std::string> properties{{"a", "1"}, {"b", "\xC3\xA4 <x>"}};
-    select({10, 30});
-    project.setCanProperties(properties);
-    ASSERT_EQ(project.saveProject(projectFile()), 1);
-
-    select({20});
     Project reader(profile);
+    select({20});
     ASSERT_EQ(reader.readProject(projectFile()), 1);
-    EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel, Lane B/Oil"));
+    EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel, Lane A/Oil, Lane B/Oil"));
     EXPECT_EQ(reader.canProperties(), properties);
 }
 
@@ -101,88 +100,58 @@ TEST_F(ProjectTest, ReadsWhatItKnowsAndSkipsTheRest)
     ASSERT_EQ(project.readProject(projectFile()), 1);
     EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel"));
     EXPECT_EQ(project.canProperties(), (std::map<std::string, std::string>{{"k", "2"}}));
-}
 
-TEST_F(ProjectTest, KeepsTheSelectionWhenAFileCannotBeRead)
-{
-    const std::map<std::string, std::string> properties{{"k", "v"}};
-    select({20});
-    project.setCanProperties(properties);
-    ASSERT_TRUE(writeFile(path("cut.xml"), "<VelixProject><Parameters>"));
-    ASSERT_TRUE(writeFile(path("empty.xml"), ""));
-    for (const char* name : {"missing.xml", "cut.xml", "empty.xml", ""}) {
-        EXPECT_EQ(project.readProject(path(name).toStdString()), 0) << name;
-        EXPECT_EQ(selection(), QStringLiteral("Lane A/Oil")) << name;
-        EXPECT_EQ(project.canProperties(), properties) << name;
+    write("<VelixProject><Parameters>");
+    for (const std::string& file : {projectFile(), path("missing.xml").toStdString()}) {
+        EXPECT_EQ(project.readProject(file), 0) << file;
+        EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel")) << file;
+        EXPECT_EQ(project.canProperties().size(), 1U) << file;
     }
-}
-
-TEST_F(ProjectTest, ReportsAFileThatCannotBeWritten)
-{
-    EXPECT_EQ(project.saveProject(path("none/Project.xml").toStdString()), 0);
-    EXPECT_EQ(project.saveProject(folder.path().toStdString()), 0);
+    EXPECT_EQ(project.saveProject(folder.path().toStdString()), 0); // a folder is no file
 }
 
 TEST_F(ProjectTest, CarriesTheSelectionOverAReload)
 {
     select({10, 30});
-    project.rememberSelection();
-    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Solo")));
-    project.restoreSelection();
+    switchTo("Solo");
     EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel"));
 
     // What only the other variant has comes back with it; what was unticked meanwhile does not.
     select({20});
-    project.rememberSelection();
-    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Twin")));
-    project.restoreSelection();
+    switchTo("Twin");
     EXPECT_EQ(selection(), QStringLiteral("Lane A/Oil, Lane B/Oil"));
-}
 
-TEST_F(ProjectTest, WhatOnlyAnotherVariantHasIsSelectedWithThatVariant)
-{
-    write("<VelixProject><Parameters><Parameter name='Lane A/Fuel'/>"
-          "<Parameter name='Lane B/Oil'/></Parameters></VelixProject>");
-    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Solo")));
-    ASSERT_EQ(project.readProject(projectFile()), 1);
-    EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel"));
-
-    project.rememberSelection();
-    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Twin")));
-    project.restoreSelection();
-    EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel, Lane B/Oil"));
-
-    // Saving keeps what is waiting, after what is selected.
-    write("<VelixProject><Parameters><Parameter name='Other/A'/>"
-          "<Parameter name='Lane B/Oil'/></Parameters></VelixProject>");
-    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Solo")));
-    ASSERT_EQ(project.readProject(projectFile()), 1);
-    select({10});
-    ASSERT_EQ(project.saveProject(projectFile()), 1);
-    EXPECT_TRUE(written().simplified().contains(
-        "<Parameters> <Parameter name=\"Lane A/Fuel\"/> "
-        "<Parameter name=\"Lane B/Oil\"/> <Parameter name=\"Other/A\"/> "
-        "</Parameters>"));
-
-    // A new project forgets what is waiting, too.
-    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Solo")));
-    ASSERT_EQ(project.readProject(projectFile()), 1);
-    project.setCanProperties({{"k", "v"}});
-    project.clear();
-    EXPECT_TRUE(project.canProperties().empty());
-    ASSERT_TRUE(profile.setCurrentVariant(QStringLiteral("Twin")));
-    project.restoreSelection();
-    EXPECT_EQ(selection(), QString());
-}
-
-TEST_F(ProjectTest, SurvivesAProfileThatCannotBeLoaded)
-{
-    select({10, 30});
     project.rememberSelection();
     EXPECT_FALSE(profile.loadProfile(path("missing.xml"), QString()));
     project.restoreSelection();
     project.rememberSelection();
     ASSERT_TRUE(profile.loadProfile(profileFile(), QString()));
     project.restoreSelection();
+    EXPECT_EQ(selection(), QStringLiteral("Lane A/Oil, Lane B/Oil"));
+}
+
+TEST_F(ProjectTest, WhatOnlyAnotherVariantHasWaitsForIt)
+{
+    const QByteArray file = "<VelixProject><Parameters><Parameter name='Lane A/Fuel'/>"
+                            "<Parameter name='Other/A'/><Parameter name='Lane B/Oil'/>"
+                            "</Parameters></VelixProject>";
+    write(file);
+    switchTo("Solo");
+    ASSERT_EQ(project.readProject(projectFile()), 1);
+    EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel"));
+    switchTo("Twin");
     EXPECT_EQ(selection(), QStringLiteral("Lane A/Fuel, Lane B/Oil"));
+
+    // Saving keeps what is waiting, after what is selected.
+    switchTo("Solo");
+    ASSERT_EQ(project.saveProject(projectFile()), 1);
+    EXPECT_TRUE(written().simplified().contains(
+        "<Parameters> <Parameter name=\"Lane A/Fuel\"/> <Parameter name=\"Lane B/Oil\"/> "
+        "<Parameter name=\"Other/A\"/> </Parameters>"));
+
+    project.setCanProperties({{"k", "v"}});
+    project.clear(); // forgets what is waiting, too
+    EXPECT_TRUE(project.canProperties().empty());
+    switchTo("Twin");
+    EXPECT_EQ(selection(), QString());
 }
