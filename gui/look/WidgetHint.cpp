@@ -9,31 +9,18 @@
 
 namespace VELIX {
 
-QString WidgetHint::noRecord()
-{
-    return tr("No record loaded. Open the folder of a data card and choose a cycle, "
-              "a flight or a file.");
-}
-
-QString WidgetHint::noProfile()
-{
-    return tr("No parameter profile is installed. Without the profile of your engine, "
-              "recorded messages cannot be turned into values.");
-}
-
-QString WidgetHint::installProfile()
-{
-    return tr("Install a profile");
-}
-
 WidgetHint::Message WidgetHint::withoutRecord()
 {
-    return {noRecord(), {}};
+    return {tr("No record loaded. Open the folder of a data card and choose a cycle, "
+               "a flight or a file."),
+            {}};
 }
 
 WidgetHint::Message WidgetHint::withoutProfile()
 {
-    return {noProfile(), installProfile()};
+    return {tr("No parameter profile is installed. Without the profile of your engine, "
+               "recorded messages cannot be turned into values."),
+            tr("Install a profile")};
 }
 
 WidgetHint::WidgetHint(QWidget* parent)
@@ -56,11 +43,6 @@ WidgetHint::WidgetHint(QWidget* parent)
     layout->addWidget(mText);
     layout->addWidget(mLink);
     layout->addStretch(1);
-}
-
-WidgetHint::WidgetHint(const QString& text, QWidget* parent) : WidgetHint(parent)
-{
-    setHint(text);
 }
 
 void WidgetHint::setHint(const QString& text, const QString& linkText)

@@ -24,13 +24,8 @@ public:
     /// What several panes say; the second one links to the installation of a profile.
     static Message withoutRecord();
     static Message withoutProfile();
-    /// The same as sentences, and the text of the link.
-    static QString noRecord();
-    static QString noProfile();
-    static QString installProfile();
 
     explicit WidgetHint(QWidget* parent = nullptr);
-    explicit WidgetHint(const QString& text, QWidget* parent = nullptr);
 
     /// Both are plain text; an empty link text shows no link.
     void setHint(const QString& text, const QString& linkText = {});

@@ -61,12 +61,13 @@ DialogProfile::DialogProfile(Profile& profile, QWidget* parent)
       mCount(new QLabel(this)),
       mButtonClear(new QPushButton(tr("Clear"), this)),
       mButtonConfirm(new QPushButton(tr("Confirm Selection"), this)),
-      mHint(new WidgetHint(tr("No profile installed. Parameters come from a profile file."), this)),
+      mHint(new WidgetHint(this)),
       mPages(new QStackedWidget(this))
 {
     qRegisterMetaType<ProfileParameter*>("VELIX::ProfileParameter*");
     createTree();
-    mHint->setHint(mHint->hint(), tr("Install New Profile"));
+    mHint->setHint(tr("No profile installed. Parameters come from a profile file."),
+                   tr("Install New Profile"));
     mPages->addWidget(createPage());
     mPages->addWidget(mHint);
     auto* layout = new QVBoxLayout(this);

@@ -26,7 +26,7 @@ protected:
     QSignalSpy mValues{&mBox, qOverload<int>(&QwtComboBox::signalActivated)};
 };
 
-TEST_F(UnitBox, TellsTextAndDataOfTheUsersChoice)
+TEST_F(UnitBox, SignalsTextAndDataOfTheUsersChoice)
 {
     mBox.show();
     QTest::keyClick(&mBox, Qt::Key_Down);
@@ -61,7 +61,8 @@ TEST_F(UnitBox, SurvivesAReceiverThatRefillsIt)
 
 TEST(WidgetHint, ShowsItsLinkOnlyWhereThereIsOne)
 {
-    WidgetHint hint(QStringLiteral("No card open. <b>"));
+    WidgetHint hint;
+    hint.setHint(QStringLiteral("No card open. <b>"));
     hint.resize(300, 200);
     hint.show();
     const auto labels = hint.findChildren<QLabel*>();
