@@ -101,6 +101,7 @@ TEST_F(DialogCardTest, LoadsOnlyTheLastChoiceOfAQuickSweep)
         QTest::qWait(kMarginMs);
         EXPECT_EQ(loadsFiles->count(), 0);
     }
+    EXPECT_TRUE(cycles.selectedItems().isEmpty());
     rest();
     ASSERT_EQ(loadsFiles->count(), 1);
     QStringList names;
