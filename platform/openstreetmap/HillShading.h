@@ -44,8 +44,9 @@ struct HeightGrid
 /// after Horn (1981). 1 where a height is missing or the light comes from below.
 double shadeAt(const HeightGrid& grid, int column, int row, const ShadingStyle& style);
 
-/// Shade of a tile, to be laid over its picture: black where it darkens, white where it lights up.
-/// Null if there are no heights, or the tile is so large that slopes would be lost in it.
+/// Returns the shade of a tile, to be drawn over its image: black where it darkens, white where it
+/// lights up. Null if there are no heights, or the tile is so large that slopes would be lost in
+/// it.
 QImage shadeTile(TerrainStore& terrain, const TileAddress& tile, const ShadingStyle& style);
 
 } // namespace OpenStreet

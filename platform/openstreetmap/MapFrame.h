@@ -17,7 +17,7 @@ class MapPainter;
 class MapFrame
 {
 public:
-    /// What decides how the map looks, apart from the pictures that are there.
+    /// What decides how the map looks, apart from the images that are there.
     struct Look
     {
         MapProjection projection;
@@ -32,10 +32,10 @@ public:
 
     /// Draws the map to the current frame buffer.
     /// @param placed the tiles of the window
-    /// @param arrived those whose picture or shade is another than when the map was last shown
+    /// @param arrived those whose image or shade differs from when the map was last shown
     void show(const Look& look, const std::vector<PlacedTile>& placed,
               const std::set<TileAddress>& arrived);
-    /// Something else has changed than what show() is told.
+    /// Has all drawn again, since something has changed that show() does not know of.
     void setStale() { mStale = true; }
     void release();
 
@@ -46,7 +46,7 @@ private:
 
     MapPainter& mPainter;
     Tessel::OpenGL::FrameCache mBuffer;
-    Look mLook; ///< of the picture in the buffer
+    Look mLook; ///< of the frame in the buffer
     bool mStale = true;
 };
 

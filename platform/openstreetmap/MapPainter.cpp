@@ -19,9 +19,9 @@ constexpr double kGridPixels = 140.0;
 /// The same in heights of a label, so that the longest ones stay apart on dense screens, too.
 constexpr double kGridLines = 10.0;
 constexpr double kLabelGap = 4.0;
-/// A tile four zooms up is a few pixels of colour: it tells sea from land, no more.
+/// A tile four zooms up is a few pixels of colour: it distinguishes sea from land, no more.
 constexpr int kMostAncestors = 5;
-/// Sixteen small tiles in place of a large one.
+/// Sixteen small tiles instead of a large one.
 constexpr int kMostDescendants = 2;
 
 float toFloat(double pixels)
@@ -43,7 +43,7 @@ void MapPainter::begin(const MapProjection& projection)
 }
 
 /// Drivers compile a program for what it draws when it first draws it, which takes them tens of
-/// milliseconds: better with the first picture than in the middle of a drag.
+/// milliseconds: better with the first frame than in the middle of a drag.
 void MapPainter::prepareTextures()
 {
     if (!mPrepared) {

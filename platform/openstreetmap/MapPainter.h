@@ -13,7 +13,7 @@
 
 namespace OpenStreet {
 
-/// Draws the map from the pictures that are there. The context rule of Tessel::OpenGL::GlHandler
+/// Draws the map from the images that are there. The context rule of Tessel::OpenGL::GlHandler
 /// holds.
 class MapPainter
 {
@@ -30,14 +30,14 @@ public:
     /// Makes the window's pixels the units of all that is drawn until the next begin().
     void begin(const MapProjection& projection);
     static void drawGround();
-    /// Ground, graticule and coasts.
+    /// Draws background, graticule and coasts.
     void drawOutline(const MapProjection& projection);
-    /// Each tile itself, or what stands in for it.
+    /// Draws each tile itself, or its stand-in.
     void drawTiles(const std::vector<PlacedTile>& tiles, double brightness);
     void drawShades(const std::vector<PlacedTile>& tiles);
     /// Whether each tile is there itself or in an ancestor.
     [[nodiscard]] bool covers(const std::vector<PlacedTile>& tiles) const;
-    /// Whether anything is drawn for the tile: itself, or what stands in for it.
+    /// Whether anything is drawn for the tile: itself, or its stand-in.
     [[nodiscard]] bool shows(const PlacedTile& tile) const;
 
     void release();

@@ -31,11 +31,11 @@ struct MercatorPoint
 
 using Tessel::Geodetic::kMercatorHalf;
 
-/// Latitudes beyond the limit are taken at the limit.
+/// Returns the place on the map; latitudes beyond the limit are taken at the limit.
 MercatorPoint toMercator(const GeoPoint& place);
-/// The longitude comes as it is, not brought into -180 to 180.
+/// Returns the place; its longitude is not brought into -180 to 180.
 GeoPoint fromMercator(const MercatorPoint& place);
-/// The same meridian, at least -180 and below 180; not a number stays as it is.
+/// Returns the same meridian, at least -180 and below 180; not a number stays as it is.
 double normalizedLongitude(double degrees);
 
 /// Where places appear in a window that looks at the Web Mercator map from above, north up.
@@ -58,7 +58,7 @@ public:
     [[nodiscard]] int windowWidth() const { return mWindowWidth; }
     [[nodiscard]] int windowHeight() const { return mWindowHeight; }
 
-    /// The place's nearest appearance to the centre: the short way round the globe.
+    /// Returns the place's nearest appearance to the centre: the short way round the globe.
     [[nodiscard]] WindowPoint toWindow(const GeoPoint& place) const;
     /// Longitude from -180 to 180. North and south of the map it is the map's edge.
     [[nodiscard]] GeoPoint toGeo(const WindowPoint& place) const;

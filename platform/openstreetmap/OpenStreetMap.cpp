@@ -21,7 +21,7 @@ namespace {
 /// shows a hundred tiles; twice of what a view shows is kept in any case, since its stand-ins are
 /// needed, too.
 constexpr std::size_t kMostTextures = 256;
-/// Taken by one picture: handing them over and drawing them takes half a millisecond each, and a
+/// Taken by one frame: passing them on and drawing them takes half a millisecond each, and a
 /// hundred of them can come from the disk at once.
 constexpr std::size_t kMostArrivals = 5;
 /// Levels above a missing tile that are looked for on disk.
@@ -50,7 +50,7 @@ public:
 
     MapProjection projection;
     MapPainter painter;
-    MapFrame picture{painter};
+    MapFrame frame{painter};
     TileSource source;
     ShadeSource shades;
     MapType type = Tiles;
@@ -74,7 +74,7 @@ OpenStreetMap::Private::addresses(const std::vector<PlacedTile>& tiles) const
     return result;
 }
 
-/// What the disk may have in place of tiles that it has not.
+/// Returns what the disk may have instead of tiles that it has not.
 std::vector<TileAddress> OpenStreetMap::Private::standIns(const std::vector<TileAddress>& tiles)
 {
     std::set<TileAddress> result;
@@ -116,7 +116,7 @@ void OpenStreetMap::Private::renderTiles()
     if (shading) {
         shades.want(wanted);
     }
-    picture.show({projection, true, shading, brightness}, placed, takeArrived());
+    frame.show({projection, true, shading, brightness}, placed, takeArrived());
     dropOld(wanted.size());
 }
 
@@ -161,12 +161,12 @@ void OpenStreetMap::setTerrainPath(const char* folder)
 {
     d->shades.setFolder(QString::fromUtf8(folder));
     d->painter.shades().clear();
-    d->picture.setStale();
+    d->frame.setStale();
 }
 
 bool OpenStreetMap::setCoastLines(const char* file)
 {
-    d->picture.setStale();
+    d->frame.setStale();
     return d->painter.coast().load(QString::fromUtf8(file));
 }
 
@@ -174,14 +174,14 @@ void OpenStreetMap::setLabelFont(const void* data, std::size_t bytes, int pixelS
 {
     // Without it the labels come in the system's font, at the same size.
     static_cast<void>(d->painter.font().load(data, bytes, "graticule", pixelSize));
-    d->picture.setStale();
+    d->frame.setStale();
 }
 
 void OpenStreetMap::setLabelTop(int pixels)
 {
     if (d->painter.labelTop() != pixels) {
         d->painter.setLabelTop(pixels);
-        d->picture.setStale();
+        d->frame.setStale();
     }
 }
 
@@ -234,13 +234,13 @@ void OpenStreetMap::setShadingFactor(double factor)
 
 void OpenStreetMap::setStyle(const ShadingStyle& style)
 {
-    // What is not a number would differ from itself, and have all computed anew for ever.
+    // What is not a number would differ from itself, and have all computed again for ever.
     const bool isUsable = std::isfinite(style.lightX + style.lightY + style.lightZ +
                                         style.contrast + style.brightness + style.factor);
     if (isUsable && !(style == d->shades.style())) {
         d->shades.setStyle(style);
         d->painter.shades().clear();
-        d->picture.setStale();
+        d->frame.setStale();
     }
 }
 
@@ -330,7 +330,7 @@ void OpenStreetMap::render()
     const StateGuard guard;
     d->painter.begin(d->projection);
     if (d->type == Outline) {
-        d->picture.show({d->projection, false, false, 1.0}, {}, {});
+        d->frame.show({d->projection, false, false, 1.0}, {}, {});
     } else {
         d->renderTiles();
     }
@@ -345,7 +345,7 @@ void OpenStreetMap::releaseGl()
         d->shades.forget(tile);
     }
     d->painter.release();
-    d->picture.release();
+    d->frame.release();
 }
 
 } // namespace OpenStreet

@@ -47,7 +47,7 @@ public:
     [[nodiscard]] bool setCoastLines(const char* file);
     /// The font of the graticule's labels, a TrueType file in memory, its size in device pixels.
     void setLabelFont(const void* data, std::size_t bytes, int pixelSize);
-    /// The upper end of the labels, in device pixels: above it something may lie over the map.
+    /// The upper end of the labels, in device pixels: above it something may cover the map.
     void setLabelTop(int pixels);
 
     void setProjection(ProjectionType type);
@@ -79,10 +79,10 @@ public:
                                double rangeWidth, double rangeHeight, double* latitude,
                                double* longitude) const;
 
-    /// Tiles being read or fetched, shades being computed; while not 0, another render() shows
-    /// more.
+    /// Returns the number of tiles being read or fetched and of shades being computed; while not 0,
+    /// another render() shows more.
     [[nodiscard]] int nrLoadingTiles() const;
-    /// Whether some place of the window has a tile, or a part of a larger one in its stead.
+    /// Whether some place of the window has a tile, or a part of a larger one instead.
     [[nodiscard]] bool hasTiles() const;
     /// Called whenever something has arrived that the next render() would show.
     void setArrivedCallback(const std::function<void()>& callback);
@@ -92,13 +92,13 @@ public:
     /// since.
     void
     setFailureCallback(const std::function<void(const char* url, const char* reason)>& callback);
-    /// Tiles that failed are asked for again with the next render(), instead of after a pause that
+    /// Has tiles that failed asked for again with the next render(), instead of after a pause that
     /// grows with each failure up to five minutes.
     void retry();
 
     /// Draws over the whole view port, which the caller has set to the window.
     void render();
-    /// Gives everything back to the graphics system; it is made again when needed.
+    /// Releases everything of the graphics system; it is made again when needed.
     void releaseGl();
 
 private:

@@ -8,7 +8,7 @@ namespace OpenStreet {
 namespace {
 
 constexpr double kLongestGranted = 3600.0;
-/// So many tiles are remembered; then all are tried anew.
+/// So many tiles are remembered; then all are tried again.
 constexpr std::size_t kMostTiles = 20000;
 
 } // namespace

@@ -21,7 +21,7 @@ class ShadeSource : public QObject
     Q_OBJECT
 
 public:
-    using Picture = std::pair<TileAddress, QImage>;
+    using Arrival = std::pair<TileAddress, QImage>;
 
     explicit ShadeSource(QObject* parent = nullptr);
     ~ShadeSource() override;
@@ -31,13 +31,13 @@ public:
     void setStyle(const ShadingStyle& style);
     [[nodiscard]] const ShadingStyle& style() const { return mStyle; }
 
-    /// What the picture needs now, most urgent first. Shades that are wanted no longer and not yet
-    /// begun are dropped.
+    /// Takes what the frame needs now, most urgent first. Shades that are wanted no longer and not
+    /// yet begun are dropped.
     void want(const std::vector<TileAddress>& tiles);
     void forget(const TileAddress& tile) { mAsked.erase(tile); }
     [[nodiscard]] int loading() const { return mRunning + static_cast<int>(mQueue.size()); }
     /// Null images are for tiles without terrain.
-    std::vector<Picture> takeArrived() { return std::exchange(mArrived, {}); }
+    std::vector<Arrival> takeArrived() { return std::exchange(mArrived, {}); }
 
 signals:
     void arrived();
@@ -51,7 +51,7 @@ private:
     ShadingStyle mStyle;
     std::vector<TileAddress> mQueue; ///< most urgent last
     std::set<TileAddress> mAsked;    ///< being computed, or computed and not forgotten
-    std::vector<Picture> mArrived;
+    std::vector<Arrival> mArrived;
     int mRunning = 0;
     int mGeneration = 0; ///< results of older ones are void
 };

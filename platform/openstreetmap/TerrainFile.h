@@ -36,7 +36,7 @@ private:
 
     QFile mFile;
     int mSide = 0;
-    std::array<Row, 4> mRows; ///< neighbours have a place each
+    std::array<Row, 4> mRows; ///< one for each neighbour
 };
 
 } // namespace OpenStreet

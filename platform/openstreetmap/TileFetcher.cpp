@@ -20,7 +20,7 @@ constexpr std::size_t kMostConnections = 4;
 constexpr int kReadAhead = 256 * 1024;
 constexpr int kMostRedirects = 4;
 /// Seconds before a tile is asked for again, whatever the server allows: the map asks with every
-/// picture.
+/// image.
 constexpr std::int64_t kShortestLifetime = 60;
 constexpr int kOk = 200;
 constexpr int kNotModified = 304;
@@ -92,7 +92,7 @@ void TileFetcher::setServer(const QString& server)
         mQueue.clear();
         dropUnwanted({});
         mRetries.clear();
-        mTold.clear();
+        mReported.clear();
         mHasSent = false;
     }
 }
@@ -100,7 +100,7 @@ void TileFetcher::setServer(const QString& server)
 void TileFetcher::retry()
 {
     mRetries.retry();
-    mTold.clear();
+    mReported.clear();
 }
 
 void TileFetcher::setWanted(const std::vector<Request>& wanted)
@@ -167,7 +167,7 @@ void TileFetcher::start(const Request& request)
     QNetworkRequest network(url);
     network.setMaximumRedirectsAllowed(kMostRedirects);
     network.setHeader(QNetworkRequest::UserAgentHeader, mUserAgent);
-    // Pictures are compressed already. Asked for like this, nothing is inflated on the way, which
+    // Images are compressed already. Asked for like this, nothing is inflated on the way, which
     // would get past the limit of bytes.
     network.setRawHeader("Accept-Encoding", "identity");
     if (!request.known.entityTag.isEmpty()) {
@@ -196,7 +196,7 @@ void TileFetcher::start(const Request& request)
 /// In bytes and in time.
 void TileFetcher::limit(const TileAddress& tile, QNetworkReply& reply)
 {
-    // Else the network would read as fast as it can while nobody looks. It stops some 30 kB short
+    // Else the network would read as fast as it can while nothing reads. It stops some 30 kB short
     // of this size, so that it must be larger than a tile.
     reply.setReadBufferSize(kLargestTileBytes + kReadAhead);
     const auto check = [this, tile, &reply] {
@@ -227,8 +227,8 @@ void TileFetcher::succeed(const TileAddress& tile)
 {
     mHasSent = true;
     mRetries.succeeded(tile, now());
-    for (auto it = mTold.begin(); it != mTold.end();) {
-        it = it->second != RetryPlan::Failure::Tile ? mTold.erase(it) : std::next(it);
+    for (auto it = mReported.begin(); it != mReported.end();) {
+        it = it->second != RetryPlan::Failure::Tile ? mReported.erase(it) : std::next(it);
     }
 }
 
@@ -236,7 +236,7 @@ void TileFetcher::fail(const TileAddress& tile, RetryPlan::Failure failure, cons
                        double pause)
 {
     mRetries.failed(tile, failure, now(), pause);
-    if (mTold.emplace(reason, failure).second) {
+    if (mReported.emplace(reason, failure).second) {
         const QUrl url = tileUrl(mServer, tile);
         emit failed(url.isValid() ? url.toString() : mServer, reason);
     }
@@ -274,7 +274,7 @@ void TileFetcher::finish(const Request& request, QNetworkReply& reply)
         emit fetched(request.tile, reply.read(kLargestTileBytes), freshness);
         return;
     }
-    // The header may also give a date, which stands for the usual pause here.
+    // The header may also give a date, which means the usual pause here.
     fail(request.tile, failureOf(status, mHasSent), stopped.isEmpty() ? reasonOf(reply) : stopped,
          reply.rawHeader("Retry-After").trimmed().toDouble());
 }

@@ -27,7 +27,7 @@ public:
     struct Request
     {
         TileAddress tile;
-        TileFreshness known; ///< of the copy that is there; without tags the tile is fetched anew
+        TileFreshness known; ///< of the copy that is there; without tags the tile is fetched again
     };
 
     /// How long slow servers are waited for, and how soon those that failed are asked again.
@@ -51,7 +51,7 @@ public:
     /// The tiles that are wanted from now on, most urgent first. What was asked for and is wanted
     /// no longer is dropped; tiles that failed lately wait for their time.
     void setWanted(const std::vector<Request>& wanted);
-    /// Answers to fetched(): whether the bytes were a picture.
+    /// Answers to fetched(): whether the bytes were an image.
     void accept(const TileAddress& tile) { succeed(tile); }
     void reject(const TileAddress& tile);
     /// What failed is asked for again without waiting for its time.
@@ -61,7 +61,7 @@ public:
 
 signals:
     /// The server sent something, which is at most as large as a tile can be.
-    void fetched(const OpenStreet::TileAddress& tile, const QByteArray& picture,
+    void fetched(const OpenStreet::TileAddress& tile, const QByteArray& bytes,
                  const OpenStreet::TileFreshness& freshness);
     /// The copy that is there is up to date.
     void unchanged(const OpenStreet::TileAddress& tile, const OpenStreet::TileFreshness& freshness);
@@ -95,8 +95,8 @@ private:
     std::map<TileAddress, Running> mRunning;
     Timeouts mTimeouts;
     RetryPlan mRetries;
-    bool mHasSent = false;                       ///< the server, a tile
-    std::map<QString, RetryPlan::Failure> mTold; ///< reasons that were given
+    bool mHasSent = false;                           ///< the server, a tile
+    std::map<QString, RetryPlan::Failure> mReported; ///< reasons that were given
     QElapsedTimer mClock;
 };
 

@@ -10,10 +10,10 @@ namespace OpenStreet {
 namespace {
 
 constexpr int kLargestSide = 1024;
-/// Of a decoded picture: hundreds are kept, and no more pixels reach the screen.
+/// Of a decoded image: hundreds are kept, and no more pixels reach the screen.
 constexpr int kLargestKept = 512;
 
-/// Readers give what they have of a file that is cut off. Its end tells.
+/// Readers give what they have of a file that is cut off. Its end shows that.
 bool isWhole(const QByteArray& data, const QByteArray& format)
 {
     if (format == "png") {

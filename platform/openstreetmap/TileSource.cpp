@@ -54,7 +54,7 @@ void TileSource::setServer(const QString& server)
     }
 }
 
-/// Of a picture that is there. What another server said of its own holds nothing for this one's.
+/// Of an image that is there. What another server said of its own does not hold for this one's.
 TileSource::Entry TileSource::entryOf(const TileFreshness& freshness) const
 {
     const QByteArray server = mFetcher.server().toUtf8();
@@ -123,9 +123,9 @@ int TileSource::loading() const
     return mReading + mUnasked + mFetcher.loading() + static_cast<int>(mArrived.size());
 }
 
-std::vector<TileSource::Picture> TileSource::takeArrived(std::size_t most)
+std::vector<TileSource::Arrival> TileSource::takeArrived(std::size_t most)
 {
-    std::vector<Picture> rest;
+    std::vector<Arrival> rest;
     if (mArrived.size() > most) {
         const auto end = mArrived.begin() + static_cast<std::ptrdiff_t>(most);
         rest.assign(std::make_move_iterator(end), std::make_move_iterator(mArrived.end()));
@@ -158,11 +158,11 @@ void TileSource::read(const TileAddress& tile)
     mReaders.start([this, store = mStore, tile] {
         ReadTile result;
         if (const std::optional<TileStore::Tile> stored = store->read(tile)) {
-            result.picture = decodeTile(stored->picture);
+            result.image = decodeTile(stored->bytes);
             result.freshness = stored->freshness;
-            result.found = !result.picture.isNull();
+            result.found = !result.image.isNull();
             if (!result.found) {
-                store->remove(tile); // it would stand in the way of a good one
+                store->remove(tile); // it would prevent a good one
             }
         }
         QMetaObject::invokeMethod(
@@ -182,22 +182,22 @@ void TileSource::takeRead(const TileAddress& tile, const ReadTile& result)
         entry->second = {State::Missing, {}};
     } else {
         entry->second = entryOf(result.freshness);
-        mArrived.emplace_back(tile, result.picture);
+        mArrived.emplace_back(tile, result.image);
     }
     mUnasked += entry->second.state == State::Fresh ? 0 : 1;
     emit arrived();
 }
 
-void TileSource::takeFetched(const TileAddress& tile, const QByteArray& picture,
+void TileSource::takeFetched(const TileAddress& tile, const QByteArray& bytes,
                              const TileFreshness& freshness)
 {
     mEntries[tile].state = State::Decoding;
     ++mReading;
-    mReaders.start([this, store = mStore, tile, picture, freshness] {
-        const QImage image = decodeTile(picture);
+    mReaders.start([this, store = mStore, tile, bytes, freshness] {
+        const QImage image = decodeTile(bytes);
         const auto written =
-            !image.isNull() && freshness.mayBeStored && store->write(tile, {picture, freshness})
-                ? picture.size()
+            !image.isNull() && freshness.mayBeStored && store->write(tile, {bytes, freshness})
+                ? bytes.size()
                 : 0;
         QMetaObject::invokeMethod(
             this,
@@ -209,17 +209,17 @@ void TileSource::takeFetched(const TileAddress& tile, const QByteArray& picture,
     });
 }
 
-void TileSource::takeDecoded(const TileAddress& tile, const QImage& picture,
+void TileSource::takeDecoded(const TileAddress& tile, const QImage& image,
                              const TileFreshness& freshness)
 {
     --mReading;
-    if (picture.isNull()) {
+    if (image.isNull()) {
         mFetcher.reject(tile);
         mEntries.erase(tile); // perhaps there is an old one on the disk
     } else {
         mFetcher.accept(tile);
         mEntries[tile] = entryOf(freshness);
-        mArrived.emplace_back(tile, picture);
+        mArrived.emplace_back(tile, image);
     }
     emit arrived();
 }
@@ -229,7 +229,7 @@ void TileSource::takeUnchanged(const TileAddress& tile, const TileFreshness& fre
     const auto entry = mEntries.find(tile);
     if (entry != mEntries.end() && entry->second.state == State::Old) {
         entry->second = {State::Fresh, freshness};
-    } // else its picture was dropped in the meantime, and comes from the disk if it is wanted again
+    } // else its image was dropped in the meantime, and comes from the disk if it is wanted again
     mCaretaker.start([store = mStore, tile, freshness] { store->refresh(tile, freshness); });
     emit arrived();
 }

@@ -22,15 +22,15 @@ namespace OpenStreet {
 
 class TileStore;
 
-/// Brings the pictures of tiles from the disk and, where they lack there or are old, from the
-/// server. Files and pictures are read on threads of its own; everything else happens on the
+/// Brings the images of tiles from the disk and, where they are missing there or old, from the
+/// server. Files and images are read on threads of its own; everything else happens on the
 /// thread that it lives in, which needs an event loop.
 class TileSource : public QObject
 {
     Q_OBJECT
 
 public:
-    using Picture = std::pair<TileAddress, QImage>;
+    using Arrival = std::pair<TileAddress, QImage>;
 
     explicit TileSource(QObject* parent = nullptr);
     ~TileSource() override;
@@ -41,24 +41,24 @@ public:
     void setTimeouts(const TileFetcher::Timeouts& timeouts) { mFetcher.setTimeouts(timeouts); }
     /// Tiles that failed are asked for again without waiting for their time.
     void retry() { mFetcher.retry(); }
-    /// Pictures of another folder that are there already stay.
+    /// Images of another folder that are there already stay.
     void setFolder(const QString& folder);
     /// Of the store on disk.
     void setLimit(std::int64_t bytes);
 
-    /// What the picture needs now, most urgent first; `standIns` are only looked for on disk.
-    /// Called for every picture, also unchanged: tiles whose time has come are asked for again.
+    /// Takes what the frame needs now, most urgent first; `standIns` are only looked for on disk.
+    /// Called for every frame, also unchanged: tiles whose time has come are asked for again.
     void want(const std::vector<TileAddress>& tiles, const std::vector<TileAddress>& standIns);
     /// Whether the disk has no such tile, as far as is known.
     [[nodiscard]] bool missing(const TileAddress& tile) const;
-    /// The picture was dropped: if it is wanted again, bring it again.
+    /// Forgets an image that was dropped: if it is wanted again, it is brought again.
     void forget(const TileAddress& tile);
 
     /// Tiles being read, queued or fetched, and what waits for the next want() or takeArrived().
     [[nodiscard]] int loading() const;
     /// The first of what has arrived and was not taken yet, so many at the most; a tile may come
     /// twice: old from the disk, then new.
-    std::vector<Picture> takeArrived(std::size_t most);
+    std::vector<Arrival> takeArrived(std::size_t most);
 
 signals:
     void arrived();
@@ -75,17 +75,16 @@ private:
     struct ReadTile
     {
         bool found = false;
-        QImage picture;
+        QImage image;
         TileFreshness freshness;
     };
 
     [[nodiscard]] Entry entryOf(const TileFreshness& freshness) const;
     void read(const TileAddress& tile);
     void takeRead(const TileAddress& tile, const ReadTile& result);
-    void takeFetched(const TileAddress& tile, const QByteArray& picture,
+    void takeFetched(const TileAddress& tile, const QByteArray& bytes,
                      const TileFreshness& freshness);
-    void takeDecoded(const TileAddress& tile, const QImage& picture,
-                     const TileFreshness& freshness);
+    void takeDecoded(const TileAddress& tile, const QImage& image, const TileFreshness& freshness);
     void takeUnchanged(const TileAddress& tile, const TileFreshness& freshness);
     void countWritten(std::int64_t bytes);
     void trim();
@@ -93,11 +92,11 @@ private:
                     const std::vector<TileAddress>& standIns);
 
     QThreadPool mReaders;   ///< one thread: the view waits for it
-    QThreadPool mCaretaker; ///< one thread for what nobody waits for
+    QThreadPool mCaretaker; ///< one thread for what nothing waits for
     std::shared_ptr<const TileStore> mStore;
     TileFetcher mFetcher;
     std::map<TileAddress, Entry> mEntries;
-    std::vector<Picture> mArrived;
+    std::vector<Arrival> mArrived;
     int mReading = 0;
     int mUnasked = 0; ///< tiles that the disk has not, or only old, and want() does not know yet
     std::int64_t mLimit = 500LL * 1024 * 1024;

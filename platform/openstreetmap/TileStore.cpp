@@ -18,7 +18,7 @@ namespace OpenStreet {
 
 namespace {
 
-constexpr const char* kPicture = ".png";
+constexpr const char* kImage = ".png";
 constexpr const char* kMeta = ".meta";
 /// A note of use costs a write, so it is not made each time.
 constexpr qint64 kSecondsBetweenMarks = 3600;
@@ -56,7 +56,7 @@ struct Stored
 {
     qint64 used;
     qint64 size;
-    QString picture;
+    QString image;
     QString meta;
 };
 
@@ -97,16 +97,16 @@ std::vector<Stored> tilesIn(const QString& folder, const std::atomic<bool>* stop
             QDirIterator files(column, {QStringLiteral("*.png")}, QDir::Files | QDir::NoSymLinks);
             while (files.hasNext() && !isSet(stop)) {
                 files.next();
-                const QFileInfo picture = files.fileInfo();
-                if (!isNumber(picture.completeBaseName())) {
+                const QFileInfo image = files.fileInfo();
+                if (!isNumber(image.completeBaseName())) {
                     continue;
                 }
-                const QFileInfo meta(column + QLatin1Char('/') + picture.completeBaseName() +
+                const QFileInfo meta(column + QLatin1Char('/') + image.completeBaseName() +
                                      QLatin1String(kMeta));
                 const bool isNoted = meta.exists();
-                const QDateTime used = (isNoted ? meta : picture).lastModified();
+                const QDateTime used = (isNoted ? meta : image).lastModified();
                 tiles.push_back({used.toSecsSinceEpoch(),
-                                 picture.size() + (isNoted ? meta.size() : 0), picture.filePath(),
+                                 image.size() + (isNoted ? meta.size() : 0), image.filePath(),
                                  meta.filePath()});
             }
         }
@@ -133,19 +133,19 @@ std::optional<TileStore::Tile> TileStore::read(const TileAddress& tile) const
     if (mFolder.isEmpty()) {
         return std::nullopt;
     }
-    QFile picture(path(tile, kPicture));
-    if (!picture.open(QIODevice::ReadOnly) || picture.size() > kLargestTileBytes) {
+    QFile image(path(tile, kImage));
+    if (!image.open(QIODevice::ReadOnly) || image.size() > kLargestTileBytes) {
         return std::nullopt;
     }
     Tile result;
-    result.picture = picture.readAll();
+    result.bytes = image.readAll();
     QFile meta(path(tile, kMeta));
     if (meta.open(QIODevice::ReadOnly)) {
         result.freshness = parseMeta(meta.read(kLargestMeta));
         markUsed(tile);
     } else {
         result.freshness.expires =
-            QFileInfo(picture).lastModified().toSecsSinceEpoch() + kDefaultLifetime;
+            QFileInfo(image).lastModified().toSecsSinceEpoch() + kDefaultLifetime;
         writeMeta(tile, result.freshness);
     }
     return result;
@@ -153,21 +153,21 @@ std::optional<TileStore::Tile> TileStore::read(const TileAddress& tile) const
 
 bool TileStore::write(const TileAddress& tile, const Tile& content) const
 {
-    // The picture first: without its note it is only asked for again.
-    return !mFolder.isEmpty() && writeFile(path(tile, kPicture), content.picture) &&
+    // The image first: without its note it is only asked for again.
+    return !mFolder.isEmpty() && writeFile(path(tile, kImage), content.bytes) &&
            writeMeta(tile, content.freshness);
 }
 
 bool TileStore::refresh(const TileAddress& tile, const TileFreshness& freshness) const
 {
-    return !mFolder.isEmpty() && QFileInfo::exists(path(tile, kPicture)) &&
+    return !mFolder.isEmpty() && QFileInfo::exists(path(tile, kImage)) &&
            writeMeta(tile, freshness);
 }
 
 void TileStore::remove(const TileAddress& tile) const
 {
     if (!mFolder.isEmpty()) {
-        QFile::remove(path(tile, kPicture));
+        QFile::remove(path(tile, kImage));
         QFile::remove(path(tile, kMeta));
     }
 }
@@ -206,7 +206,7 @@ std::int64_t TileStore::trim(std::int64_t bytes, const std::atomic<bool>* stop) 
         if (total <= bytes || isSet(stop)) {
             break;
         }
-        if (QFile::remove(tile.picture)) {
+        if (QFile::remove(tile.image)) {
             QFile::remove(tile.meta);
             total -= tile.size;
         }

@@ -13,7 +13,7 @@
 namespace OpenStreet {
 
 /// Tiles on disk: plain files Z/X/Y.png, and beside each a small Y.meta with its freshness, whose
-/// file time says when the tile was used last. A folder of plain pictures is a store, too; they
+/// file time says when the tile was used last. A folder of plain images is a store, too; they
 /// live as if fetched when they were last changed. A store that cannot be written only reads.
 ///
 /// An object keeps nothing in memory, so that several threads may use the same folder.
@@ -22,18 +22,18 @@ class TileStore
 public:
     struct Tile
     {
-        QByteArray picture; ///< the bytes of the file
+        QByteArray bytes; ///< of the image file
         TileFreshness freshness;
     };
 
-    /// An empty folder stands for no store.
+    /// An empty folder means no store.
     explicit TileStore(QString folder);
 
     /// Marks the tile as used.
     [[nodiscard]] std::optional<Tile> read(const TileAddress& tile) const;
     /// False if it could not be written; what was there before is kept.
     bool write(const TileAddress& tile, const Tile& content) const;
-    /// The picture is up to date: from now on with this freshness.
+    /// Stores the freshness of an image that is up to date.
     bool refresh(const TileAddress& tile, const TileFreshness& freshness) const;
     void remove(const TileAddress& tile) const;
 

@@ -11,7 +11,7 @@
 
 namespace OpenStreet {
 
-/// The pictures of tiles in the graphics system; what was not drawn for longest makes way. The
+/// The images of tiles in the graphics system; those not drawn for longest are dropped first. The
 /// context rule of Tessel::OpenGL::Texture holds.
 class TileTextures
 {

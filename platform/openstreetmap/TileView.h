@@ -24,8 +24,8 @@ int tileZoom(const MapProjection& projection);
 /// The tiles that the window shows, nearest to its centre first.
 std::vector<PlacedTile> visibleTiles(const MapProjection& projection);
 
-/// The part of an ancestor's picture that a tile covers: left, top, right and bottom as fractions.
-/// `ancestor` must hold `tile`.
+/// Returns the part of an ancestor's image that a tile covers: left, top, right and bottom as
+/// fractions. `ancestor` must hold `tile`.
 std::array<double, 4> partOfAncestor(const TileAddress& tile, const TileAddress& ancestor);
 
 } // namespace OpenStreet

@@ -15,7 +15,7 @@ bool Directory::create(const std::string& path)
 {
     std::error_code error;
     std::filesystem::create_directories(path, error);
-    return exists(path); // its own result tells "made" from "was there", not from "failed"
+    return exists(path); // its own result distinguishes "made" from "was there", not from "failed"
 }
 
 } // namespace Tessel::FileSystem

@@ -54,7 +54,7 @@ public:
     /// Reports a mistake of the statement.
     void wrong(const QString& message);
     void wrong(const char* name, const QString& message);
-    /// A colour by name or as #rrggbb; invalid if it is neither.
+    /// Returns a colour by name or as #rrggbb; invalid if it is neither.
     [[nodiscard]] QColor colorOf(const QString& text) const;
 
 private:

@@ -13,12 +13,12 @@ class ViewVariables;
 class ViewCondition
 {
 public:
-    /// Empty if the text was understood, else what is wrong with it.
+    /// Reads a condition. Returns what is wrong with it, or an empty text.
     [[nodiscard]] QString parse(const QString& text, ViewVariables& variables);
 
-    /// A variable without a value counts as 0.
+    /// Returns whether it holds; a variable without a value counts as 0.
     [[nodiscard]] bool holds(const ViewVariables& variables) const;
-    /// The slots of the variables that it reads.
+    /// Returns the slots of the variables that it reads.
     [[nodiscard]] std::vector<int> slotsRead() const;
 
 private:

@@ -10,19 +10,19 @@ namespace Vista2D {
 struct ViewScale;
 struct ViewGauge;
 
-/// Where numbers lie and how they are written, without anything to paint on.
+/// Where numbers are shown and how they are written, without anything to paint on.
 
-/// The value as a scale shows it.
+/// Returns the value as a scale shows it.
 [[nodiscard]] double shownValue(const ViewScale& scale, double value);
 
-/// Part of the range that lies before a shown value, 0 to 1: beyond its ends a scale stands still.
+/// Returns the part of the range before a shown value, 0 to 1: beyond its ends a scale stops.
 /// NaN for a value that is not a number and for a scale without a range.
 [[nodiscard]] double partOfRange(const ViewScale& scale, double shown);
 
-/// Direction of a shown value on a dial: degrees, clockwise from twelve o'clock.
+/// Returns the direction of a shown value on a dial: degrees, clockwise from twelve o'clock.
 [[nodiscard]] double angleOf(const ViewGauge& gauge, const ViewScale& scale, double shown);
 
-/// The point at a radius and an angle as above, y running downwards.
+/// Returns the point at a radius and an angle as above, y running downwards.
 [[nodiscard]] QPointF onCircle(const QPointF& center, double radius, double degrees);
 
 struct ViewTick
@@ -30,15 +30,15 @@ struct ViewTick
     double at = 0.0;
     bool isLong = false;
 };
-/// The ticks of a scale: whole multiples of the step are long ones.
+/// Returns the ticks of a scale: whole multiples of the step are long ones.
 [[nodiscard]] std::vector<ViewTick> ticksOf(const ViewScale& scale);
 
-/// How many there are, give or take one.
+/// Returns their number, give or take one.
 [[nodiscard]] double tickCount(const ViewScale& scale);
 
-/// The text of a shown value; dashes for one that is not a number.
+/// Returns the text of a shown value; dashes for one that is not a number.
 [[nodiscard]] QString numberText(const ViewScale& scale, double shown);
-/// The number at a tick.
+/// Returns the number at a tick.
 [[nodiscard]] QString tickText(const ViewScale& scale, double at);
 
 } // namespace Vista2D

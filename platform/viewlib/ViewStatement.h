@@ -14,7 +14,7 @@ class ViewStatement
 public:
     enum class Kind { Nothing, Element, Close };
 
-    /// What cannot be understood goes to the errors; the rest of the line counts.
+    /// Reads a line. What cannot be understood goes to the errors; the rest of the line counts.
     ViewStatement(const QString& text, int line, ViewErrors& errors);
 
     [[nodiscard]] Kind kind() const { return mKind; }
@@ -29,11 +29,11 @@ public:
         QString value;
         bool isUsed = false;
     };
-    /// The value of an attribute, which counts as used then; null if it is not given.
+    /// Returns the value of an attribute, which counts as used then; null if it is not given.
     const QString* take(const char* name);
-    /// All attributes, which count as used then.
+    /// Returns all attributes, which count as used then.
     const std::vector<Attribute>& takeAll();
-    /// The first attribute that nobody took; null if there is none.
+    /// Returns the first unused attribute; null if there is none.
     [[nodiscard]] const QString* unused() const;
 
 private:

@@ -74,7 +74,7 @@ void ViewSurface::text(const ViewText& style, const QString& text, const QColor&
     mPainter.setFont(font(style.size, style.bold));
     mPainter.setPen(color);
     const QFontMetricsF metrics(mPainter.font(), mPainter.device());
-    // Large letters cost most, those that nobody sees as well, so that the panel is the limit.
+    // Large letters cost most, even outside of the panel, so that the panel is the limit.
     const double panel = mPainter.device()->width();
     const double room = style.width > 0.0 ? std::min(style.width * mScale, panel) : panel;
     QString shown = text;

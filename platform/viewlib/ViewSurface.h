@@ -14,19 +14,19 @@ public:
     ViewSurface(QPainter& painter, double scale, const ViewColors& colors);
 
     [[nodiscard]] const ViewColors& colors() const { return mColors; }
-    /// The colour of a state: 0 the given one, 1 warning, 2 limit.
+    /// Returns the colour of a state: 0 the given one, 1 warning, 2 limit.
     [[nodiscard]] QColor stateColor(int state, const QColor& normal) const;
 
-    /// The painter, in view units and without pen and brush.
+    /// Returns the painter, in view units and without pen and brush.
     [[nodiscard]] QPainter& shapes();
-    /// A part of a ring around a centre, angles clockwise from twelve o'clock.
+    /// Draws a part of a ring around a centre, angles clockwise from twelve o'clock.
     void ring(const QPointF& center, double radius, double width, double from, double to,
               const QColor& color);
     void box(const QRectF& box, double corner, const QColor& fill, const QColor& line = {},
              double width = 1.0);
 
     void text(const ViewText& style, const QString& text, const QColor& color);
-    /// Centred on a point in both directions, capitals and digits taken.
+    /// Draws a text centred on a point in both directions, as capitals and digits are.
     void centered(const QPointF& center, double size, bool bold, const QString& text,
                   const QColor& color);
 

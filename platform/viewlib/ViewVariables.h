@@ -10,13 +10,13 @@ namespace Vista2D {
 class ViewVariables
 {
 public:
-    /// The slot of a name; made, without a value, if there is none.
+    /// Returns the slot of a name; made, without a value, if there is none.
     int slot(const std::string& name);
-    /// -1 if there is none.
+    /// Returns the slot of a name; -1 if there is none.
     [[nodiscard]] int find(const std::string& name) const;
 
     void set(int slot, double value);
-    /// NaN if it has no value.
+    /// Returns the value; NaN if it has none.
     [[nodiscard]] double value(int slot) const;
     /// Changes with every change of a value.
     [[nodiscard]] unsigned long revision() const { return mRevision; }

@@ -105,7 +105,7 @@ void DialogDataMap::createTools()
     mToolBar = new QToolBar(this);
     mToolBar->setObjectName(QStringLiteral("mapToolBar"));
     const QColor surface = Palette::current().surface;
-    // The bar lets the map through, so its buttons bring a ground of their own.
+    // The bar lets the map through, so its buttons have a background of their own.
     mToolBar->setStyleSheet(QLatin1String(kToolBarStyle) +
                             QStringLiteral(".QToolBar{border: none;padding: 0px;}"
                                            "QToolButton{background-color: %1;}"
@@ -134,7 +134,7 @@ void DialogDataMap::createTools()
         mMap->fitFlightPath();
     });
     for (QAction* action : {mCenter, mFit}) {
-        action->setIconVisibleInMenu(false); // it would take the place of the tick
+        action->setIconVisibleInMenu(false); // it would be shown instead of the tick
         QWidget* button = mToolBar->widgetForAction(action);
         button->setAccessibleName(action->text());
         button->setFocusPolicy(Qt::TabFocus); // a click leaves the keys to the map
@@ -316,7 +316,7 @@ void DialogDataMap::contextMenuEvent(QContextMenuEvent* event)
     menu.exec(event->globalPos());
 }
 
-// --- places
+// --- layout
 
 void DialogDataMap::resizeEvent(QResizeEvent* event)
 {

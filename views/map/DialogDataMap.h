@@ -47,9 +47,9 @@ public:
 
     /// The aircraft at a time (s); the empty point where the record has no position.
     FlightPathPoint calcPositionAtTime(double seconds) const;
-    /// Lays a sentence over the map until the next record, or none, is shown.
+    /// Shows a sentence over the map until the next record, or none, is shown.
     void showHint(const QString& sentence);
-    /// Puts the parts that lie over the map in their places.
+    /// Moves the parts over the map to their positions.
     void updateGeometry();
 
     const MapContext& mapContext() const { return mContext; }
@@ -72,7 +72,7 @@ private:
     /// A line of the value panel.
     struct DataEntry
     {
-        const ProfileParameter* parameter = nullptr; ///< of the profile; taken anew after changes
+        const ProfileParameter* parameter = nullptr; ///< of the profile; taken again after changes
         QString label;
         QString value;
         QColor color; ///< of the threshold passed; invalid within the thresholds

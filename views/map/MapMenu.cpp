@@ -90,7 +90,7 @@ void MapMenu::addColors()
     }
 }
 
-/// An empty name stands for the altitude, as in the selection.
+/// An empty name means the altitude, as in the selection.
 void MapMenu::addColor(QMenu& menu, QActionGroup& group, const QString& text,
                        const QString& fullName)
 {

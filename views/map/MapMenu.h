@@ -10,8 +10,8 @@ class MapSelection;
 class Profile;
 struct ProfileParameter;
 
-/// The map's context menu: which values lie over the map, and what colours the path. Both refer to
-/// the selected parameters of the profile, which must not change while the menu is open.
+/// The map's context menu: which values are shown over the map, and what colours the path. Both
+/// refer to the selected parameters of the profile, which must not change while the menu is open.
 class MapMenu : public QMenu
 {
     Q_OBJECT

@@ -81,11 +81,12 @@ void MapOverlay::panel(GlHandler& gl, const QRectF& area)
 void MapOverlay::paint(GlHandler& gl, const QSize& pixels, const Content& content)
 {
     mPixels = pixels;
-    QRectF ground = paintLines(gl, QString::fromLatin1(MapTexts::kAttribution), pixels.height());
+    QRectF background =
+        paintLines(gl, QString::fromLatin1(MapTexts::kAttribution), pixels.height());
     if (!content.notice.isEmpty()) {
-        ground = ground.united(paintLines(gl, content.notice, ground.top()));
+        background = background.united(paintLines(gl, content.notice, background.top()));
     }
-    const Room room = paintScale(gl, content, ground);
+    const Room room = paintScale(gl, content, background);
     if (content.legend != nullptr) {
         paintLegend(gl, content, room);
     }
@@ -109,7 +110,7 @@ QStringList MapOverlay::wrapped(const QString& text, double width) const
 }
 
 /// On the right, in as many lines as a narrow window needs: all of it must be seen. Returns its
-/// ground, which reaches down to the bottom.
+/// background, which reaches down to the bottom.
 QRectF MapOverlay::paintLines(GlHandler& gl, const QString& text, double bottom)
 {
     const double right = mPixels.width() - kEdge * mRatio;
@@ -119,15 +120,15 @@ QRectF MapOverlay::paintLines(GlHandler& gl, const QString& text, double bottom)
         width = std::max(width, mFont.width(line));
     }
     double y = std::floor(bottom - lines.size() * mFont.height() - kEdge * mRatio);
-    const QRectF ground(
+    const QRectF background(
         QPointF(std::floor(right - width) - kPadding * mRatio, y - kPadding * mRatio),
         QPointF(mPixels.width(), bottom));
-    panel(gl, ground);
+    panel(gl, background);
     for (const QString& line : lines) {
         mFont.render(gl, std::floor(right - mFont.width(line)), y, line);
         y += mFont.height();
     }
-    return ground;
+    return background;
 }
 
 /// Beside the texts at the bottom, or above them where that leaves no room.
@@ -228,7 +229,7 @@ void MapOverlay::paintReadout(GlHandler& gl, const Content& content)
     const double line = mFont.height();
     QRectF area(0.0, 0.0, width + 4.0 * padding, content.readout.size() * line + 2.0 * padding);
     const double gap = kMouseGap * mRatio;
-    // Below the mouse or above it, and never out of the window: the place itself stays in sight.
+    // Below the mouse or above it, and never out of the window: the place itself stays visible.
     const bool fitsBelow = content.mouse.y() + gap + area.height() < mPixels.height();
     const double x =
         std::min(content.mouse.x() - area.width() / 2.0, mPixels.width() - area.width());

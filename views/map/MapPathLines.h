@@ -24,7 +24,7 @@ namespace VELIX {
 /// pixel would give a line with a ragged edge. One outline serves all views of the whole path, and
 /// another, made when it is needed, all zooms within a factor of 2.
 ///
-/// Vertices are single precision, so each part of the path lies near an origin of its own: far
+/// Vertices are single precision, so each part of the path has an origin of its own nearby: far
 /// from the origin a vertex would be pixels off where the map shows 50 m. Parts out of sight are
 /// not drawn.
 class MapPathLines

@@ -104,7 +104,7 @@ void MapScene::drawPath()
     const double world = kWorld / scale;
     const double half = mPath.halfWidth() / scale;
     const QSize& window = mCamera.pixels();
-    // A window may show the globe more than once, and a path may lie across its edge.
+    // A window may show the globe more than once, and a path may cross its edge.
     const double first = std::ceil((-half - middle.x()) / world);
     for (double copy = first; middle.x() + copy * world - half < window.width(); copy += 1.0) {
         mLines.render(mGl, mPath, window, middle.x() + copy * world, middle.y(), scale);

@@ -28,7 +28,7 @@ public:
 
     /// Shows or hides a value; false if there is no room for one more.
     bool setValueShown(const Profile& profile, const QString& fullName, bool shown);
-    /// An empty name stands for the altitude.
+    /// Colours the path by a parameter; an empty name means the altitude.
     void setColor(const QString& fullName);
 
 private:

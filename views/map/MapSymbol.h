@@ -4,7 +4,7 @@
 
 namespace VELIX {
 
-/// The aircraft as it stands on the map, flying north, so many pixels wide and high.
+/// Returns the aircraft as the map shows it, flying north, so many pixels wide and high.
 QImage mapAircraft(int pixels);
 
 } // namespace VELIX

@@ -16,7 +16,7 @@ constexpr int kMargin = 8;
 constexpr int kGap = 8;
 constexpr int kPadding = 4;
 constexpr int kRadius = 10;
-constexpr double kAlpha = 0.7; // on the ground of the panel: the map shows, texts are readable
+constexpr double kAlpha = 0.7; // of the background of a value: the map shows, texts are readable
 
 } // namespace
 
@@ -37,14 +37,14 @@ void MapValues::setRows(std::vector<Row> rows)
     update();
 }
 
-void MapValues::setValue(std::size_t row, const QString& value, const QColor& ground)
+void MapValues::setValue(std::size_t row, const QString& value, const QColor& background)
 {
     Row& there = mRows[row];
-    if (there.value == value && there.ground == ground) {
+    if (there.value == value && there.background == background) {
         return;
     }
     there.value = value;
-    there.ground = ground;
+    there.background = background;
     const int before = mValueWidth;
     measure(there);
     if (mValueWidth != before) {
@@ -85,9 +85,9 @@ void MapValues::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    QColor ground = palette.surface;
-    ground.setAlphaF(kAlpha);
-    painter.setBrush(ground);
+    QColor background = palette.surface;
+    background.setAlphaF(kAlpha);
+    painter.setBrush(background);
     painter.drawRoundedRect(rect(), kRadius, kRadius);
     int top = kMargin - kPadding / 2;
     for (const Row& row : mRows) {
@@ -95,11 +95,11 @@ void MapValues::paintEvent(QPaintEvent*)
         QRect value = line;
         value.setLeft(line.right() + 1 - mValueWidth);
         QColor ink = palette.text;
-        if (row.ground.isValid()) {
+        if (row.background.isValid()) {
             painter.setPen(Qt::NoPen);
-            painter.setBrush(row.ground);
+            painter.setBrush(row.background);
             painter.drawRoundedRect(value.adjusted(0, 1, 0, -1), kPadding, kPadding);
-            ink = Palette::textOn(row.ground);
+            ink = Palette::textOn(row.background);
         }
         painter.setPen(palette.text);
         painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter, row.label);

@@ -8,7 +8,7 @@
 
 namespace VELIX {
 
-/// A list of names and values that lies over the map. Its width only grows while it shows the same
+/// A list of names and values over the map. Its width only grows while it shows the same
 /// names, so that a replay does not shake it.
 class MapValues : public QWidget
 {
@@ -17,16 +17,16 @@ public:
     {
         QString label;
         QString value;
-        QColor ground; ///< the threshold's colour; invalid within the thresholds
+        QColor background; ///< the threshold's colour; invalid within the thresholds
 
         bool operator==(const Row&) const = default;
     };
 
     explicit MapValues(QWidget* parent = nullptr);
 
-    /// Other names: the width is found anew.
+    /// Shows other names; the width is measured again.
     void setRows(std::vector<Row> rows);
-    void setValue(std::size_t row, const QString& value, const QColor& ground);
+    void setValue(std::size_t row, const QString& value, const QColor& background);
     [[nodiscard]] const std::vector<Row>& rows() const { return mRows; }
 
     [[nodiscard]] QSize sizeHint() const override;

@@ -46,7 +46,7 @@ public:
     /// Shows the aircraft at the cursor; the empty point hides it.
     void setAcPosition(const FlightPathPoint& position);
     void setImperial(bool imperial);
-    /// Takes the lower end of what lies over the map at its upper edge, in logical pixels.
+    /// Takes the lower end of what is over the map at its upper edge, in logical pixels.
     void setToolsBottom(int pixels);
 
     /// Makes the lines of the path and fits the view to it, with the context current.

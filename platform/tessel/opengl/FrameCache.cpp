@@ -47,19 +47,19 @@ bool FrameCache::begin(const QSize& pixels)
     functions().glGetIntegerv(GL_FRAMEBUFFER_BINDING, &target);
     if (std::max(pixels.width(), pixels.height()) > largestSide()) {
         release();
-        return false; // trying would print a warning with each picture
+        return false; // trying would print a warning with each frame
     }
     if (!holds(pixels)) {
         release(); // before the next ones take their memory
         QOpenGLFramebufferObjectFormat format;
-        mPicture = std::make_unique<QOpenGLFramebufferObject>(pixels, format);
+        mFrame = std::make_unique<QOpenGLFramebufferObject>(pixels, format);
         if (mSamples > 0) {
             format.setSamples(mSamples);
             mDrawn = std::make_unique<QOpenGLFramebufferObject>(pixels, format);
         }
     }
-    const QOpenGLFramebufferObject& drawn = mDrawn != nullptr ? *mDrawn : *mPicture;
-    if (!drawn.isValid() || !mPicture->isValid()) {
+    const QOpenGLFramebufferObject& drawn = mDrawn != nullptr ? *mDrawn : *mFrame;
+    if (!drawn.isValid() || !mFrame->isValid()) {
         release();
         functions().glBindFramebuffer(GL_FRAMEBUFFER, static_cast<GLuint>(target));
         return false;
@@ -71,24 +71,24 @@ bool FrameCache::begin(const QSize& pixels)
 void FrameCache::end() const
 {
     if (mDrawn != nullptr) {
-        copy(*mDrawn, mPicture->handle());
+        copy(*mDrawn, mFrame->handle());
     }
 }
 
 bool FrameCache::holds(const QSize& pixels) const
 {
-    return mPicture != nullptr && mPicture->size() == pixels;
+    return mFrame != nullptr && mFrame->size() == pixels;
 }
 
 void FrameCache::copyTo(GLuint target) const
 {
-    copy(*mPicture, target);
+    copy(*mFrame, target);
 }
 
 void FrameCache::release()
 {
     mDrawn.reset();
-    mPicture.reset();
+    mFrame.reset();
 }
 
 } // namespace Tessel::OpenGL

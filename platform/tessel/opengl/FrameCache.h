@@ -7,7 +7,7 @@
 
 namespace Tessel::OpenGL {
 
-/// Keeps what was drawn, so that a picture of which little changes costs a copy and that little.
+/// Keeps what was drawn, so that a frame of which little changes costs a copy and that little.
 ///
 /// All calls but the constructor need one and the same OpenGL context to be current.
 class FrameCache
@@ -23,20 +23,20 @@ public:
     /// that size before is still there.
     /// @return false if there is no such buffer; the target is then what it was
     [[nodiscard]] bool begin(const QSize& pixels);
-    /// The picture is drawn.
+    /// Ends the drawing that begin() began.
     void end() const;
-    /// Whether there is a picture of that size.
+    /// Whether there is a frame of that size.
     [[nodiscard]] bool holds(const QSize& pixels) const;
-    /// Copies the picture to a frame buffer of the same size, which becomes the target.
+    /// Copies the frame to a frame buffer of the same size, which becomes the target.
     void copyTo(GLuint target) const;
-    /// Forgets picture and buffers.
+    /// Forgets frame and buffers.
     void release();
 
 private:
     int mSamples;
     std::unique_ptr<QOpenGLFramebufferObject> mDrawn; ///< several samples for each pixel
     /// Their mean: finding it costs as much as many copies.
-    std::unique_ptr<QOpenGLFramebufferObject> mPicture;
+    std::unique_ptr<QOpenGLFramebufferObject> mFrame;
 };
 
 } // namespace Tessel::OpenGL

@@ -16,7 +16,7 @@ public:
     GlBuffer(const GlBuffer&) = delete;
     GlBuffer& operator=(const GlBuffer&) = delete;
 
-    /// What was handed over is out of date: the next bind() takes the content anew.
+    /// Has the next bind() take the content again.
     void invalidate() { mCurrent = false; }
     /// Whether the next bind() has no use for content.
     [[nodiscard]] bool isCurrent() const { return mBuffer != 0 && mCurrent; }

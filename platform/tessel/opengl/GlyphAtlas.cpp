@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kFirstSize = 256;
 constexpr int kLargestSize = 2048;
-constexpr int kGap = 1; ///< keeps neighbours apart when the picture is scaled
+constexpr int kGap = 1; ///< keeps neighbours apart when the image is scaled
 
 std::string nameOf(const QRawFont& font)
 {
@@ -32,19 +32,19 @@ GlyphAtlas::Glyph GlyphAtlas::glyph(const QRawFont& font, unsigned int index)
     if (found != mGlyphs.end()) {
         return found->second;
     }
-    const QImage picture = font.alphaMapForGlyph(index, QRawFont::PixelAntialiasing)
-                               .convertToFormat(QImage::Format_Alpha8);
+    const QImage image = font.alphaMapForGlyph(index, QRawFont::PixelAntialiasing)
+                             .convertToFormat(QImage::Format_Alpha8);
     Glyph glyph;
-    if (!picture.isNull()) {
+    if (!image.isNull()) {
         QPoint at;
-        if (!place(picture.size(), at)) {
+        if (!place(image.size(), at)) {
             return {};
         }
-        for (int y = 0; y < picture.height(); ++y) {
-            std::memcpy(mImage.scanLine(at.y() + y) + at.x(), picture.constScanLine(y),
-                        static_cast<std::size_t>(picture.width()));
+        for (int y = 0; y < image.height(); ++y) {
+            std::memcpy(mImage.scanLine(at.y() + y) + at.x(), image.constScanLine(y),
+                        static_cast<std::size_t>(image.width()));
         }
-        glyph.area = QRect(at, picture.size());
+        glyph.area = QRect(at, image.size());
         glyph.bearing = font.boundingRect(index).toAlignedRect().topLeft();
         mChanged = true;
     }
@@ -57,7 +57,7 @@ bool GlyphAtlas::takeChanged()
     return std::exchange(mChanged, false);
 }
 
-/// Finds room for a picture and takes it.
+/// Finds room for a glyph and takes it.
 bool GlyphAtlas::place(const QSize& size, QPoint& at)
 {
     if (std::max(size.width(), size.height()) + kGap > kLargestSize) {
@@ -83,7 +83,7 @@ bool GlyphAtlas::place(const QSize& size, QPoint& at)
     return true;
 }
 
-/// Keeps the places of all glyphs.
+/// Keeps the positions of all glyphs.
 bool GlyphAtlas::grow()
 {
     const int side = mImage.isNull() ? kFirstSize : mImage.width() * 2;

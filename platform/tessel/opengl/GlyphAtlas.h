@@ -12,19 +12,19 @@ class QRawFont;
 
 namespace Tessel::OpenGL {
 
-/// The pictures of glyphs, each rasterised once and packed into one image in rows.
+/// The images of glyphs, each rasterised once and packed into one image in rows.
 class GlyphAtlas
 {
 public:
     struct Glyph
     {
         QRect area;     ///< in the atlas; empty for a glyph without ink
-        QPoint bearing; ///< upper left corner of the picture from the pen, y downwards
+        QPoint bearing; ///< upper left corner of the image from the pen, y downwards
     };
 
-    /// An empty area also for a glyph that is larger than the whole atlas. May drop all others
-    /// when the atlas is full at its largest size: generation() then changes, and what was
-    /// returned before is void.
+    /// Returns a glyph, with an empty area also for one that is larger than the whole atlas. May
+    /// drop all others when the atlas is full at its largest size: generation() then changes, and
+    /// what was returned before is void.
     Glyph glyph(const QRawFont& font, unsigned int index);
     [[nodiscard]] int generation() const { return mGeneration; }
 
@@ -34,8 +34,7 @@ public:
     [[nodiscard]] bool takeChanged();
 
 private:
-    /// Fonts that stand in for one another share indices: the family, style and size tell them
-    /// apart.
+    /// Fonts that replace one another share indices: family, style and size distinguish them.
     using Key = std::pair<std::string, unsigned int>;
 
     bool place(const QSize& size, QPoint& at);

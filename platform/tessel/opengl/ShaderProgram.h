@@ -20,7 +20,7 @@ public:
     ShaderProgram(const ShaderProgram&) = delete;
     ShaderProgram& operator=(const ShaderProgram&) = delete;
 
-    /// Attribute 0 is called "position", attribute 1 as told (null: there is none). Once the
+    /// Attribute 0 is called "position", attribute 1 as given (null: there is none). Once the
     /// graphics system has refused the sources, they are not tried again before release().
     [[nodiscard]] bool create(const char* vertexSource, const char* fragmentSource,
                               const char* secondAttribute = nullptr);

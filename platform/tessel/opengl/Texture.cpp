@@ -66,7 +66,7 @@ void Texture::renderPart(GlHandler& gl, double x, double y, double width, double
     bind();
     mBuffer.invalidate();
     mBuffer.bind(mVertices.data(), sizeof(mVertices));
-    if (gl.textures().begin(gl.matrices(), mColor, TextureProgram::Content::Picture)) {
+    if (gl.textures().begin(gl.matrices(), mColor, TextureProgram::Content::Image)) {
         std::optional<Blending> blending;
         if (!mOpaque || mColor.alpha < 1.0F) { // it costs software drivers as much as the drawing
             blending.emplace(Blending::Colors::Premultiplied);

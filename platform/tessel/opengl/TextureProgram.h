@@ -21,7 +21,7 @@ public:
 
     /// What the texture holds.
     enum class Content {
-        Picture, ///< colours, premultiplied with their opacity
+        Image,   ///< colours, premultiplied with their opacity
         Coverage ///< opacity alone, as of glyphs
     };
 

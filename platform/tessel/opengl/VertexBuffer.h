@@ -19,11 +19,11 @@ public:
     };
 
     void add(float x, float y);
-    /// Drops the vertices and keeps their memory for the next picture.
+    /// Drops the vertices and keeps their memory for the next frame.
     void clear();
     [[nodiscard]] std::size_t size() const { return mVertices.size(); }
 
-    /// Binds the buffer for drawing, after handing over what changed since the last time.
+    /// Binds the buffer for drawing, after passing on what changed since the last time.
     void bind() { mBuffer.bind(mVertices.data(), mVertices.size() * sizeof(Vertex)); }
     static void unbind() { GlBuffer::unbind(); }
     /// Gives the buffer back to the graphics system; the vertices stay.

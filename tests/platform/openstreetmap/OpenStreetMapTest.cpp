@@ -40,8 +40,8 @@ protected:
         mSurface.create();
         ASSERT_TRUE(mContext.create());
         ASSERT_TRUE(mContext.makeCurrent(&mSurface));
-        mPicture = std::make_unique<QOpenGLFramebufferObject>(kWidth, kHeight);
-        mPicture->bind();
+        mTarget = std::make_unique<QOpenGLFramebufferObject>(kWidth, kHeight);
+        mTarget->bind();
         mContext.functions()->glViewport(0, 0, kWidth, kHeight);
         mMap = std::make_unique<OpenStreetMap>();
         mMap->setTileDirectory(mDir.path().toUtf8().constData());
@@ -54,7 +54,7 @@ protected:
     {
         mMap.reset();
         EXPECT_EQ(mContext.functions()->glGetError(), 0U);
-        mPicture.reset();
+        mTarget.reset();
         mContext.doneCurrent();
     }
 
@@ -74,7 +74,7 @@ protected:
         mContext.functions()->glClearColor(1.0F, 0.0F, 1.0F, 1.0F);
         mContext.functions()->glClear(GL_COLOR_BUFFER_BIT);
         mMap->render();
-        return mPicture->toImage();
+        return mTarget->toImage();
     }
     /// Draws until everything that can come has come.
     QImage settled()
@@ -106,7 +106,7 @@ protected:
     TileServer mServer;
     QOffscreenSurface mSurface;
     QOpenGLContext mContext;
-    std::unique_ptr<QOpenGLFramebufferObject> mPicture;
+    std::unique_ptr<QOpenGLFramebufferObject> mTarget;
     std::unique_ptr<OpenStreetMap> mMap;
 };
 
@@ -152,18 +152,18 @@ TEST_F(OpenStreetMapTest, WithoutServerTheDiskStandsInAndElseTheOutlineIsDrawn)
     EXPECT_EQ(image.pixelColor(400, 200), TileServer::tileColor(6, 34, 22));
     lookAt(8, 20.0, 20.0);
     image = settled();
-    const QColor ground = image.pixelColor(301, 203);
-    EXPECT_GT(ground.lightness(), 180);
-    EXPECT_NE(ground, QColor(255, 0, 255));
+    const QColor background = image.pixelColor(301, 203);
+    EXPECT_GT(background.lightness(), 180);
+    EXPECT_NE(background, QColor(255, 0, 255));
     int lines = 0;
     for (int x = 0; x < kWidth; ++x) {
-        lines += image.pixelColor(x, 203) != ground ? 1 : 0;
+        lines += image.pixelColor(x, 203) != background ? 1 : 0;
     }
     EXPECT_GE(lines, 2) << "meridians";
     EXPECT_LT(lines, 60);
 }
 
-TEST_F(OpenStreetMapTest, WhatArrivesIsAddedToThePictureAsIfAllWereDrawn)
+TEST_F(OpenStreetMapTest, WhatArrivesIsAddedToTheFrameAsIfAllWereDrawn)
 {
     const auto complete = [this] {
         lookAt(8, 20.0, 20.0);
@@ -202,7 +202,7 @@ TEST_F(OpenStreetMapTest, HoweverManyTilesAWindowShowsItComesToRest)
     mMap->setVisibleRange(kShown * pixel, 256.0 * kRows * pixel);
     const QImage image = settled();
     EXPECT_GT(mServer.requests(), 256);
-    EXPECT_EQ(mMap->nrLoadingTiles(), 0) << "also after one more picture";
+    EXPECT_EQ(mMap->nrLoadingTiles(), 0) << "also after one more frame";
     for (int y = 0; y < kHeight; y += 7) {
         for (int x = 0; x < kWidth; x += 50) {
             ASSERT_EQ(image.pixelColor(x, y).red(), TileServer::tileColor(8, 0, 0).red());

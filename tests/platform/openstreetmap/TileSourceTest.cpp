@@ -60,15 +60,15 @@ protected:
     }
     void take(TileSource& source)
     {
-        for (const TileSource::Picture& picture : source.takeArrived(4)) {
-            mPictures[picture.first].push_back(picture.second);
+        for (const TileSource::Arrival& arrival : source.takeArrived(4)) {
+            mImages[arrival.first].push_back(arrival.second);
         }
     }
 
     QTemporaryDir mDir;
     TileServer mServer;
     TileSource mSource;
-    std::map<TileAddress, std::vector<QImage>> mPictures;
+    std::map<TileAddress, std::vector<QImage>> mImages;
     std::vector<std::string> mFailures;
     QString mFailedUrl; ///< the last one's
 };
@@ -77,19 +77,19 @@ TEST_F(TileSourceTest, TilesComeFromTheServerOnceAndThenFromTheDisk)
 {
     const std::vector<TileAddress> tiles{{4, 8, 5}, {4, 9, 5}};
     settle(mSource, tiles);
-    ASSERT_EQ(mPictures.size(), 2U);
-    EXPECT_EQ(mPictures[tiles[1]].front().pixelColor(99, 99), TileServer::tileColor(4, 9, 5));
+    ASSERT_EQ(mImages.size(), 2U);
+    EXPECT_EQ(mImages[tiles[1]].front().pixelColor(99, 99), TileServer::tileColor(4, 9, 5));
     EXPECT_EQ(mServer.requests(), 2);
     EXPECT_EQ(mServer.header("user-agent"), QByteArray("Tester/1.0"));
     EXPECT_EQ(mServer.header("accept-encoding"), QByteArray("identity"));
     EXPECT_TRUE(QFileInfo::exists(mDir.filePath(QStringLiteral("4/8/5.png"))));
 
-    mPictures.clear();
+    mImages.clear();
     TileSource later;
     later.setFolder(mDir.path());
     later.setServer(mServer.url());
     settle(later, tiles);
-    EXPECT_EQ(mPictures.size(), 2U);
+    EXPECT_EQ(mImages.size(), 2U);
     EXPECT_EQ(mServer.requests(), 2);
 }
 
@@ -102,7 +102,7 @@ TEST_F(TileSourceTest, FourAtATimeAndOnlyWhatIsStillWanted)
         tiles.push_back({5, x, 3});
     }
     settle(mSource, tiles);
-    EXPECT_EQ(mPictures.size(), 12U);
+    EXPECT_EQ(mImages.size(), 12U);
     EXPECT_EQ(mServer.mostParallel(), 4);
     EXPECT_EQ(mServer.mostSockets(), 4);
 
@@ -115,7 +115,7 @@ TEST_F(TileSourceTest, FourAtATimeAndOnlyWhatIsStillWanted)
     mServer.setMode(TileServer::Mode::Tiles);
     const std::vector<TileAddress> elsewhere{{5, 30, 30}};
     settle(mSource, elsewhere);
-    EXPECT_EQ(mPictures.count(elsewhere[0]), 1U);
+    EXPECT_EQ(mImages.count(elsewhere[0]), 1U);
     EXPECT_EQ(mServer.requests(), 17) << "what is out of sight is not fetched";
 }
 
@@ -127,7 +127,7 @@ TEST_F(TileSourceTest, AnOldTileIsShownWhileTheServerIsAsked)
     mServer.setEntityTag("\"v1\"");
     mServer.setHeaders({"Cache-Control: max-age=3600"});
     settle(mSource, {tile});
-    EXPECT_EQ(mPictures[tile].size(), 1U);
+    EXPECT_EQ(mImages[tile].size(), 1U);
     EXPECT_EQ(mServer.notModified(), 1);
     settle(mSource, {tile});
     EXPECT_EQ(mServer.requests(), 1) << "it is fresh again";
@@ -142,13 +142,13 @@ TEST_F(TileSourceTest, AnOldTileIsShownWhileTheServerIsAsked)
 
     mServer.setEntityTag("\"v2\"");
     ASSERT_TRUE(store.refresh(tile, {1, "\"v1\"", ""}));
-    mPictures.clear();
+    mImages.clear();
     TileSource later;
     later.setFolder(mDir.path());
     later.setServer(mServer.url());
     settle(later, {tile});
-    ASSERT_EQ(mPictures[tile].size(), 2U) << "the old one, then the new one";
-    EXPECT_EQ(mPictures[tile].back().pixelColor(5, 5), TileServer::tileColor(4, 8, 5));
+    ASSERT_EQ(mImages[tile].size(), 2U) << "the old one, then the new one";
+    EXPECT_EQ(mImages[tile].back().pixelColor(5, 5), TileServer::tileColor(4, 8, 5));
     EXPECT_EQ(store.read(tile)->freshness.entityTag, QByteArray("\"v2\""));
 }
 
@@ -166,14 +166,14 @@ TEST_F(TileSourceTest, UnchangedIsOnlyWhatIsThere)
     take(mSource);
     mSource.forget(tile); // as when the window is closed
     ASSERT_TRUE(waitFor([&] { return store.read(tile)->freshness.expires > 1; }));
-    mPictures.clear();
+    mImages.clear();
     settle(mSource, {tile});
-    EXPECT_EQ(mPictures.count(tile), 1U) << "its picture comes from the disk again";
+    EXPECT_EQ(mImages.count(tile), 1U) << "its image comes from the disk again";
 
     mServer.setMode(TileServer::Mode::Unchanged);
     settle(mSource, {{4, 9, 5}});
     settle(mSource, {{4, 9, 5}});
-    EXPECT_EQ(mServer.requests(), 2) << "what has no picture is a tile that failed";
+    EXPECT_EQ(mServer.requests(), 2) << "what has no image is a tile that failed";
     EXPECT_EQ(mFailures, std::vector<std::string>{"HTTP status 304"});
 }
 
@@ -186,22 +186,22 @@ TEST_F(TileSourceTest, TilesOfAnotherServerAreShownUntilThisOneSendsItsOwn)
     settle(mSource, {tile});
     EXPECT_EQ(other.requests(), 1);
 
-    mPictures.clear();
+    mImages.clear();
     TileSource later;
     later.setFolder(mDir.path());
     later.setServer(mServer.url());
     settle(later, {tile});
-    EXPECT_EQ(mPictures[tile].size(), 2U) << "what is on disk, then its own";
+    EXPECT_EQ(mImages[tile].size(), 2U) << "what is on disk, then its own";
     EXPECT_EQ(mServer.requests(), 2);
 }
 
-TEST_F(TileSourceTest, AServerThatForbidsKeepingIsNotAskedWithEveryPicture)
+TEST_F(TileSourceTest, AServerThatForbidsKeepingIsNotAskedWithEveryFrame)
 {
     mServer.setHeaders({"Cache-Control: no-store"});
     settle(mSource, {{4, 8, 5}});
     settle(mSource, {{4, 8, 5}});
     EXPECT_EQ(mServer.requests(), 1);
-    EXPECT_EQ(mPictures.count({4, 8, 5}), 1U);
+    EXPECT_EQ(mImages.count({4, 8, 5}), 1U);
     EXPECT_FALSE(QFileInfo::exists(mDir.filePath(QStringLiteral("4/8/5.png"))));
 }
 
@@ -221,7 +221,7 @@ TEST_F(TileSourceTest, AServerThatRefusesIsLeftAloneForAsLongAsItAsks)
     EXPECT_FALSE(waitFor(askAgain, 100)) << "nor when the user wants another try";
     mSource.setServer(mServer.url() + QStringLiteral("/{z}/{x}/{y}.png"));
     settle(mSource, tiles);
-    EXPECT_EQ(mPictures.size(), 5U) << "another server";
+    EXPECT_EQ(mImages.size(), 5U) << "another server";
 }
 
 TEST_F(TileSourceTest, WhatIsNoTileCostsAMissingTileAndALaterTry)
@@ -234,7 +234,7 @@ TEST_F(TileSourceTest, WhatIsNoTileCostsAMissingTileAndALaterTry)
         mServer.setMode(mode);
         const int before = mServer.requests();
         settle(mSource, {tile});
-        EXPECT_EQ(mPictures.count(tile), 0U) << number;
+        EXPECT_EQ(mImages.count(tile), 0U) << number;
         const int asked = mServer.requests() - before;
         EXPECT_GE(asked, 1) << number;
         settle(mSource, {tile});
@@ -243,7 +243,7 @@ TEST_F(TileSourceTest, WhatIsNoTileCostsAMissingTileAndALaterTry)
     }
     mServer.setMode(Mode::Redirect);
     settle(mSource, {{6, 40, 1}});
-    EXPECT_EQ(mPictures.count({6, 40, 1}), 1U);
+    EXPECT_EQ(mImages.count({6, 40, 1}), 1U);
 }
 
 TEST_F(TileSourceTest, TellsWhyThereAreNoTilesButNotForEachOfThem)
@@ -262,7 +262,7 @@ TEST_F(TileSourceTest, TellsWhyThereAreNoTilesButNotForEachOfThem)
     mServer.setMode(TileServer::Mode::Tiles);
     mSource.retry();
     settle(mSource, {{4, 8, 5}});
-    EXPECT_EQ(mPictures.count({4, 8, 5}), 1U) << "at once";
+    EXPECT_EQ(mImages.count({4, 8, 5}), 1U) << "at once";
     EXPECT_EQ(mFailures.size(), 3U);
 
     mFailures.clear();
@@ -292,8 +292,8 @@ TEST_F(TileSourceTest, ServersThatTakeTheirTimeOccupyNoConnectionForEver)
     }));
     mServer.setMode(TileServer::Mode::Tiles);
     settle(mSource, tiles);
-    EXPECT_EQ(mPictures.count(tiles[4]), 1U) << "only the four tiles have failed";
-    EXPECT_EQ(mPictures.size(), 1U);
+    EXPECT_EQ(mImages.count(tiles[4]), 1U) << "only the four tiles have failed";
+    EXPECT_EQ(mImages.size(), 1U);
     EXPECT_EQ(mFailures, std::vector<std::string>{"not whole in time"});
 
     timeouts.whole = 30000;
@@ -329,7 +329,7 @@ TEST_F(TileSourceTest, ATileThatFailedIsAskedForAgainAfterAWhile)
     mServer.setMode(TileServer::Mode::Tiles);
     EXPECT_TRUE(waitFor([&] {
         wanted();
-        return mPictures.count(tile) == 1;
+        return mImages.count(tile) == 1;
     }));
 }
 
@@ -339,7 +339,7 @@ TEST_F(TileSourceTest, WithoutAServerTheDiskServes)
     ASSERT_TRUE(TileStore(mDir.path()).write(there, {TileServer::tile(4, 8, 5), {1, "", ""}}));
     mServer.stop();
     settle(mSource, {there, {4, 9, 5}});
-    EXPECT_EQ(mPictures[there].size(), 1U);
+    EXPECT_EQ(mImages[there].size(), 1U);
     EXPECT_TRUE(mSource.missing({4, 9, 5}));
     TileSource silent;
     silent.setFolder(mDir.path());
@@ -373,7 +373,7 @@ TEST_F(TileSourceTest, WhatCannotBeWrittenIsShownAllTheSame)
     ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
     settle(mSource, {{4, 8, 5}});
     settle(mSource, {{4, 8, 5}});
-    EXPECT_EQ(mPictures.count({4, 8, 5}), 1U);
+    EXPECT_EQ(mImages.count({4, 8, 5}), 1U);
     EXPECT_EQ(mServer.requests(), 1);
 }
 

@@ -102,47 +102,50 @@ class TileStoreTest : public ::testing::Test
 {
 protected:
     QString path(const char* name) const { return mDir.filePath(QLatin1String(name)); }
-    static TileStore::Tile tile(char content, int size = 1000)
+    static TileStore::Tile tile(char content)
     {
-        return {QByteArray(size, content), {kNow, "\"tag\"", "yesterday"}};
+        return {QByteArray(1000, content), {kNow, "\"tag\"", "yesterday"}};
+    }
+    void writeImage(const char* name) const
+    {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("image");
     }
 
     QTemporaryDir mDir;
     TileStore mStore{mDir.filePath(QStringLiteral("tiles"))};
 };
 
-TEST_F(TileStoreTest, KeepsPicturesAsPlainFilesWithTheirFreshnessBeside)
+TEST_F(TileStoreTest, KeepsImagesAsPlainFilesWithTheirFreshnessBeside)
 {
     const TileAddress address{5, 17, 11};
     EXPECT_FALSE(mStore.read(address).has_value());
     ASSERT_TRUE(mStore.write(address, tile('a')));
     QFile file(path("tiles/5/17/11.png"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), tile('a').picture);
+    EXPECT_EQ(file.readAll(), tile('a').bytes);
     ASSERT_TRUE(mStore.read(address).has_value());
     EXPECT_EQ(mStore.read(address)->freshness, tile('a').freshness);
     EXPECT_TRUE(mStore.refresh(address, {kNow + 5, "a\r\nb", ""}));
     EXPECT_EQ(mStore.read(address)->freshness, (TileFreshness{kNow + 5, "a  b", ""}));
-    EXPECT_FALSE(mStore.refresh({5, 1, 1}, {})) << "there is no such picture";
+    EXPECT_FALSE(mStore.refresh({5, 1, 1}, {})) << "there is no such image";
 }
 
-TEST_F(TileStoreTest, TakesAFolderOfPlainPictures)
+TEST_F(TileStoreTest, TakesAFolderOfPlainImages)
 {
     ASSERT_TRUE(QDir().mkpath(path("tiles/3/4")));
-    QFile file(path("tiles/3/4/5.png"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("picture");
-    file.close();
+    writeImage("tiles/3/4/5.png");
     const auto stored = mStore.read({3, 4, 5});
     ASSERT_TRUE(stored.has_value());
-    EXPECT_EQ(stored->picture, QByteArray("picture"));
+    EXPECT_EQ(stored->bytes, QByteArray("image"));
     const qint64 now = QDateTime::currentSecsSinceEpoch();
     EXPECT_NEAR(static_cast<double>(stored->freshness.expires),
                 static_cast<double>(now + kDefaultLifetime), 60.0);
     EXPECT_EQ(mStore.read({3, 4, 5})->freshness, stored->freshness);
 }
 
-TEST_F(TileStoreTest, WhatWasNotUsedForLongestMakesWay)
+TEST_F(TileStoreTest, WhatWasNotUsedForLongestIsDropped)
 {
     for (int y = 0; y < 4; ++y) {
         ASSERT_TRUE(mStore.write({4, 2, y}, tile('a')));
@@ -160,8 +163,7 @@ TEST_F(TileStoreTest, WhatWasNotUsedForLongestMakesWay)
     EXPECT_FALSE(QFileInfo::exists(path("tiles/4/2/1.meta")));
     EXPECT_EQ(TileStore(path("missing")).trim(0), 0);
 
-    QFile photo(path("tiles/4/2/holiday.png"));
-    ASSERT_TRUE(photo.open(QIODevice::WriteOnly));
+    writeImage("tiles/4/2/holiday.png");
     ASSERT_TRUE(QDir().mkpath(path("tiles/4/2/3/8/9"))); // a store within
     ASSERT_TRUE(QFile::copy(path("tiles/4/2/3.png"), path("tiles/4/2/3/8/9/1.png")));
     const std::atomic<bool> stop = true;
@@ -169,7 +171,7 @@ TEST_F(TileStoreTest, WhatWasNotUsedForLongestMakesWay)
     EXPECT_TRUE(mStore.read({4, 2, 3}).has_value());
     EXPECT_EQ(mStore.trim(0), 0);
     EXPECT_FALSE(mStore.read({4, 2, 3}).has_value());
-    EXPECT_TRUE(photo.exists()) << "only tiles are ever deleted";
+    EXPECT_TRUE(QFileInfo::exists(path("tiles/4/2/holiday.png"))) << "only tiles are ever deleted";
     EXPECT_TRUE(QFileInfo::exists(path("tiles/4/2/3/8/9/1.png")));
 }
 
@@ -185,31 +187,23 @@ TEST_F(TileStoreTest, AStoreThatCannotBeWrittenOnlyReads)
     EXPECT_FALSE(QFileInfo::exists(QStringLiteral("/1/0/0.png")));
 
     ASSERT_TRUE(QDir().mkpath(path("tiles/3/4/5.meta"))); // a folder where the note should be
-    QFile picture(path("tiles/3/4/5.png"));
-    ASSERT_TRUE(picture.open(QIODevice::WriteOnly));
-    picture.write("picture");
-    picture.close();
+    writeImage("tiles/3/4/5.png");
     EXPECT_FALSE(mStore.refresh({3, 4, 5}, {}));
     ASSERT_TRUE(mStore.read({3, 4, 5}).has_value());
-    EXPECT_EQ(mStore.read({3, 4, 5})->picture, QByteArray("picture"));
+    EXPECT_EQ(mStore.read({3, 4, 5})->bytes, QByteArray("image"));
 }
 
-TEST(TileImageTest, TakesPicturesOfTilesAndNothingElse)
+TEST(TileImageTest, TakesImagesOfTilesAndNothingElse)
 {
     const QByteArray good = TileServer::tile(3, 4, 5);
     const QImage image = decodeTile(good);
     ASSERT_EQ(image.size(), QSize(256, 256));
     EXPECT_EQ(image.pixelColor(10, 10), TileServer::tileColor(3, 4, 5));
-    QByteArray flipped = good;
-    for (int i = 40; i < flipped.size(); i += 7) {
-        flipped[i] = static_cast<char>(flipped[i] ^ 0x5a);
-    }
     for (const QByteArray& bad :
          {QByteArray(), QByteArray("<html></html>"), good.left(150), good.left(good.size() - 1),
           TileServer::enormous(), QByteArray(5 * 1024 * 1024, 'x')}) {
         EXPECT_TRUE(decodeTile(bad).isNull()) << bad.size();
     }
-    decodeTile(flipped); // must only survive
 
     QByteArray large;
     QBuffer buffer(&large);

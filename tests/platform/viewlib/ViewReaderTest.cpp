@@ -28,7 +28,7 @@ std::string mistakes(const QByteArray& text)
     return out + std::to_string(reader.model().elements.size());
 }
 
-TEST(ViewReader, MistakesAreToldWithLineAndElementAndTheRestIsDrawn)
+TEST(ViewReader, MistakesAreReportedWithLineAndElementAndTheRestIsDrawn)
 {
     const struct
     {
@@ -158,7 +158,7 @@ TEST(ViewReader, TheExampleOfTheDocumentIsRight)
     for (const ViewError& error : reader.errors()) {
         ADD_FAILURE() << error.line << " " << error.element << ": " << error.message;
     }
-    // What its explanation tells: two scales, the second without bands, and a shifted lamp.
+    // What its explanation says: two scales, the second without bands, and a shifted lamp.
     const std::vector<ViewElement>& elements = reader.model().elements;
     ASSERT_EQ(elements.size(), 4U);
     const ViewScales& scales = bindingOf(elements[0])->scales;
@@ -208,7 +208,7 @@ TEST(VistaView, KnowsTheVariablesThatItsDescriptionUses)
     EXPECT_FALSE(view.knows("OIL"));
 }
 
-TEST(ViewGeometry, NumbersBecomePlacesAndTexts)
+TEST(ViewGeometry, NumbersBecomePositionsAndTexts)
 {
     ViewScale scale;
     scale.from = 200.0;

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kSize = 100;
 
-const QColor kGround(0x0b, 0x0f, 0x14);
+const QColor kBackground(0x0b, 0x0f, 0x14);
 const QColor kWarning(0xff, 0xb4, 0x2e);
 const QColor kLimit(0xff, 0x4f, 0x44);
 const QColor kWhite(0xff, 0xff, 0xff);
@@ -29,7 +29,7 @@ bool isNear(const QColor& a, const QColor& b)
            std::abs(a.blue() - b.blue()) < 12;
 }
 
-/// A picture of 100 x 100 pixels; the view of as many units fills it at scale 1.
+/// A target of 100 x 100 pixels; the view of as many units fills it at scale 1.
 class VistaViewTest : public ::testing::Test
 {
 protected:
@@ -38,16 +38,16 @@ protected:
         mSurface.create();
         ASSERT_TRUE(mContext.create());
         ASSERT_TRUE(mContext.makeCurrent(&mSurface));
-        mPicture = std::make_unique<QOpenGLFramebufferObject>(
+        mTarget = std::make_unique<QOpenGLFramebufferObject>(
             kSize, kSize, QOpenGLFramebufferObject::CombinedDepthStencil);
-        mPicture->bind();
+        mTarget->bind();
         mView.startView(1);
         mView.setBackgroundMode(0);
     }
     void TearDown() override
     {
         EXPECT_EQ(glGetError(), 0U);
-        mPicture.reset();
+        mTarget.reset();
         mContext.doneCurrent();
     }
 
@@ -69,7 +69,7 @@ protected:
         glTranslated(x, y, 0.0);
         glScaled(scale, scale, 1.0);
         mView.draw(1);
-        return mPicture->toImage().convertToFormat(QImage::Format_RGB32);
+        return mTarget->toImage().convertToFormat(QImage::Format_RGB32);
     }
     ::testing::AssertionResult shows(const QColor& color, int x, int y)
     {
@@ -81,7 +81,7 @@ protected:
 
     QOffscreenSurface mSurface;
     QOpenGLContext mContext;
-    std::unique_ptr<QOpenGLFramebufferObject> mPicture;
+    std::unique_ptr<QOpenGLFramebufferObject> mTarget;
     VistaView mView;
 };
 
@@ -92,19 +92,19 @@ TEST_F(VistaViewTest, NeedlesPointToTheValueInTheColourOfItsState)
     const QPoint up(50, 25);
     const QPoint right(75, 50);
     const QPoint lowerLeft(32, 68);
-    EXPECT_TRUE(shows(kGround, up.x(), up.y())); // no value, no needle
+    EXPECT_TRUE(shows(kBackground, up.x(), up.y())); // no value, no needle
     mView.setVar("N", 50.0);
     EXPECT_TRUE(shows(kWhite, up.x(), up.y()));
-    EXPECT_TRUE(shows(kGround, right.x(), right.y()));
+    EXPECT_TRUE(shows(kBackground, right.x(), right.y()));
     mView.setVar("N", 100.0 * 225.0 / 270.0);
     mView.setVar("N_STATE", 1L);
     EXPECT_TRUE(shows(kWarning, right.x(), right.y()));
-    EXPECT_TRUE(shows(kGround, up.x(), up.y()));
-    mView.setVar("N", -1e9); // stands at the end of the scale
+    EXPECT_TRUE(shows(kBackground, up.x(), up.y()));
+    mView.setVar("N", -1e9); // is shown at the end of the scale
     mView.setVar("N_STATE", 2L);
     EXPECT_TRUE(shows(kLimit, lowerLeft.x(), lowerLeft.y()));
     mView.setVar("N", std::nan(""));
-    EXPECT_TRUE(shows(kGround, lowerLeft.x(), lowerLeft.y()));
+    EXPECT_TRUE(shows(kBackground, lowerLeft.x(), lowerLeft.y()));
 }
 
 TEST_F(VistaViewTest, BarsFillFromTheirStart)
@@ -126,18 +126,18 @@ TEST_F(VistaViewTest, ConditionsShowHideAndLight)
          "lamp at=0,50 size=40,40 {\ncase if=\"L = 2\" color=limit\ncase if=\"L >= 1\" "
          "color=warning\n}\n"
          "lamp var=OIL at=50,50 size=40,40");
-    EXPECT_TRUE(shows(kGround, 10, 10));
+    EXPECT_TRUE(shows(kBackground, 10, 10));
     mView.setVar("UNIT", 1L);
     EXPECT_TRUE(shows(QColor(0, 255, 0), 10, 10));
-    EXPECT_TRUE(shows(kGround, 50, 10));
+    EXPECT_TRUE(shows(kBackground, 50, 10));
     mView.setVar("VARIANT", 2L);
     EXPECT_TRUE(shows(QColor(255, 0, 0), 50, 10));
-    EXPECT_TRUE(shows(kGround, 20, 60));
+    EXPECT_TRUE(shows(kBackground, 20, 60));
     mView.setVar("L", 1L);
     EXPECT_TRUE(shows(kWarning, 20, 60));
     mView.setVar("L", 2L);
     EXPECT_TRUE(shows(kLimit, 20, 60));
-    EXPECT_TRUE(shows(kGround, 70, 60));
+    EXPECT_TRUE(shows(kBackground, 70, 60));
     mView.setVar("OIL_STATE", 2L);
     EXPECT_TRUE(shows(kLimit, 70, 60));
 }
@@ -165,14 +165,14 @@ TEST_F(VistaViewTest, FillsTheRoomThatTheMatricesGiveIt)
     EXPECT_TRUE(isNear(half.pixelColor(21, 39), Qt::blue));
     EXPECT_TRUE(isNear(half.pixelColor(21, 41), QColor(0, 255, 0)));
     EXPECT_TRUE(isNear(half.pixelColor(44, 64), QColor(0, 255, 0)));
-    EXPECT_TRUE(isNear(half.pixelColor(46, 66), kGround));
+    EXPECT_TRUE(isNear(half.pixelColor(46, 66), kBackground));
     EXPECT_TRUE(isNear(half.pixelColor(71, 91), Qt::blue));
-    // Edges are sharp at any scale, since the picture is made anew for it.
+    // Edges are sharp at any scale, since the image is made again for it.
     const QImage large = draw(0.0, 0.0, 1.62);
     EXPECT_TRUE(isNear(large.pixelColor(80, 5), QColor(0, 255, 0)));
-    EXPECT_TRUE(isNear(large.pixelColor(81, 5), kGround));
+    EXPECT_TRUE(isNear(large.pixelColor(81, 5), kBackground));
     for (const double scale : {0.0, -1.0, 1e9, HUGE_VAL, std::nan("")}) {
-        draw(0.0, 0.0, scale); // nothing to be seen, but no harm either
+        draw(0.0, 0.0, scale); // nothing to be seen, but no harm
     }
 
     mView.setBackgroundMode(1);
@@ -192,7 +192,7 @@ TEST_F(VistaViewTest, TakesTheLayoutThatIsLargerInItsRoom)
     mView.setRoom(300, 200);
     EXPECT_EQ(mView.width(), 100.0);
     EXPECT_TRUE(shows(QColor(0, 255, 0), 5, 5));
-    EXPECT_TRUE(shows(kGround, 25, 5));
+    EXPECT_TRUE(shows(kBackground, 25, 5));
     mView.setRoom(200, 300);
     EXPECT_EQ(mView.width(), 50.0);
     EXPECT_EQ(mView.height(), 100.0);
@@ -201,13 +201,13 @@ TEST_F(VistaViewTest, TakesTheLayoutThatIsLargerInItsRoom)
     mView.setRoom(300, 60);
     EXPECT_EQ(mView.height(), 10.0);
     EXPECT_TRUE(shows(QColor(0, 255, 0), 55, 5));
-    EXPECT_TRUE(shows(kGround, 25, 5));
+    EXPECT_TRUE(shows(kBackground, 25, 5));
     mView.loadText("view size=100,50");
     mView.setRoom(200, 300);
     EXPECT_EQ(mView.width(), 100.0);
 }
 
-TEST_F(VistaViewTest, ChangesAreToldUntilDrawn)
+TEST_F(VistaViewTest, ChangesAreReportedUntilDrawn)
 {
     load("value var=N at=10,50");
     EXPECT_TRUE(mView.changed());

@@ -3,6 +3,7 @@
 #include "card/CardContainer.h"
 #include "core/Property.h"
 #include "gui/look/Resources.h"
+#include "platform/tessel/Geodetic.h"
 #include "profile/Profile.h"
 #include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
@@ -110,14 +111,14 @@ struct MapFixture : ::testing::Test
     }
     std::pair<double, double> placeAt(const QPointF& window)
     {
-        // Half a pixel around tells where it is, without another operation of the widget.
+        // Found by approximation, without another operation of the widget.
         const double perPixel = context().metresPerPixel / 111120.0;
         double lat = context().centreLatitude;
         double lon = context().centreLongitude;
         for (int i = 0; i < 20; ++i) {
             const QPointF off = window - windowOf(lat, lon);
             lat -= off.y() * perPixel;
-            lon += off.x() * perPixel / std::cos(lat * 0.017453292519943295);
+            lon += off.x() * perPixel / std::cos(lat * Tessel::Geodetic::kRadiansPerDegree);
         }
         return {lat, lon};
     }

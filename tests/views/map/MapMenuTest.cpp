@@ -67,7 +67,7 @@ TEST_F(MapMenuTest, TicksManyValuesWithoutClosingAndNoMoreThanThereIsRoomFor)
     EXPECT_EQ(texts(values).mid(0, 3),
               (QStringList{QStringLiteral("Lane A/Speed"), QStringLiteral("Text"),
                            QStringLiteral("Lane B/Speed")}))
-        << "the device tells parameters of one name apart";
+        << "the device distinguishes parameters of one name";
     const QSignalSpy changed(&menu, &MapMenu::signalValuesChanged);
     values.popup({0, 0});
     for (QAction* action : values.actions()) {

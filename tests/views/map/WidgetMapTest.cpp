@@ -27,7 +27,7 @@ TEST_F(WidgetMapTest, TheAircraftPointsAlongItsCourse)
         };
         return std::make_pair(isBody(0, -11) || isBody(0, 11), isBody(-11, 0) || isBody(11, 0));
     };
-    // The body lies along the course, and the wings, which are swept, do not reach that line.
+    // The body points along the course, and the wings, which are swept, do not reach that line.
     EXPECT_TRUE(bodyAt(11.0).second) << "eastwards";
     EXPECT_TRUE(bodyAt(13.0).first) << "southwards";
     EXPECT_NEAR(map().acPosition().course, 180.0, 1.0);
@@ -54,7 +54,7 @@ TEST_F(WidgetMapTest, ShowsValuesAtTheCursorAndSaysWhatIsMissing)
                                   {QStringLiteral("Oil:"), QStringLiteral("20.0\u2009C"), {}}}));
     view->setTime(12.0);
     EXPECT_EQ(values->rows()[0].value, QStringLiteral("95.0\u2009C"));
-    EXPECT_EQ(values->rows()[0].ground, QColor(Qt::yellow));
+    EXPECT_EQ(values->rows()[0].background, QColor(Qt::yellow));
 
     RecordBuilder record;
     record.at(1.0).id(kOil).floatValue(20.0F).at(2.0).floatValue(20.0F);

@@ -88,7 +88,7 @@ bool isWhole(double value)
     return !std::isfinite(value) || value == std::round(value);
 }
 
-/// The decimals that distinguish the ends of a scale.
+/// Returns the decimals that distinguish the ends of a scale.
 int decimalsOf(const std::vector<double>& values)
 {
     if (std::all_of(values.begin(), values.end(), isWhole)) {

@@ -20,15 +20,15 @@ struct MapColoring
     Q_DECLARE_TR_FUNCTIONS(VELIX::MapColoring)
 
 public:
-    /// By altitude, in the unit system of the profile.
+    /// Colours by altitude, in the unit system of the profile.
     static MapColoring byAltitude(const std::vector<FlightPathPoint>& path, bool imperial);
-    /// By the value that a parameter had at each point; where it passes a threshold, in the
+    /// Colours by the value that a parameter had at each point; where it passes a threshold, in the
     /// threshold's colour. Points before its first sample take that one.
     static MapColoring byParameter(const std::vector<FlightPathPoint>& path,
                                    const RecordData& record, const Profile& profile,
                                    const ProfileParameter& parameter);
 
-    /// The colour at 0 (lowest value) to 1 (highest) of the scale.
+    /// Returns the colour at 0 (lowest value) to 1 (highest) of the scale.
     static QRgb scale(double fraction);
 
     /// A threshold that the values pass somewhere on the path.

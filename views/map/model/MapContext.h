@@ -3,7 +3,7 @@
 namespace VELIX {
 
 /// What the map shows at the moment, shared by the map view and its widget. The centre and the
-/// ranges say what is to be seen; the rest of the measures follow from them with every picture.
+/// ranges say what is to be seen; the rest of the measures follow from them with every frame.
 struct MapContext
 {
     double visibleRange = 2.0e7;   ///< m on the ground across the window, at its centre

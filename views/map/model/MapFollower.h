@@ -8,16 +8,16 @@ struct MapContext;
 class MapFollower
 {
 public:
-    /// A range (m) to glide to with the next frames.
+    /// Takes a range (m) to glide to with the next frames.
     void setRange(double range) { mRange = range; }
-    /// The user chose another range, which stays.
+    /// Ends gliding to a range: the user chose another one.
     void keepRange() { mRange = 0.0; }
 
-    /// One frame towards an aircraft (degrees); false when it is in the middle.
+    /// Moves by one frame towards an aircraft (degrees); false when it is in the middle.
     bool step(MapContext& context, double latitude, double longitude);
 
 private:
-    double mRange = 0.0; ///< m; 0: the range is as it shall be
+    double mRange = 0.0; ///< m; 0: the range stays
 };
 
 } // namespace VELIX

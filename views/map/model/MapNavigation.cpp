@@ -18,7 +18,7 @@ constexpr double kKeyZoom = 1.03;
 constexpr double kKeyPan = 0.015; // of the range
 constexpr double kWheelZoom = 1.1;
 constexpr double kMargin = 1.2;
-/// A unit that never left its stand should show the stand, not the grain of its positions.
+/// For a unit that never left its stand the stand should be seen, not the noise of its positions.
 constexpr double kLeastFit = 500.0; // m
 /// Beyond it the map has no more to show, and a degree of longitude no length.
 constexpr double kLatitudeLimit = 85.0;

@@ -20,19 +20,20 @@ inline constexpr double kLeastRange = 50.0;    // m
 inline constexpr double kLargestRange = 7.0e7; // m
 
 double clampedRange(double range);
-/// The range (m) after one frame with a zoom key held; steps: 1 zooms in, -1 out, 0 leaves it.
+/// Returns the range (m) after one frame with a zoom key held; steps: 1 zooms in, -1 out, 0 leaves
+/// it.
 double keyZoomed(double range, int steps);
-/// The range (m) after a step of the wheel; positive turns zoom in.
+/// Returns the range (m) after a step of the wheel; positive turns zoom in.
 double wheelZoomed(double range, int angleDelta);
 
 /// Sets the range (m, clamped) with all that follows from it.
 void setRange(MapContext& context, double range, int windowWidth, int windowHeight);
-/// Latitudes end where the map does, longitudes are brought into -180 to 180.
+/// Moves the centre; latitudes end where the map does, longitudes are brought into -180 to 180.
 void setCentre(MapContext& context, double latitude, double longitude);
-/// One frame with arrow keys held; 1 is north or east, -1 south or west.
+/// Moves by one frame with arrow keys held; 1 is north or east, -1 south or west.
 void keyPan(MapContext& context, int north, int east);
 
-/// Shows all of the extent: centre and range of a window with this width over height.
+/// Has all of the extent shown, in a window of this width over height.
 void fit(MapContext& context, const MapExtent& extent, double aspect);
 
 } // namespace MapNavigation

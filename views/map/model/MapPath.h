@@ -43,7 +43,8 @@ public:
     [[nodiscard]] double halfWidth() const { return mHalfWidth; }
     [[nodiscard]] double halfHeight() const { return mHalfHeight; }
 
-    /// The place of the path nearest to a place in degrees; none if it is farther (m of the map).
+    /// Returns the place of the path nearest to a place in degrees; none if it is farther (m of the
+    /// map).
     [[nodiscard]] std::optional<Place> nearest(double latitude, double longitude,
                                                double farthest) const;
 

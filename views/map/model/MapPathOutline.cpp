@@ -19,13 +19,14 @@ bool differ(QRgb a, QRgb b)
 }
 
 /// The directions in which a line from an anchor passes all points so far within the tolerance.
-class Sleeve
+class DirectionRange
 {
 public:
-    Sleeve(const MapPath::Point& anchor, double tolerance) : mAnchor(anchor), mTolerance(tolerance)
+    DirectionRange(const MapPath::Point& anchor, double tolerance)
+        : mAnchor(anchor), mTolerance(tolerance)
     {}
 
-    /// Takes the next point; false if a line to it would leave one of those before too far aside.
+    /// Takes the next point; false if a line to it would pass one of those before too far away.
     bool take(const MapPath::Point& point)
     {
         const double x = point.x - mAnchor.x;
@@ -78,17 +79,17 @@ std::vector<std::size_t> mapPathOutline(const std::vector<MapPath::Point>& point
     const auto differs = [&](std::size_t i) {
         return i < colors.size() && differ(colors[i], colors[kept.back()]);
     };
-    Sleeve sleeve(points[0], tolerance);
+    DirectionRange range(points[0], tolerance);
     const auto keep = [&](std::size_t i) {
         if (i != kept.back()) {
             kept.push_back(i);
         }
-        sleeve = Sleeve(points[i], tolerance);
+        range = DirectionRange(points[i], tolerance);
     };
     for (std::size_t i = 1; i < points.size(); ++i) {
-        if (!sleeve.take(points[i]) || differs(i)) {
+        if (!range.take(points[i]) || differs(i)) {
             keep(i - 1);
-            static_cast<void>(sleeve.take(points[i])); // a fresh one takes any
+            static_cast<void>(range.take(points[i])); // a new one takes any
         }
         if (differs(i)) {
             keep(i); // the colour steps between two neighbours

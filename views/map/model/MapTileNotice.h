@@ -8,8 +8,8 @@
 
 namespace VELIX {
 
-/// Why the map has no tiles: a line for whoever looks for the cause, and a sentence for the map
-/// itself while none is in sight.
+/// Why the map has no tiles: a diagnostic line for each cause, and a sentence on the map
+/// itself while none is visible.
 class MapTileNotice
 {
     Q_DECLARE_TR_FUNCTIONS(VELIX::MapTileNotice)
@@ -19,9 +19,10 @@ public:
     void fail(const char* url, const char* reason);
     /// Whether some tile failed.
     [[nodiscard]] bool hasReason() const { return !mReason.isEmpty(); }
-    /// Another server: what was said of the last one is over.
+    /// Forgets what was said of the last server.
     void reset();
-    /// What the map says; empty: nothing. The first time not before all requests have failed.
+    /// Returns what the map says; empty: nothing. The first time not before all requests have
+    /// failed.
     QString update(bool tilesInSight, bool loading);
 
 private:

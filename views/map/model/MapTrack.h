@@ -9,14 +9,14 @@ namespace VELIX {
 /// Where the aircraft was, from the points of its path in order of time.
 namespace MapTrack {
 
-/// No position: what positionAt() gives where there is none.
+/// Whether a point has no position, as positionAt() returns it where there is none.
 bool isEmpty(const FlightPathPoint& point);
 
-/// Between two points of a path; the longitude and the course go the short way round.
+/// Returns a point between two of a path; the longitude and the course go the short way round.
 FlightPathPoint between(const FlightPathPoint& from, const FlightPathPoint& to, double fraction);
 
-/// The position at a time (s) of a record from start to stop. Until the first and after the last
-/// position of the record the aircraft stands there; outside the record the empty point.
+/// Returns the position at a time (s) of a record from start to stop. Until the first and after the
+/// last position of the record the aircraft is there; outside the record the empty point.
 FlightPathPoint positionAt(const std::vector<FlightPathPoint>& path, double start, double stop,
                            double time);
 

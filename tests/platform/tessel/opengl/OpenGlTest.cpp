@@ -24,7 +24,7 @@ namespace {
 
 constexpr int kSize = 32;
 
-/// A context, and a black picture of 32 x 32 pixels to draw into; one unit is one pixel, y upwards.
+/// A context, and a black image of 32 x 32 pixels to draw into; one unit is one pixel, y upwards.
 class OpenGlTest : public ::testing::Test
 {
 protected:
@@ -33,8 +33,8 @@ protected:
         mSurface.create();
         ASSERT_TRUE(mContext.create());
         ASSERT_TRUE(mContext.makeCurrent(&mSurface));
-        mPicture = std::make_unique<QOpenGLFramebufferObject>(kSize, kSize);
-        mPicture->bind();
+        mTarget = std::make_unique<QOpenGLFramebufferObject>(kSize, kSize);
+        mTarget->bind();
         mContext.functions()->glViewport(0, 0, kSize, kSize);
         clear();
         ASSERT_TRUE(mMatrices.setOrtho(0.0, kSize, 0.0, kSize));
@@ -45,7 +45,7 @@ protected:
     {
         mProgram.release();
         mGl.release();
-        mPicture.reset();
+        mTarget.reset();
         EXPECT_EQ(mContext.functions()->glGetError(), 0U);
         mContext.doneCurrent();
     }
@@ -59,7 +59,7 @@ protected:
     /// Number of pixels in an area (from the lower left) that are not black.
     int lit(const QRect& area) const
     {
-        const QImage image = mPicture->toImage().convertToFormat(QImage::Format_RGB32);
+        const QImage image = mTarget->toImage().convertToFormat(QImage::Format_RGB32);
         int count = 0;
         for (int y = area.top(); y <= area.bottom(); ++y) {
             for (int x = area.left(); x <= area.right(); ++x) {
@@ -72,7 +72,7 @@ protected:
     /// The same for light, with partly covered pixels as parts.
     double light() const
     {
-        const QImage image = mPicture->toImage().convertToFormat(QImage::Format_RGB32);
+        const QImage image = mTarget->toImage().convertToFormat(QImage::Format_RGB32);
         double sum = 0.0;
         for (int y = 0; y < kSize; ++y) {
             for (int x = 0; x < kSize; ++x) {
@@ -81,11 +81,11 @@ protected:
         }
         return sum;
     }
-    QColor at(int x, int y) const { return mPicture->toImage().pixelColor(x, kSize - 1 - y); }
+    QColor at(int x, int y) const { return mTarget->toImage().pixelColor(x, kSize - 1 - y); }
 
     QOffscreenSurface mSurface;
     QOpenGLContext mContext;
-    std::unique_ptr<QOpenGLFramebufferObject> mPicture;
+    std::unique_ptr<QOpenGLFramebufferObject> mTarget;
     LineProgram mProgram;
     MatrixSet mMatrices;
     GlHandler mGl;
