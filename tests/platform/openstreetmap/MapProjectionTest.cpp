@@ -27,12 +27,8 @@ TEST(MapProjectionTest, WindowAndPlaceAgreeAtAllZoomsAndLatitudes)
         for (const double longitude : {-180.0, -179.999, -12.0, 0.0, 11.5, 179.9999}) {
             for (double range = 50.0; range < 2.0e7; range *= 9.7) {
                 const MapProjection projection = view({latitude, longitude}, range);
-                for (const WindowPoint pixel : {WindowPoint{0.0, 0.0},
-                                                {1200.0, 0.0},
-                                                {0.0, 800.0},
-                                                {1200.0, 800.0},
-                                                {600.0, 400.0},
-                                                {1199.5, 410.25}}) {
+                for (const WindowPoint pixel :
+                     {WindowPoint{0.0, 0.0}, {1200.0, 800.0}, {1199.5, 410.25}}) {
                     const GeoPoint place = projection.toGeo(pixel);
                     const WindowPoint back = projection.toWindow(place);
                     if (std::abs(place.latitude) < 85.0 &&
@@ -55,14 +51,8 @@ TEST(MapProjectionTest, TheRangeIsGroundMetresAtTheCentre)
     const double pixels = 1200.0 / 120000.0 * 111319.49; // of a degree on the map's sphere
     EXPECT_NEAR(projection.toWindow({60.5, 10.0}).y, 400.0 - pixels / 2.0, pixels * 0.01);
     EXPECT_NEAR(projection.toWindow({60.0, 11.0}).x, 600.0 + pixels * 0.5, 0.01);
-}
-
-TEST(MapProjectionTest, PlacesBeyondTheAntimeridianAreNear)
-{
-    const MapProjection projection = view({-17.0, 179.9}, 50000.0);
-    const WindowPoint east = projection.toWindow({-17.0, -179.9});
-    EXPECT_GT(east.x, 600.0);
-    EXPECT_LT(east.x, 1200.0);
+    const WindowPoint east = view({-17.0, 179.9}, 50000.0).toWindow({-17.0, -179.9});
+    EXPECT_TRUE(east.x > 600.0 && east.x < 1200.0) << "beyond the antimeridian is near";
 }
 
 TEST(MapProjectionTest, SenselessNumbersAreIgnored)
@@ -124,21 +114,19 @@ TEST(TileViewTest, VisibleTilesCoverTheWindowAndStartAtItsCentre)
 
 TEST(TileViewTest, AWindowWiderThanTheWorldShowsItAgain)
 {
-    std::set<int> columns;
-    int shown = 0;
+    std::multiset<int> columns;
     for (const PlacedTile& tile : visibleTiles(view({0.0, 0.0}, 7.0e7))) {
-        columns.insert(tile.address.x);
-        shown += tile.address.y == 0 ? 1 : 0;
+        columns.insert(tile.address.y == 0 ? tile.address.x : -1);
     }
-    EXPECT_EQ(columns.size(), 2U);
-    EXPECT_GT(shown, 2);
+    EXPECT_EQ(columns.count(0) + columns.count(1) + columns.count(-1), columns.size());
+    EXPECT_GT(columns.count(0) + columns.count(1), 2U);
 }
 
 TEST(TileViewTest, PartOfAnAncestor)
 {
-    EXPECT_EQ(partOfAncestor({3, 5, 2}, {3, 5, 2}), (std::array<double, 4>{0.0, 0.0, 1.0, 1.0}));
-    EXPECT_EQ(partOfAncestor({3, 5, 2}, {2, 2, 1}), (std::array<double, 4>{0.5, 0.0, 1.0, 0.5}));
-    EXPECT_EQ(partOfAncestor({3, 5, 2}, {1, 1, 0}), (std::array<double, 4>{0.25, 0.5, 0.5, 0.75}));
+    using Part = std::array<double, 4>;
+    EXPECT_EQ(partOfAncestor({3, 5, 2}, {3, 5, 2}), (Part{0.0, 0.0, 1.0, 1.0}));
+    EXPECT_EQ(partOfAncestor({3, 5, 2}, {1, 1, 0}), (Part{0.25, 0.5, 0.5, 0.75}));
 }
 
 TEST(TileUrlTest, BaseAddressesAndPatterns)
@@ -166,30 +154,36 @@ TEST(TileUrlTest, BaseAddressesAndPatterns)
     }
 }
 
-TEST(GraticuleTest, LinesStandAtRoundDegreesAndApart)
+TEST(GraticuleTest, LinesAreAtRoundDegreesAndApart)
 {
     for (double range = 100.0; range < 6.0e7; range *= 2.3) {
         const MapProjection projection = view({47.3, 179.9}, range);
         const double step = graticuleStep(projection, 140.0);
         double before = -1.0e9;
-        int meridians = 0;
         for (const GraticuleLine& line : graticule(projection, step)) {
             if (line.meridian) {
-                if (step < 30.0) {
-                    EXPECT_TRUE(line.position - before > 139.0 || step * 3600.0 < 1.01) << range;
-                }
-                before = line.position;
-                ++meridians;
+                EXPECT_TRUE(line.position - before > 139.0 || step >= 30.0 || step < 1.01 / 3600.0)
+                    << range;
                 EXPECT_TRUE(line.position >= -0.01 && line.position <= 1200.01);
+                before = line.position;
             }
         }
-        EXPECT_TRUE(meridians >= 1 || range < 5000.0) << range;
+        EXPECT_TRUE(before >= 0.0 || range < 5000.0) << range;
     }
-    EXPECT_EQ(graticuleLabel(-11.5, 0.5, true), QStringLiteral("11\u00b0 30' W"));
-    EXPECT_EQ(graticuleLabel(48.0, 5.0, false), QStringLiteral("48\u00b0 N"));
-    EXPECT_EQ(graticuleLabel(0.0, 5.0, true), QStringLiteral("0\u00b0"));
-    EXPECT_EQ(graticuleLabel(-0.5 - 1.0 / 3600.0, 1.0 / 3600.0, false),
-              QStringLiteral("0\u00b0 30' 01\" S"));
+    const struct
+    {
+        double degrees;
+        double step;
+        bool isMeridian;
+        const char* label;
+    } rows[] = {{-11.5, 0.5, true, "11\u00b0 30' W"},
+                {48.0, 5.0, false, "48\u00b0 N"},
+                {0.0, 5.0, true, "0\u00b0"},
+                {-0.5 - 1.0 / 3600.0, 1.0 / 3600.0, false, "0\u00b0 30' 01\" S"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(graticuleLabel(row.degrees, row.step, row.isMeridian),
+                  QString::fromUtf8(row.label));
+    }
 }
 
 } // namespace

@@ -84,7 +84,7 @@ protected:
         do {
             render();
             QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        } while (mMap->nrLoadingTiles() > 0 && clock.elapsed() < 10000);
+        } while (mMap->nrLoadingTiles() > 0 && clock.elapsed() < 60000);
         EXPECT_EQ(mMap->nrLoadingTiles(), 0);
         return render();
     }

@@ -12,13 +12,14 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <tuple>
 
 using namespace OpenStreet;
 using OpenStreet::Test::writeTerrain;
 
 namespace {
 
-TEST(TerrainStoreTest, HeightsLieWhereTheyBelong)
+TEST(TerrainStoreTest, HeightsAreWhereTheyBelong)
 {
     EXPECT_EQ(TerrainStore::fileName(48, 11), QStringLiteral("N48E011.hgt"));
     EXPECT_EQ(TerrainStore::fileName(-1, -72), QStringLiteral("S01W072.hgt"));
@@ -105,18 +106,16 @@ TEST(HillShadingTest, SlopesTowardsTheLightAreBrighter)
     EXPECT_NEAR(shadeAt(slope(-1.0, 0.0), 1, 1, full), 0.0, 1e-6);
     EXPECT_GT(shadeAt(slope(0.0, -0.3), 1, 1, full), 1.0) << "faces north";
 
-    ShadingStyle flat = full;
-    flat.contrast = 0.0;
-    EXPECT_NEAR(shadeAt(slope(1.0, 0.0), 1, 1, flat), 1.0, 1e-9);
-    ShadingStyle dim = full;
-    dim.brightness = 0.5;
-    EXPECT_NEAR(shadeAt(slope(0.0, 0.0), 1, 1, dim), 0.5, 1e-9);
-    ShadingStyle none = dim;
-    none.factor = 0.0;
-    EXPECT_NEAR(shadeAt(slope(1.0, 0.0), 1, 1, none), 1.0, 1e-9);
-    ShadingStyle night = full;
-    night.lightZ = -1.0;
-    EXPECT_NEAR(shadeAt(slope(1.0, 0.0), 1, 1, night), 1.0, 1e-9);
+    const std::tuple<double ShadingStyle::*, double, double> rows[] = {
+        {&ShadingStyle::contrast, 0.0, 1.0},
+        {&ShadingStyle::brightness, 0.5, 0.5 * facing},
+        {&ShadingStyle::factor, 0.0, 1.0},
+        {&ShadingStyle::lightZ, -1.0, 1.0}};
+    for (const auto& [member, value, shade] : rows) {
+        ShadingStyle style = full;
+        style.*member = value;
+        EXPECT_NEAR(shadeAt(slope(1.0, 0.0), 1, 1, style), shade, 1e-6) << value;
+    }
     HeightGrid hole = slope(1.0, 0.0);
     hole.heights[0] = std::nanf("");
     EXPECT_NEAR(shadeAt(hole, 1, 1, full), 1.0, 1e-9);

@@ -9,34 +9,26 @@ using Tessel::FileSystem::Directory;
 
 namespace {
 
-TEST(Directory, MakesAllMissingParents)
-{
-    const QTemporaryDir home;
-    for (const char* path : {"/a/b/c", "/with/slash/", "/double//slash", "/M\xC3\xBCnchen/d"}) {
-        const std::string folder = home.path().toStdString() + path;
-        EXPECT_FALSE(Directory::exists(folder)) << path;
-        EXPECT_TRUE(Directory::create(folder)) << path;
-        EXPECT_TRUE(Directory::exists(folder)) << path;
-        EXPECT_TRUE(Directory::create(folder)) << path << ", a second time";
-    }
-}
-
-TEST(Directory, AFileIsNoFolder)
+TEST(Directory, MakesAllMissingParentsAndReportsWhatItCannot)
 {
     const QTemporaryDir home;
     QFile file(home.filePath(QStringLiteral("file")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    const std::string path = file.fileName().toStdString();
-    EXPECT_FALSE(Directory::exists(path));
-    EXPECT_FALSE(Directory::create(path));
-    EXPECT_FALSE(Directory::create(path + "/below"));
-}
-
-TEST(Directory, RefusesImpossiblePaths)
-{
-    EXPECT_FALSE(Directory::create(""));
-    EXPECT_FALSE(Directory::create("/tmp/" + std::string(5000, 'x')));
-    EXPECT_FALSE(Directory::exists("/tmp/" + std::string(5000, 'x')));
+    const std::string root = home.path().toStdString();
+    const std::pair<std::string, bool> rows[] = {{root + "/a/b/c", true},
+                                                 {root + "/with/slash/", true},
+                                                 {root + "/double//slash", true},
+                                                 {root + "/M\xC3\xBCnchen/d", true},
+                                                 {root + "/file", false},
+                                                 {root + "/file/below", false},
+                                                 {root + "/" + std::string(5000, 'x'), false},
+                                                 {"", false}};
+    for (const auto& [folder, isPossible] : rows) {
+        EXPECT_FALSE(Directory::exists(folder)) << folder;
+        EXPECT_EQ(Directory::create(folder), isPossible) << folder;
+        EXPECT_EQ(Directory::exists(folder), isPossible) << folder;
+        EXPECT_EQ(Directory::create(folder), isPossible) << folder << ", a second time";
+    }
 }
 
 } // namespace

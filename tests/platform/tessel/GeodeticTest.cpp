@@ -18,48 +18,36 @@ double degrees(double whole, double minutes, double seconds)
 
 TEST(LatLong2Cartesian, MatchesKnownWebMercatorPoints)
 {
-    struct Row
+    constexpr double kDegree = kHalfWorld / 180.0;
+    const struct
     {
         const char* name;
         Position position;
-        double x;
-        double y;
-    };
-    const Row rows[] = {
-        {"origin", {0, 0, 0}, 0, 0},
-        {"45 degrees north", {45, 0, 0}, 0, 5621521.486192066},
-        {"south-west is negative", {-45, -90, 0}, -kHalfWorld / 2, -5621521.486192066},
-        {"north-east corner of the map",
+        Position reference;
+        Cartesian expected;
+    } rows[] = {
+        {"45 degrees north", {45, 0, 0}, {}, {0, 5621521.486192066, 0}},
+        {"south-west is negative", {-45, -90, 0}, {}, {-90 * kDegree, -5621521.486192066, 0}},
+        {"the map's corner",
          {kMercatorLatitudeLimit, 179.9999999999, 0},
-         kHalfWorld,
-         kHalfWorld},
-        {"pole is taken at the map's edge", {90, 0, 0}, 0, kHalfWorld},
-        {"longitude a turn further on", {0, 370, 0}, kHalfWorld / 18, 0},
+         {},
+         {kHalfWorld, kHalfWorld, 0}},
+        {"a pole is at the map's edge", {90, 0, 0}, {}, {0, kHalfWorld, 0}},
+        {"a turn further on", {0, 370, 0}, {}, {10 * kDegree, 0, 0}},
+        {"relative in the plane only", {47.5, 8.25, 1234.5}, {47.5, 8.25, 400}, {0, 0, 1234.5}},
+        {"eastwards over the antimeridian", {0, -179.5, 0}, {0, 179.5, 0}, {kDegree, 0, 0}},
+        {"westwards over it", {0, 179.5, 0}, {0, -179.5, 0}, {-kDegree, 0, 0}},
     };
-    for (const Row& row : rows) {
-        const Cartesian point = latLong2Cartesian(row.position, kOrigin);
-        EXPECT_NEAR(point.x, row.x, 1e-4) << row.name;
-        EXPECT_NEAR(point.y, row.y, 1e-4) << row.name;
+    for (const auto& row : rows) {
+        const Cartesian point = latLong2Cartesian(row.position, row.reference);
+        EXPECT_NEAR(point.x, row.expected.x, 1e-4) << row.name;
+        EXPECT_NEAR(point.y, row.expected.y, 1e-4) << row.name;
+        EXPECT_EQ(point.z, row.expected.z) << row.name;
     }
+    EXPECT_NEAR(mercatorLatitude(5621521.486192066) * kDegreesPerRadian, 45.0, 1e-12);
 }
 
-TEST(LatLong2Cartesian, IsRelativeToTheReferenceInThePlaneOnly)
-{
-    const Position reference{47.5, 8.25, 400.0};
-    const Cartesian itself = latLong2Cartesian({47.5, 8.25, 1234.5}, reference);
-    EXPECT_EQ(itself.x, 0.0);
-    EXPECT_EQ(itself.y, 0.0);
-    EXPECT_EQ(itself.z, 1234.5);
-}
-
-TEST(LatLong2Cartesian, StaysInOnePieceOverTheAntimeridian)
-{
-    const double oneDegree = kHalfWorld / 180.0;
-    EXPECT_NEAR(latLong2Cartesian({0, -179.5, 0}, {0, 179.5, 0}).x, oneDegree, 1e-6);
-    EXPECT_NEAR(latLong2Cartesian({0, 179.5, 0}, {0, -179.5, 0}).x, -oneDegree, 1e-6);
-}
-
-TEST(LatLong2Geocentric, LiesOnTheAxesOfTheEllipsoid)
+TEST(LatLong2Geocentric, IsOnTheAxesOfTheEllipsoid)
 {
     const Cartesian equator = latLong2Geocentric({0, 90, 1000});
     EXPECT_NEAR(equator.x, 0.0, 1e-6);

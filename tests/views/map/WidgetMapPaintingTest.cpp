@@ -36,6 +36,19 @@ std::vector<std::pair<double, double>> wave(int count)
     return places;
 }
 
+/// The pixels of an area that meet a condition.
+template <class Condition>
+int countOf(const QImage& image, const QRect& area, const Condition& condition)
+{
+    int count = 0;
+    for (int x = area.left(); x <= area.right(); ++x) {
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            count += condition(image.pixel(x, y)) ? 1 : 0;
+        }
+    }
+    return count;
+}
+
 struct WidgetMapPaintingTest : Test::MapFixture
 {};
 
@@ -69,15 +82,10 @@ TEST_F(WidgetMapPaintingTest, DrawsThePathWhereThePositionsAre)
                 widget.latLong2Window(points[i].latitude, points[i].longitude, &place.rx(),
                                       &place.ry());
                 ASSERT_TRUE(QRectF(image.rect()).contains(place)) << row.name;
-                int inked = 0;
-                for (int dx = -1; dx <= 1; ++dx) {
-                    for (int dy = -1; dy <= 1; ++dy) {
-                        const QPoint pixel(static_cast<int>(place.x()) + dx,
-                                           static_cast<int>(place.y()) + dy);
-                        inked += isPath(image.pixel(pixel)) ? 1 : 0;
-                    }
-                }
-                EXPECT_GE(inked, 2) << row.name << ", range " << range << ", point " << i;
+                const QRect around(static_cast<int>(place.x()) - 1, static_cast<int>(place.y()) - 1,
+                                   3, 3);
+                EXPECT_GE(countOf(image, around, isPath), 2)
+                    << row.name << ", range " << range << ", point " << i;
             }
         }
     }
@@ -93,36 +101,29 @@ TEST_F(WidgetMapPaintingTest, TilesArriveUnderAttributionAndPath)
         QTest::qWaitFor([&] { return server.requests() > 0 && map().loadingTiles() == 0; }, 20000));
     EXPECT_TRUE(server.header("user-agent").startsWith("VELIX "));
     const QImage image = map().grabFramebuffer();
-    const QRgb ground = image.pixel(30, 300);
+    const QRgb background = image.pixel(30, 300);
     bool isTile = false;
     for (const QByteArray& path : server.paths()) {
         const QList<QByteArray> parts = path.split('/');
-        isTile = isTile || ground == TileServer::tileColor(parts[1].toInt(), parts[2].toInt(),
-                                                           parts[3].split('.')[0].toInt())
-                                         .rgb();
+        isTile = isTile || background == TileServer::tileColor(parts[1].toInt(), parts[2].toInt(),
+                                                               parts[3].split('.')[0].toInt())
+                                             .rgb();
     }
-    EXPECT_TRUE(isTile) << std::hex << ground;
-    // Letters on their ground, up to 5 pixels from the lower right corner.
-    int dark = 0;
-    for (int x = image.width() - 255; x < image.width(); ++x) {
-        for (int y = image.height() - 22; y < image.height(); ++y) {
-            const bool letter = qGray(image.pixel(x, y)) < 120;
-            dark += letter ? 1 : 0;
-            EXPECT_FALSE(letter && (x >= image.width() - 4 || y >= image.height() - 4));
-        }
-    }
-    EXPECT_GT(dark, 500);
+    EXPECT_TRUE(isTile) << std::hex << background;
+    // Letters on their background, up to 5 pixels from the lower right corner.
+    const auto isLetter = [](QRgb pixel) { return qGray(pixel) < 120; };
+    const int width = image.width();
+    const int height = image.height();
+    EXPECT_GT(countOf(image, {width - 255, height - 22, 251, 18}, isLetter), 500);
+    EXPECT_EQ(countOf(image, {width - 255, height - 4, 255, 4}, isLetter), 0);
+    EXPECT_EQ(countOf(image, {width - 4, height - 22, 4, 22}, isLetter), 0);
 
     view->resize(200, 400);
     const QImage narrow = map().grabFramebuffer();
-    int first = narrow.width();
-    for (int x = 0; x < narrow.width(); ++x) {
-        for (int y = narrow.height() - 38; y < narrow.height() - 24; ++y) {
-            first = qGray(narrow.pixel(x, y)) < 70 ? std::min(first, x) : first; // no tile's
-        }
-    }
-    EXPECT_GT(first, 20) << "the upper of two lines begins in sight";
-    EXPECT_LT(first, 100);
+    const auto isDark = [](QRgb pixel) { return qGray(pixel) < 70; }; // as no tile is
+    const int upper = narrow.height() - 38;
+    EXPECT_EQ(countOf(narrow, {0, upper, 21, 14}, isDark), 0) << "the upper of two lines";
+    EXPECT_GT(countOf(narrow, {21, upper, 79, 14}, isDark), 0) << "begins in sight";
 }
 
 TEST_F(WidgetMapPaintingTest, SaysAboveTheAttributionWhyThereAreNoTiles)
@@ -131,13 +132,8 @@ TEST_F(WidgetMapPaintingTest, SaysAboveTheAttributionWhyThereAreNoTiles)
     show();
     const auto letters = [this] {
         const QImage image = map().grabFramebuffer();
-        int dark = 0;
-        for (int x = image.width() - 100; x < image.width(); ++x) {
-            for (int y = image.height() - 46; y < image.height() - 28; ++y) {
-                dark += qGray(image.pixel(x, y)) < 80 ? 1 : 0;
-            }
-        }
-        return dark;
+        return countOf(image, {image.width() - 100, image.height() - 46, 100, 18},
+                       [](QRgb pixel) { return qGray(pixel) < 80; });
     };
     EXPECT_LT(letters(), 30) << "no server, no failure";
     CapturedDiagnostics lines;
@@ -154,21 +150,16 @@ TEST_F(WidgetMapPaintingTest, ThePathUnderTheMouseIsMarkedAndNamed)
     show();
     const double ratio = map().devicePixelRatioF();
     const QPointF onPath = windowOf(47.05, 8.1);
-    const auto pixel = [](const QImage& image, const QPointF& place) {
-        return QColor(image.pixel(place.toPoint())).name();
-    };
     const auto hasLine = [&](const QImage& image, const QPointF& mouse, int line) {
         constexpr int kGap = 24;
         constexpr int kHeight = 17;
-        int dark = 0;
-        for (int x = -60; x <= 60; ++x) {
-            for (int y = kGap + line * kHeight; y < kGap + (line + 1) * kHeight; ++y) {
-                dark += qGray(image.pixel(((mouse + QPointF(x, y)) * ratio).toPoint())) < 80;
-            }
-        }
-        return dark > 80;
+        const QRectF area(mouse + QPointF(-60, kGap + line * kHeight), QSizeF(121, kHeight));
+        const QRect pixels(QPointF(area.topLeft() * ratio).toPoint(),
+                           (area.size() * ratio).toSize());
+        const int dark = countOf(image, pixels, [](QRgb pixel) { return qGray(pixel) < 80; });
+        return dark > 80 * ratio * ratio;
     };
-    const QString mark = Palette::light().accent.name();
+    const QRgb mark = Palette::light().accent.rgb();
     const struct
     {
         const char* name;
@@ -182,13 +173,11 @@ TEST_F(WidgetMapPaintingTest, ThePathUnderTheMouseIsMarkedAndNamed)
         QMouseEvent move(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
         QApplication::sendEvent(&map(), &move);
         const QImage image = map().grabFramebuffer();
-        int marks = 0;
-        for (int x = -20; x <= 20; ++x) {
-            for (int y = -20; y <= 20; ++y) {
-                marks += pixel(image, onPath + QPointF(x, y)) == mark ? 1 : 0;
-            }
-        }
-        EXPECT_EQ(marks > 9, row.near) << row.name;
+        const QRect around(onPath.toPoint() - QPoint(20, 20), QSize(41, 41));
+        EXPECT_EQ(
+            countOf(image, around, [mark](QRgb pixel) { return QColor(pixel).rgb() == mark; }) > 9,
+            row.near)
+            << row.name;
         EXPECT_TRUE(hasLine(image, place, 0)) << row.name << ": where it is";
         EXPECT_EQ(hasLine(image, place, 1), row.near) << row.name << ": when it was there";
     }
@@ -231,7 +220,7 @@ TEST_F(WidgetMapPaintingTest, TheLegendKeepsOutOfTheWayOfTheAircraft)
     widget.resize(600, 400);
     widget.show();
     widget.grabFramebuffer(); // fitted
-    /// Where the scale of colours stands: a column of them, which the path itself never makes.
+    /// Where the scale of colours is: a column of them, which the path itself never makes.
     const auto legend = [&widget] {
         const QImage image = widget.grabFramebuffer();
         for (int x = 0; x < image.width(); ++x) {
@@ -260,8 +249,9 @@ TEST_F(WidgetMapPaintingTest, TheLegendKeepsOutOfTheWayOfTheAircraft)
         FlightPathPoint aircraft = points[0];
         aircraft.latitude = moved.centreLatitude - row.down * widget.height() * perPixel;
         aircraft.longitude =
-            moved.centreLongitude + row.right * widget.width() * perPixel /
-                                        std::cos(moved.centreLatitude * 0.017453292519943295);
+            moved.centreLongitude +
+            row.right * widget.width() * perPixel /
+                std::cos(moved.centreLatitude * Tessel::Geodetic::kRadiansPerDegree);
         widget.setAcPosition(aircraft);
         EXPECT_STREQ(legend(), row.place) << row.name;
     }

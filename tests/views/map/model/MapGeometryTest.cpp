@@ -4,6 +4,7 @@
 #include "tests/support/CapturedDiagnostics.h"
 #include "tests/support/ProfileBuilder.h"
 #include "tests/support/RecordBuilder.h"
+#include "views/map/model/MapChanges.h"
 #include "views/map/model/MapColoring.h"
 #include "views/map/model/MapContext.h"
 #include "views/map/model/MapFollower.h"
@@ -53,6 +54,7 @@ TEST(MapTrackTest, FindsTheAircraftBetweenItsPositions)
     } rows[] = {{"before the record", 4.9, 0.0, 0.0, 0.0},
                 {"before the first position", 5.0, -17.0, 179.0, 350.0},
                 {"at a position", 10.0, -17.0, 179.0, 350.0},
+                {"west of north", 12.5, -17.125, 179.5, 355.0},
                 {"the short way round", 17.5, -17.375, -179.5, 5.0},
                 {"on the antimeridian", 15.0, -17.25, 180.0, 0.0},
                 {"after the last position", 25.0, -17.5, -179.0, 10.0},
@@ -70,15 +72,15 @@ TEST(MapTrackTest, FindsTheAircraftBetweenItsPositions)
 TEST(MapNavigationTest, NoStepLeavesTheRangesOfTheMap)
 {
     using namespace MapNavigation;
-    EXPECT_DOUBLE_EQ(keyZoomed(1030.0, 1), 1000.0);
-    EXPECT_DOUBLE_EQ(keyZoomed(1000.0, -1), 1030.0);
-    EXPECT_DOUBLE_EQ(wheelZoomed(1100.0, 1), 1000.0);
-    EXPECT_DOUBLE_EQ(wheelZoomed(1000.0, -120), 1100.0);
-    EXPECT_EQ(keyZoomed(50.5, 1), 50.0);
-    EXPECT_EQ(keyZoomed(6.9e7, -1), 7.0e7);
-    EXPECT_EQ(wheelZoomed(51.0, 120), 50.0);
-    EXPECT_EQ(wheelZoomed(6.9e7, -120), 7.0e7);
-
+    const std::pair<double, double> rows[] = {
+        {keyZoomed(1030.0, 1), 1000.0},      {keyZoomed(1000.0, -1), 1030.0},
+        {wheelZoomed(1100.0, 1), 1000.0},    {wheelZoomed(1000.0, 0), 1100.0},
+        {wheelZoomed(1000.0, -120), 1100.0}, {keyZoomed(50.5, 1), 50.0},
+        {keyZoomed(6.9e7, -1), 7.0e7},       {wheelZoomed(51.0, 120), 50.0},
+        {wheelZoomed(6.9e7, -120), 7.0e7},   {clampedRange(std::nan("")), 7.0e7}};
+    for (const auto& [range, expected] : rows) {
+        EXPECT_DOUBLE_EQ(range, expected);
+    }
     MapContext context;
     setRange(context, 10.0, 400, 300);
     EXPECT_EQ(context.visibleRange, 50.0);
@@ -95,18 +97,52 @@ TEST(MapNavigationTest, NoStepLeavesTheRangesOfTheMap)
 
 TEST(MapNavigationTest, FitsTheWholePath)
 {
-    MapContext context;
-    MapNavigation::fit(context, {47.0, 47.1, 8.0, 9.0}, 2.0);
-    EXPECT_NEAR(context.centreLatitude, 47.05, 1e-3);
-    EXPECT_NEAR(context.centreLongitude, 8.5, 1e-12);
-    EXPECT_NEAR(context.visibleRange, 1.2 * 60.0 * 1852.0, 1e-6);
-    MapNavigation::fit(context, {47.0, 48.0, 8.0, 8.1}, 2.0); // high paths need a wider window
-    EXPECT_NEAR(context.visibleRange, 2.0 * 1.2 * 60.0 * 1852.0, 1e-6);
-    MapNavigation::fit(context, MapPath(kAcross).extent(), 1.0);
-    EXPECT_NEAR(std::abs(context.centreLongitude), 180.0, 1e-9);
-    EXPECT_NEAR(context.visibleRange, 2.0 * 1.2 * 60.0 * 1852.0, 1e-6);
-    MapNavigation::fit(context, {47.0, 47.0, 8.0, 8.0}, 1.0); // never left its stand
-    EXPECT_GE(context.visibleRange, MapNavigation::kLeastRange);
+    constexpr double kDegree = 1.2 * 60.0 * 1852.0;
+    const struct
+    {
+        MapExtent extent;
+        double aspect;
+        double latitude;
+        double longitude;
+        double range;
+    } rows[] = {{{47.0, 47.1, 8.0, 9.0}, 2.0, 47.05, 8.5, kDegree},
+                {{47.0, 48.0, 8.0, 8.1}, 2.0, 47.5, 8.05, 2.0 * kDegree}, // too high for the window
+                {MapPath(kAcross).extent(), 1.0, -17.25, 180.0, 2.0 * kDegree},
+                {{47.0, 47.0, 8.0, 8.0}, 1.0, 47.0, 8.0, 500.0}}; // it never left its stand
+    for (const auto& row : rows) {
+        MapContext context;
+        MapNavigation::fit(context, row.extent, row.aspect);
+        EXPECT_NEAR(context.centreLatitude, row.latitude, 0.01);
+        EXPECT_NEAR(std::remainder(context.centreLongitude - row.longitude, 360.0), 0.0, 1e-9);
+        EXPECT_NEAR(context.visibleRange, row.range, 1e-6) << row.latitude;
+    }
+}
+
+TEST(MapChangesTest, DrawsWhatChangedOnceAndOtherwiseWhenTheFrameIsOld)
+{
+    using Part = MapChanges::Part;
+    MapChanges changes;
+    EXPECT_TRUE(changes.isDue(false, 0.0)) << "the first frame";
+    changes.mark(Part::Lines);
+    EXPECT_TRUE(changes.take(Part::Lines));
+    EXPECT_FALSE(changes.take(Part::Lines) || changes.take(Part::View));
+    changes.beginFrame(100.0);
+    const struct
+    {
+        bool moving;
+        bool loading;
+        double now;
+        bool isDue;
+    } rows[] = {{false, false, 100.9, false}, {false, false, 101.1, true},
+                {false, false, 98.9, true},   {true, false, 100.0, true},
+                {false, true, 100.03, false}, {false, true, 100.05, true}};
+    for (const auto& row : rows) {
+        changes.setLoading(row.loading);
+        EXPECT_EQ(changes.isDue(row.moving, row.now), row.isDue) << row.now;
+    }
+    changes.setLoading(false);
+    changes.mark(Part::View);
+    EXPECT_TRUE(changes.isDue(false, 100.0));
 }
 
 TEST(MapFollowerTest, GlidesTheShortWayAndArrives)
@@ -146,54 +182,48 @@ TEST(MapPathTest, FindsTheNearestPlaceAcrossTheAntimeridian)
     EXPECT_FALSE(MapPath().nearest(0.0, 0.0, 1e9));
 
     std::vector<FlightPathPoint> longPath;
-    longPath.reserve(1000);
     for (int i = 0; i < 1000; ++i) {
-        longPath.push_back(at(i, 47.0 + i * 0.001, 8.0));
+        longPath.push_back(at(i, 47.0 + i * 0.001, 8.0 + i * 0.0001));
     }
-    const auto place = MapPath(longPath).nearest(47.2555, 8.0001, 100.0); // between two boxes
-    ASSERT_TRUE(place);
-    EXPECT_EQ(place->index, 255U);
-    EXPECT_NEAR(place->fraction, 0.5, 1e-3);
+    for (const double farthest : {20.0, 1000.0}) {
+        const auto place = MapPath(longPath).nearest(47.2555, 8.02555, farthest);
+        ASSERT_TRUE(place);
+        EXPECT_EQ(place->index, 255U) << "between two boxes";
+        EXPECT_NEAR(place->fraction, 0.5, 1e-3);
+    }
 }
 
 TEST(MapPathOutlineTest, LeavesOutWhatNobodySees)
 {
-    // Along a line with a little noise, back on it, then round a circle of 100 m.
+    // Along a line with a little noise, back on it, then round two circles of 100 m.
     std::vector<MapPath::Point> points;
-    for (int i = 0; i <= 1000; ++i) {
-        points.push_back({static_cast<double>(i), 0.2 * (i % 3)});
+    for (int i = 0; i <= 1500; ++i) {
+        points.push_back({1000.0 - std::abs(1000.0 - i), i <= 1000 ? 0.2 * (i % 3) : 0.0});
     }
-    for (int i = 999; i >= 500; --i) {
-        points.push_back({static_cast<double>(i), 0.0});
-    }
-    for (int i = 0; i <= 3600; ++i) {
-        points.push_back(
-            {500.0 + 100.0 * std::sin(i / 573.0), 100.0 - 100.0 * std::cos(i / 573.0)});
+    for (const double radius : {100.0, -100.0}) { // to the left, then to the right
+        for (double angle = 0.0; angle < 6.3; angle += 1.0 / 573.0) {
+            points.push_back({500.0 + 100.0 * std::sin(angle), radius - radius * std::cos(angle)});
+        }
     }
     std::vector<QRgb> colors(points.size(), qRgb(0, 0, 200));
     colors[300] = qRgb(255, 0, 0);
     const std::vector<std::size_t> kept = mapPathOutline(points, colors, 1.0);
-    EXPECT_LT(kept.size(), 60U);
+    EXPECT_LT(kept.size(), 90U);
     EXPECT_EQ(kept.front(), 0U);
     EXPECT_EQ(kept.back(), points.size() - 1);
     for (const std::size_t colored : {299U, 300U, 301U}) {
         EXPECT_EQ(std::count(kept.begin(), kept.end(), colored), 1) << colored;
     }
-    double farthest = 0.0;
-    for (const std::size_t i : kept) {
-        farthest = std::max(farthest, points[i].x);
-    }
-    EXPECT_GE(farthest, 999.0) << "where the path turns back";
+    EXPECT_TRUE(std::any_of(kept.begin(), kept.end(), [&](auto i) { return points[i].x >= 999.0; }))
+        << "where the path turns back";
     std::size_t next = 1;
     for (std::size_t i = 0; i < points.size(); ++i) {
         next += i > kept[next] ? 1 : 0;
         const MapPath::Point& from = points[kept[next - 1]];
         const MapPath::Point& to = points[kept[next]];
-        const double length = std::hypot(to.x - from.x, to.y - from.y);
-        const double aside =
-            ((points[i].x - from.x) * (to.y - from.y) - (points[i].y - from.y) * (to.x - from.x)) /
-            length;
-        EXPECT_LE(std::abs(aside), 1.001) << i;
+        const double across =
+            (points[i].x - from.x) * (to.y - from.y) - (points[i].y - from.y) * (to.x - from.x);
+        EXPECT_LE(std::abs(across) / std::hypot(to.x - from.x, to.y - from.y), 1.001) << i;
     }
     EXPECT_TRUE(mapPathOutline({}, {}, 1.0).empty());
     EXPECT_EQ(mapPathOutline({{1.0, 1.0}}, {}, 0.0).size(), 1U);
