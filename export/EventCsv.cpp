@@ -2,8 +2,8 @@
 
 #include "card/CardContainer.h"
 #include "card/RecordEvent.h"
+#include "export/CsvField.h"
 
-#include <QByteArray>
 #include <QIODevice>
 
 #include <string>
@@ -15,40 +15,27 @@ namespace {
 
 constexpr char kDelimiter = ';';
 
-void appendField(std::string_view text, QByteArray& line)
+// The label after a value may be empty; the blank between them says nothing in a table.
+std::string_view withoutBlanks(std::string_view text)
 {
-    // The label after a value may be empty; the blank between them says nothing in a table.
-    while (!text.empty() && text.back() == ' ') {
-        text.remove_suffix(1);
-    }
-    if (text.find_first_of(";\"\r\n") == std::string_view::npos) {
-        line.append(text.data(), static_cast<int>(text.size()));
-        return;
-    }
-    line.append('"');
-    for (const char c : text) {
-        line.append(c);
-        if (c == '"') {
-            line.append('"');
-        }
-    }
-    line.append('"');
+    return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
 } // namespace
 
 bool writeEventCsv(const std::vector<const RecordLimit*>& events, QIODevice& out)
 {
-    QByteArray table("Time;Parameter;Value\n");
+    std::string table("Time;Parameter;Value\n");
     for (const RecordLimit* event : events) {
-        table.append(CardContainer::time(event->time).toLatin1());
-        table.append(kDelimiter);
-        appendField(event->name, table);
-        table.append(kDelimiter);
-        appendField(event->value, table);
-        table.append('\n');
+        table += CardContainer::time(event->time).toStdString();
+        table.push_back(kDelimiter);
+        appendCsvField(withoutBlanks(event->name), kDelimiter, table);
+        table.push_back(kDelimiter);
+        appendCsvField(withoutBlanks(event->value), kDelimiter, table);
+        table.push_back('\n');
     }
-    return out.write(table) == table.size();
+    const auto size = static_cast<qint64>(table.size());
+    return out.write(table.data(), size) == size;
 }
 
 } // namespace VELIX

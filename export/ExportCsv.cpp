@@ -2,6 +2,7 @@
 
 #include "card/SampleWalk.h"
 #include "core/Progress.h"
+#include "export/CsvField.h"
 #include "export/OutputFile.h"
 #include "profile/Profile.h"
 
@@ -140,22 +141,14 @@ private:
         return written && mProgress.reach(kColumnsRead, 100.0, mWritten, mCells);
     }
 
-    /// A field as it is or, in the aligned form, quoted where a reader of the table needs it.
+    /// Only the aligned form quotes; the other one is kept for compatibility.
     void appendField(std::string_view text)
     {
-        const char special[] = {mOptions.delimiter, '"', '\r', '\n', '\0'};
-        if (!mOptions.aligned || text.find_first_of(special) == std::string_view::npos) {
+        if (mOptions.aligned) {
+            appendCsvField(text, mOptions.delimiter, mBuffer);
+        } else {
             mBuffer += text;
-            return;
         }
-        mBuffer.push_back('"');
-        for (const char c : text) {
-            mBuffer.push_back(c);
-            if (c == '"') {
-                mBuffer.push_back('"');
-            }
-        }
-        mBuffer.push_back('"');
     }
 
     void writeHeader()
@@ -267,7 +260,7 @@ Outcome ExportCsv::exportData(const RecordData& record, const CsvExportOptions& 
                               Progress& progress)
 {
     return writeExport(
-        options.directory, options.fileName,
+        outputPath(options.directory, options.fileName),
         [&](QIODevice& out) { return writeTable(record, options, out, progress); }, progress);
 }
 
@@ -280,8 +273,7 @@ std::size_t ExportCsv::rows(const RecordData& record, const CsvExportOptions& op
         if (!counted.insert(p->id).second) {
             continue;
         }
-        const std::vector<std::uint64_t> own =
-            ticksOf(record.entries(static_cast<std::uint32_t>(p->id)), resolution);
+        const std::vector<std::uint64_t> own = ticksOf(record.entries(*p), resolution);
         std::vector<std::uint64_t> both;
         both.reserve(all.size() + own.size());
         std::set_union(all.begin(), all.end(), own.begin(), own.end(), std::back_inserter(both));

@@ -230,7 +230,7 @@ Outcome ExportKml::exportData(const RecordData& record, const KmlExportOptions& 
                               Progress& progress)
 {
     return writeExport(
-        options.directory, options.fileName,
+        outputPath(options.directory, options.fileName),
         [&](QIODevice& out) { return writeDocument(record, options, out, progress); }, progress);
 }
 

@@ -25,6 +25,16 @@ Outcome failure(const QFileDevice& file)
 
 } // namespace
 
+QString outputPath(const std::string& directory, const std::string& fileName)
+{
+    return QString::fromStdString(directory) + QLatin1Char('/') + QString::fromStdString(fileName);
+}
+
+QString absoluteOutputPath(const std::string& directory, const std::string& fileName)
+{
+    return QFileInfo(outputPath(directory, fileName)).absoluteFilePath();
+}
+
 Outcome writeOutputFile(const QString& path, const std::function<bool(QIODevice&)>& fill)
 {
     const QFileInfo target(path);
@@ -49,11 +59,9 @@ Outcome writeOutputFile(const QString& path, const std::function<bool(QIODevice&
     return file.commit() ? Outcome::success() : failure(file);
 }
 
-Outcome writeExport(const std::string& directory, const std::string& fileName,
-                    const std::function<bool(QIODevice&)>& fill, const Progress& progress)
+Outcome writeExport(const QString& path, const std::function<bool(QIODevice&)>& fill,
+                    const Progress& progress)
 {
-    const QString path =
-        QString::fromStdString(directory) + QLatin1Char('/') + QString::fromStdString(fileName);
     Outcome outcome = writeOutputFile(path, fill);
     if (progress.cancelled()) {
         return Outcome::cancellation();

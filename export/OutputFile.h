@@ -13,6 +13,11 @@ namespace VELIX {
 
 class Progress;
 
+/// The file of a folder and a name, both UTF-8, as the options of an export hold them.
+QString outputPath(const std::string& directory, const std::string& fileName);
+/// The same file from the root on, for the user.
+QString absoluteOutputPath(const std::string& directory, const std::string& fileName);
+
 /// Writes an exported file as a whole or not at all.
 ///
 /// `fill` writes the content and returns false if the device does not take it. A plain or new file
@@ -24,8 +29,7 @@ class Progress;
 
 /// Writes an export's file in the same way and says in the diagnostics why that failed.
 /// progress: that of `fill`, which returns false once it is cancelled.
-[[nodiscard]] Outcome writeExport(const std::string& directory, const std::string& fileName,
-                                  const std::function<bool(QIODevice&)>& fill,
+[[nodiscard]] Outcome writeExport(const QString& path, const std::function<bool(QIODevice&)>& fill,
                                   const Progress& progress);
 
 } // namespace VELIX

@@ -3,6 +3,7 @@
 #include "card/CardContainer.h"
 #include "core/Progress.h"
 #include "core/Property.h"
+#include "export/OutputFile.h"
 #include "export/wizard/DialogExportCsv.h"
 #include "export/wizard/DialogExportKml.h"
 #include "gui/dialogs/DialogService.h"
@@ -39,8 +40,7 @@ ExportController::ExportController(const AppContext& context, DialogService& dia
 template <typename Engine, typename Options>
 bool ExportController::write(Engine& engine, const Options& options, const QString& title)
 {
-    const QDir folder(QString::fromStdString(options.directory));
-    const QString file = folder.absoluteFilePath(QString::fromStdString(options.fileName));
+    const QString file = absoluteOutputPath(options.directory, options.fileName);
     Outcome outcome;
     {
         const QScopedValueRollback<bool> writing(mWriting, true);

@@ -1,5 +1,6 @@
 #include "export/wizard/ExportPathPage.h"
 
+#include "export/OutputFile.h"
 #include "export/wizard/ExportNote.h"
 #include "gui/dialogs/DialogService.h"
 
@@ -117,7 +118,7 @@ bool ExportPathPage::validatePage()
     if (!sentence.isEmpty()) {
         return false;
     }
-    const QString file = QDir(directory()).filePath(fileName());
+    const QString file = outputPath(mDirectory, mFileName);
     if (!QFileInfo::exists(file) || file == mReplaced) {
         return true;
     }

@@ -1,6 +1,7 @@
 #include "export/wizard/ExportSummary.h"
 
-#include <QDir>
+#include "export/OutputFile.h"
+
 #include <QFormLayout>
 #include <QLabel>
 #include <QLocale>
@@ -46,8 +47,7 @@ void ExportSummary::setCount(int line, std::size_t count, const QString& remark)
 
 void ExportSummary::setFile(const std::string& directory, const std::string& fileName)
 {
-    const QDir folder(QString::fromStdString(directory));
-    const QString path = QDir::cleanPath(folder.absoluteFilePath(QString::fromStdString(fileName)));
+    const QString path = absoluteOutputPath(directory, fileName);
     mFile->setText(mFile->fontMetrics().elidedText(path, Qt::ElideMiddle, kPathWidth));
     mFile->setToolTip(path);
 }

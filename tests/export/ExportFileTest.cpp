@@ -164,6 +164,18 @@ TYPED_TEST(ExportFile, AFailureSaysWhy)
     }
 }
 
+TEST(OutputFile, IsShownFromTheRootOn)
+{
+    const std::pair<const char*, QString> rows[] = {
+        {".", QDir::currentPath() + QStringLiteral("/a.csv")},
+        {"sub/..", QDir::currentPath() + QStringLiteral("/a.csv")},
+        {"/", QStringLiteral("/a.csv")},
+        {"/tmp//x/../y/", QStringLiteral("/tmp/y/a.csv")}};
+    for (const auto& [directory, path] : rows) {
+        EXPECT_EQ(absoluteOutputPath(directory, "a.csv"), path);
+    }
+}
+
 TEST(OutputFile, DevicesAreWrittenToAndStay)
 {
     const auto fill = [](QIODevice& out) { return out.write("text") == 4; };
