@@ -1,5 +1,6 @@
 #include "card/CardContainer.h"
 
+#include "card/CardListing.h"
 #include "card/FlightFinder.h"
 #include "card/FlightPath.h"
 #include "card/FlightStatisticCalculator.h"
@@ -10,43 +11,12 @@
 #include "profile/Profile.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <cmath>
 #include <utility>
 
 namespace VELIX {
-
-namespace {
-
-bool isRecordFile(const QString& name)
-{
-    const QString extension = QFileInfo(name).suffix();
-    return extension == QLatin1String("CAN") || extension == QLatin1String("can") ||
-           extension == QLatin1String("xcb");
-}
-
-/// The record files of a folder with what their headers say; incomplete if it was cancelled.
-std::map<QString, RecordFile> listFiles(const QString& path, Progress& progress)
-{
-    const QStringList names = QDir(path).entryList(QDir::Files, QDir::Unsorted);
-    Diagnostics::print("CardContainer::readContainer: Path <%s> NrFiles %d\n",
-                       path.toUtf8().constData(), static_cast<int>(names.size()));
-    std::map<QString, RecordFile> files;
-    for (const QString& name : names) {
-        if (isRecordFile(name)) {
-            files[name].readRecordInfo(QStringLiteral("%1/%2").arg(path, name));
-        }
-        if (!progress.restart()) { // whole files only: 0 until the listing is complete
-            return files;
-        }
-    }
-    (void)progress.reach(100.0); // the caller sees whether that was cancelled
-    return files;
-}
-
-} // namespace
 
 CardContainer& CardContainer::instance()
 {
@@ -76,50 +46,20 @@ Outcome CardContainer::readContainer(const QString& path, Progress& progress)
         return Outcome::failure(
             tr("The folder %1 cannot be opened. Is the card in its reader?").arg(path));
     }
-    std::map<QString, RecordFile> files = listFiles(path, progress);
+    std::map<QString, RecordFile> files = listRecordFiles(path, progress);
     if (progress.cancelled()) {
         return Outcome::cancellation();
     }
     clear();
     mName = path;
     mRecordFiles = std::move(files);
-    for (auto& [name, file] : mRecordFiles) {
-        file.setDateInvalid(!file.recordInfo().dateTime.isValid());
-    }
-    repairDates();
     calcCycles();
     return Outcome::success();
 }
 
-// Forward only: of a run of invalid dates just the last one finds a valid neighbour.
-void CardContainer::repairDates()
-{
-    for (auto file = mRecordFiles.begin(); file != mRecordFiles.end(); ++file) {
-        const auto next = std::next(file);
-        const RecordInfo& info = file->second.recordInfo();
-        if (next != mRecordFiles.end() && !info.dateTime.isValid()) {
-            const auto stop = static_cast<qint64>(-(info.stopTime * 1000.0));
-            file->second.setDateTime(next->second.recordInfo().dateTime.addMSecs(stop));
-        }
-    }
-}
-
 void CardContainer::calcCycles()
 {
-    mCycles.clear();
-    std::uint32_t number = 0;
-    for (const auto& [name, file] : mRecordFiles) {
-        if (file.recordInfo().dateInvalid) {
-            ++number;
-            RecordCycle& opened = mCycles[number];
-            opened.name = tr("Cycle %1").arg(number);
-            opened.dateTime = file.recordInfo().dateTime;
-            opened.files.clear();
-        }
-        RecordCycle& cycle = mCycles[number];
-        cycle.files.push_back(file);
-        cycle.stopTime = file.recordInfo().stopTime;
-    }
+    mCycles = groupIntoCycles(mRecordFiles);
 }
 
 const RecordFile* CardContainer::listedFile(const QString& name) const
@@ -222,7 +162,7 @@ void CardContainer::calcFlights(RecordCycle& cycle)
         mProfile.getParameterFromVelixType(QStringLiteral("GroundSpeed"));
     const ProfileDecoder decoder = mProfile.decoder();
     FlightFinder finder;
-    for (const RecordEntry& entry : mLoaded->entries(static_cast<std::uint32_t>(speed.id))) {
+    for (const RecordEntry& entry : mLoaded->entries(speed)) {
         const auto found = finder.add(entry.time, decoder.number(ParameterSample(entry, speed)));
         if (!found) {
             continue;
@@ -257,7 +197,7 @@ void CardContainer::calcFlightPath()
 
 double CardContainer::getValue(const ProfileParameter& p, double time, int& state, QColor& color)
 {
-    const RecordIdList& list = mLoaded->list(static_cast<std::uint32_t>(p.id));
+    const RecordIdList& list = mLoaded->list(p);
     if (!(time < static_cast<double>(list.indexSize))) {
         return 0.0;
     }

@@ -101,7 +101,6 @@ public:
                              std::vector<Sample>& output);
 
 private:
-    void repairDates();
     const RecordFile* listedFile(const QString& name) const;
     std::uint64_t memoryLimit() const;
     void take(LoadedRecord record);

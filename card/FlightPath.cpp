@@ -45,7 +45,7 @@ std::vector<const RecordEntry*> samplesOf(const RecordData& record, const Profil
     if (p.velixDataType.isEmpty()) {
         return {}; // not those of identifier 0
     }
-    return record.entries(static_cast<std::uint32_t>(p.id)).sortedByTime();
+    return record.entries(p).sortedByTime();
 }
 
 /// Decodes both series in one walk by time: the filter judges a longitude by the last latitude.

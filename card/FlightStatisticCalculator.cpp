@@ -49,7 +49,7 @@ void FlightStatisticCalculator::walk(const char* role, const RecordFlight& fligh
                                      const std::function<bool(double, double)>& visit)
 {
     const ProfileParameter p = mProfile.getParameterFromVelixType(QString::fromLatin1(role));
-    const EntryList& entries = mRecord.entries(static_cast<std::uint32_t>(p.id));
+    const EntryList& entries = mRecord.entries(p);
     const ProfileDecoder decoder = mProfile.decoder();
     const auto goesOn = [&](const RecordEntry& entry) {
         return entry.time <= flight.stopTime &&

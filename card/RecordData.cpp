@@ -1,5 +1,8 @@
 #include "card/RecordData.h"
 
+#include "profile/FaultMatrix.h"
+#include "profile/ProfileParameter.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -34,6 +37,31 @@ RecordIdList& RecordData::list(std::uint32_t id)
         at->second.entries = EntryList(EntryList::Kind::View);
     }
     return at->second;
+}
+
+const RecordIdList* RecordData::find(const ProfileParameter& p) const
+{
+    return find(static_cast<std::uint32_t>(p.id));
+}
+
+const RecordIdList* RecordData::find(const FaultMatrix& matrix) const
+{
+    return find(static_cast<std::uint32_t>(matrix.id));
+}
+
+const EntryList& RecordData::entries(const ProfileParameter& p) const
+{
+    return entries(static_cast<std::uint32_t>(p.id));
+}
+
+const EntryList& RecordData::entries(const FaultMatrix& matrix) const
+{
+    return entries(static_cast<std::uint32_t>(matrix.id));
+}
+
+RecordIdList& RecordData::list(const ProfileParameter& p)
+{
+    return list(static_cast<std::uint32_t>(p.id));
 }
 
 // Appending needs no order, so a small direct-mapped table spares most searches of the ordered map.

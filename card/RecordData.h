@@ -15,6 +15,9 @@
 
 namespace VELIX {
 
+struct FaultMatrix;
+struct ProfileParameter;
+
 /// The entries of one or more record files, filed by CAN identifier, and what was found in them.
 ///
 /// Two pseudo-identifiers collect the entries of source 0 and 1 across all identifiers.
@@ -31,12 +34,18 @@ public:
     RecordData& operator=(const RecordData&) = delete;
 
     const IdMap& ids() const { return mIds; }
-    /// Returns the entries of an identifier; null if the data has no such list.
+    /// Returns the list of an identifier, or of that of a parameter or fault matrix; null if there
+    /// is none.
     const RecordIdList* find(std::uint32_t id) const;
-    /// Returns the entries of an identifier; an empty list if there are none.
+    const RecordIdList* find(const ProfileParameter& p) const;
+    const RecordIdList* find(const FaultMatrix& matrix) const;
+    /// Returns the same list's entries; an empty list if there are none.
     const EntryList& entries(std::uint32_t id) const;
-    /// Returns the list of an identifier, created if absent.
+    const EntryList& entries(const ProfileParameter& p) const;
+    const EntryList& entries(const FaultMatrix& matrix) const;
+    /// Returns the same list, created if absent.
     RecordIdList& list(std::uint32_t id);
+    RecordIdList& list(const ProfileParameter& p);
 
     /// Files an entry under its identifier and in the collective list of its source.
     void append(const RecordEntry& entry);

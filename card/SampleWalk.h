@@ -22,7 +22,7 @@ void forEachSampleByTime(const RecordData& record, const ProfileParameter& p,
                          const Profile& profile, Visit visit)
 {
     CoordinateFilter filter = filterForWalk(record, p, profile);
-    const EntryList& entries = record.entries(static_cast<std::uint32_t>(p.id));
+    const EntryList& entries = record.entries(p);
     if (!entries.isSorted()) {
         for (const RecordEntry* entry : entries.sortedByTime()) {
             visit(ParameterSample(*entry, p, filter));
@@ -44,7 +44,7 @@ void forEachSample(const RecordData& record, const ProfileParameter& p, const Pr
         forEachSampleByTime(record, p, profile, visit);
         return;
     }
-    for (const RecordEntry& entry : record.entries(static_cast<std::uint32_t>(p.id))) {
+    for (const RecordEntry& entry : record.entries(p)) {
         visit(ParameterSample(entry, p));
     }
 }

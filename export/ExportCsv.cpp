@@ -77,7 +77,7 @@ Column fillColumn(const RecordData& record, const ProfileParameter& p, int resol
     const ProfileDecoder decoder = profile.decoder();
     Column column;
     column.header = profile.format(p).label(NumberFormat::EUnitOf::Text).toStdString();
-    column.cells.reserve(record.entries(static_cast<std::uint32_t>(p.id)).size());
+    column.cells.reserve(record.entries(p).size());
     forEachSample(record, p, profile, [&](const ParameterSample& sample) {
         const std::size_t begin = column.texts.size();
         decoder.appendText(sample, column.texts);

@@ -185,9 +185,8 @@ QJsonObject recordReport(CardContainer& card, Profile& profile,
             values.insert(p.fullName, valueRows(card, p, times));
         }
         for (const FaultMatrix& matrix : device.errorMatrices) {
-            const auto id = static_cast<std::uint32_t>(matrix.id);
             words.insert(QString::number(matrix.id),
-                         faultRows(card.recordData().entries(id), times));
+                         faultRows(card.recordData().entries(matrix), times));
         }
     }
     report.insert(QStringLiteral("getValue"), values);

@@ -190,14 +190,14 @@ void WidgetFaultMatrix::setTime(double seconds)
 {
     moveBar(seconds);
     if (mRecord != nullptr) {
-        showWord(faultWordAt(mRecord->entries(static_cast<std::uint32_t>(mMatrix.id)), seconds));
+        showWord(faultWordAt(mRecord->entries(mMatrix), seconds));
     }
 }
 
 void WidgetFaultMatrix::updateLiveData()
 {
     if (mRecord != nullptr) {
-        const RecordIdList* list = mRecord->find(static_cast<std::uint32_t>(mMatrix.id));
+        const RecordIdList* list = mRecord->find(mMatrix);
         showWord(list != nullptr ? faultWord(list->last) : 0);
     }
 }

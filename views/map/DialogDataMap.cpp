@@ -249,7 +249,7 @@ void DialogDataMap::fillEntry(DataEntry& entry) const
     if (mRecord == nullptr) {
         return;
     }
-    const EntryList& samples = mRecord->entries(static_cast<std::uint32_t>(entry.parameter->id));
+    const EntryList& samples = mRecord->entries(*entry.parameter);
     if (samples.empty()) {
         return;
     }

@@ -90,8 +90,7 @@ void DialogDataView::updateView()
     mView->setVar("UNIT", static_cast<long>(mProfile.currentUnit()));
     if (mHasRecord) {
         for (const ViewParameter& shown : mParameters) {
-            const EntryList& entries =
-                mCard.loadedData().entries(static_cast<std::uint32_t>(shown.parameter.id));
+            const EntryList& entries = mCard.loadedData().entries(shown.parameter);
             // Without any entry the value is 0, which must not look like a measured one.
             mView->setVar(shown.missingId.c_str(), entries.empty() ? 1L : 0L);
             int state = 0;

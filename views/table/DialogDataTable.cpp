@@ -233,7 +233,7 @@ void DialogDataTable::fillCoordinates(int column, const TableColumn& context)
 
 const EntryList& DialogDataTable::entriesOf(const TableColumn& column) const
 {
-    return mRecord->entries(static_cast<std::uint32_t>(column.parameter.id));
+    return mRecord->entries(column.parameter);
 }
 
 void DialogDataTable::fitColumns()
@@ -285,7 +285,7 @@ void DialogDataTable::slotTimeout()
     }
     int row = 0;
     for (const auto& column : mColumns) {
-        const RecordIdList* list = mRecord->find(static_cast<std::uint32_t>(column->parameter.id));
+        const RecordIdList* list = mRecord->find(column->parameter);
         if (list != nullptr && !list->entries.empty()) {
             auto* item = static_cast<TableTextItem*>(mTable->item(row, 0));
             if (item == nullptr) {
