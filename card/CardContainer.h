@@ -41,7 +41,7 @@ public:
     explicit CardContainer(const Profile& profile);
 
     /// Lists a card folder by the headers of its record files. Fails if there is no such folder;
-    /// nothing changes then, nor by a listing that is cancelled. The loaded data stays.
+    /// neither then nor when it is cancelled does anything change. The loaded data stays.
     Outcome readContainer(const QString& path, Progress& progress);
     bool readContainer(const QString& path);
     /// Forgets the listing: its files and its cycles. The loaded data stays.
@@ -62,7 +62,7 @@ public:
     Outcome loadCycle(std::uint32_t cycle, int flight, Progress& progress);
     /// 0 if there is no such cycle, else 1.
     int loadCycle(std::uint32_t cycle, int flight);
-    /// Bytes that a load may need at most; 0 (the default) is half of the free memory.
+    /// Limits the bytes that a load may need; 0 (the default) is half of the free memory.
     void setMemoryLimit(std::uint64_t bytes) { mMemoryLimit = bytes; }
 
     /// The data that views and exports read: the loaded files, a cycle or one flight of it.
@@ -80,8 +80,8 @@ public:
     double startTime() const { return mStartTime; } ///< s: start of the first loaded file
     double stopTime() const { return mStopTime; }   ///< s: stop of the last loaded file
 
-    /// Value of a parameter at a time (s): that of the latest sample before it, or of the first
-    /// sample; 0 beyond the last sample or the loaded time.
+    /// Returns the value of a parameter at a time (s): that of the latest sample before it, or of
+    /// the first sample; 0 beyond the last sample or the loaded time.
     double getValue(const ProfileParameter& p, double time, int& state, QColor& color);
     double getValue(const ProfileParameter& p, double time);
 
@@ -90,13 +90,13 @@ public:
     void calcFlightStatistic(RecordFlight& flight);
     void calcFlightPath();
 
-    /// Text after the last "/".
+    /// Returns the text after the last "/".
     static QString name(const QString& path);
-    /// Time of day "hh:mm:ss.zzz" of seconds since midnight; wraps after 24 hours.
+    /// Returns the time of day "hh:mm:ss.zzz" of seconds since midnight; wraps after 24 hours.
     static QString time(double seconds);
-    /// Great-circle distance in metres between two points in degrees.
+    /// Returns the great-circle distance in metres between two points in degrees.
     static double calcDistance(double lat1, double lon1, double lat2, double lon2);
-    /// Linear interpolation of a series at a fixed step (s).
+    /// Interpolates a series linearly at a fixed step (s).
     static void resampleData(double step, const std::vector<Sample>& input,
                              std::vector<Sample>& output);
 

@@ -12,7 +12,7 @@ class Progress;
 class RecordData;
 class RecordFieldReader;
 
-/// Reader of one record file: a 128-byte header and 28-byte entries in either byte order.
+/// Reads one record file: a 128-byte header and 28-byte entries in either byte order.
 class RecordFile
 {
 public:
@@ -24,7 +24,7 @@ public:
     /// Reads the header and the times of the first and last entry. False, with a diagnostic, if
     /// the file cannot be opened; then only the path is kept. Fields past the end are 0 or empty.
     bool readRecordInfo(const QString& path);
-    /// Whether the file can be opened now; if not, the diagnostics say so.
+    /// Returns whether the file can be opened now; if not, the diagnostics say so.
     bool checkReadable() const;
     /// Appends all entries of the file to `data` and widens its and the file's time span. False if
     /// the file cannot be opened (`data` is unchanged) or memory runs out.

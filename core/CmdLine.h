@@ -22,13 +22,14 @@ public:
     /// and passed over. False if there was any.
     [[nodiscard]] bool parse(int argc, const char* const* argv);
 
-    /// True if the option occurred, however often; false for a name that was never registered.
+    /// Returns whether the option occurred, however often; false for a name that was never
+    /// registered.
     bool getSwitch(const std::string& name) const;
-    /// Copies the given or default value; true if the option occurred. A name that was never
+    /// Copies the given or default value. True if the option occurred. A name that was never
     /// registered has an empty value.
     bool getParameter(const std::string& name, std::string& value) const;
 
-    /// The options by name; a parameter shows its present value as its default.
+    /// Prints the options by name; a parameter shows its present value as its default.
     void printUsage() const;
 
 private:

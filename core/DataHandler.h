@@ -6,14 +6,14 @@
 class DataHandler
 {
 public:
-    /// Made from HOME and the folder of the executable on the first call, which therefore needs
-    /// the application object.
+    /// Returns the one instance. The first call makes it from HOME and the folder of the executable
+    /// and so needs the application object.
     static DataHandler& instance();
 
     /// Takes HOME from the environment and the folder of the executable from the application.
     void init();
-    /// home: null if there is none; the data, user data and profile paths are then empty.
-    /// Makes missing folders and reports the paths.
+    /// Makes missing folders and prints the paths. home: null if there is none; the data, user data
+    /// and profile paths are then empty.
     void init(const char* home, const std::string& applicationDirectory);
 
     std::string dataPath() const { return mDataPath; }

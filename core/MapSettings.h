@@ -10,9 +10,10 @@ class Property;
 /// keep it.
 struct MapSettings
 {
-    /// A limit that is no number or below 1 counts as the default one.
+    /// Reads what the settings hold. A limit that is no number or below 1 counts as the default
+    /// one.
     static MapSettings read(const Property& settings);
-    /// Only into the store; the caller writes the file.
+    /// Puts all values into the settings; the caller writes their file.
     void store(Property& settings) const;
 
     std::string tileServer = "https://tile.openstreetmap.org/"; ///< base address, by zoom, x and y

@@ -23,17 +23,18 @@ public:
     int writeXmlFile();
     int writeXmlFile(const std::string& path);
 
-    /// The stored text, or the default if the key is absent (an empty text is returned as empty).
+    /// Returns the stored text, or the default if the key is absent (an empty text is returned as
+    /// empty).
     std::string getString(const std::string& key, const std::string& def) const;
-    /// Leading decimal number of the text; 0 if it does not begin with one.
+    /// Returns the leading decimal number of the text; 0 if it does not begin with one.
     int getInt(const std::string& key, int def) const;
     double getDouble(const std::string& key, double def) const;
-    /// True only for "true", "TRUE" and "True".
+    /// Returns true only for the texts "true", "TRUE" and "True".
     bool getSwitch(const std::string& key, bool def) const;
 
     void setString(const std::string& key, const std::string& value);
     void setInt(const std::string& key, int value);
-    /// Keeps six significant digits.
+    /// Stores a number with six significant digits.
     void setDouble(const std::string& key, double value);
     void setSwitch(const std::string& key, bool value);
 
@@ -42,7 +43,7 @@ private:
 
     std::map<std::string, std::string> mValues;
     std::string mConfigFile;
-    std::string mBrokenFile; ///< read in vain: kept aside before the next write replaces it
+    std::string mBrokenFile; ///< could not be read: kept aside before the next write replaces it
 };
 
 } // namespace VELIX

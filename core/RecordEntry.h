@@ -6,7 +6,7 @@
 
 namespace VELIX {
 
-/// One captured CAN message as it stands in a record file, with its decoded time.
+/// One captured CAN message as it is stored in a record file, with its decoded time.
 ///
 /// The first 28 bytes mirror the file's entry (words in host order): a profile parameter's
 /// startByte indexes them, so their layout is part of the profile's contract.
@@ -33,14 +33,15 @@ inline constexpr std::size_t kEntryBytes = 28;
 static_assert(offsetof(RecordEntry, id) == 12 && offsetof(RecordEntry, timeLow) == 24,
               "the entry mirrors the file layout");
 
-/// Seconds on the unit's clock of a 64-bit tick count (31.25 ns a tick).
+/// Converts a 64-bit tick count (31.25 ns a tick) to seconds on the unit's clock.
 /// The order of the operations is fixed: displays and exports are compared to the last digit.
 constexpr double ticksToSeconds(std::uint32_t high, std::uint32_t low)
 {
     return static_cast<double>(low) * 31.25 * 1e-9 + static_cast<double>(high) * 134.217728;
 }
 
-/// The key of a tenth of a second under which views file a time; times before 0 become key 0.
+/// Returns the key of a tenth of a second under which views file a time; times before 0 become key
+/// 0.
 constexpr std::uint32_t timeKey(double seconds)
 {
     const double tenths = seconds * 10.0 + 0.5;

@@ -9,13 +9,13 @@ class Revision
 {
 public:
     static std::string getName();
-    /// Name and version number, as "VELIX 2.1.2".
+    /// Returns name and version number, as "VELIX 2.1.2".
     static std::string getRevisionString();
     static std::string getRevisionNumber();
-    /// Date and time of the build, as "Feb 24 2026 17:06:51".
+    /// Returns date and time of the build, as "Feb 24 2026 17:06:51".
     static std::string compileTime();
 
-    /// The start-up banner.
+    /// Prints the start-up banner.
     static void printHeader();
 };
 

@@ -4,7 +4,7 @@
 
 namespace VELIX {
 
-/// Reports on its destruction how long the scope took that it stands in.
+/// Reports, when it is destroyed, how long its scope took.
 class Timer
 {
 public:

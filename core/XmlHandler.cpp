@@ -72,7 +72,7 @@ bool parse(QDomDocument& doc, const QByteArray& text, bool isChecked = false)
     return false;
 }
 
-QByteArray serialised(const QDomDocument& doc)
+QByteArray serialized(const QDomDocument& doc)
 {
     QByteArray text;
     QTextStream stream(&text, QIODevice::WriteOnly);
@@ -93,9 +93,9 @@ WriteResult write(const QDomDocument& doc, const QString& path)
         !file.open(QIODevice::WriteOnly)) {
         return WriteResult::NotOpened;
     }
-    // In one piece and flushed here: a stream, and the closing of the file, take a part that went
-    // in before the disk was full for the whole.
-    const QByteArray text = serialised(doc);
+    // Written in one piece and flushed here: a stream, and the closing of the file, report success
+    // even if only a part went in before the disk was full.
+    const QByteArray text = serialized(doc);
     if (file.write(text) != text.size() || !file.flush()) {
         file.cancelWriting();
     }

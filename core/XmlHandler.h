@@ -23,10 +23,10 @@ public:
                             const std::string& value);
     void xmlCreateAttribute(QDomDocument& doc, QDomElement& e, const QString& name, int value);
     void xmlCreateAttribute(QDomDocument& doc, QDomElement& e, const QString& name, long value);
-    /// Written as a signed number: values above the signed range come out negative.
+    /// Writes the value as a signed number: above the signed range it comes out negative.
     void xmlCreateAttribute(QDomDocument& doc, QDomElement& e, const QString& name,
                             unsigned long value);
-    /// Always twelve decimals.
+    /// Writes the value with twelve decimals.
     void xmlCreateAttribute(QDomDocument& doc, QDomElement& e, const QString& name, double value);
     void xmlCreateParameter(QDomElement& e, const QString& name, const std::string& value);
 
@@ -34,18 +34,20 @@ public:
                                   const QString& def);
     std::string xmlGetStdStringAttribute(const QDomNamedNodeMap& attrs, const QString& name,
                                          const std::string& def);
-    /// Decimal, "0x" hexadecimal or "0" octal; 0 if it is no number, the default if it is empty.
+    /// Reads a decimal, "0x" hexadecimal or "0" octal number; 0 if it is no number, the default if
+    /// it is empty.
     int xmlGetIntAttribute(const QDomNamedNodeMap& attrs, const QString& name, int def);
     double xmlGetDoubleAttribute(const QDomNamedNodeMap& attrs, const QString& name, double def);
-    /// True only for "true" and "1".
+    /// Returns true only for the texts "true" and "1".
     bool xmlGetBoolAttribute(const QDomNamedNodeMap& attrs, const QString& name, bool def);
 
     /// Reads a whole file; false, with a diagnostic, if it cannot be opened or does not parse.
-    /// Files nested or entity-laden beyond reason count as not parsing.
+    /// A file whose nesting or entities go beyond reason counts as one that does not parse.
     bool xmlReadFile(QDomDocument& doc, const QString& file);
-    /// The same without the cost of a document: the text, which is known to parse.
+    /// Reads the text of a file in the same way: it is known to parse, without the cost of a
+    /// document.
     bool xmlReadText(QByteArray& text, const QString& file);
-    /// The same for dir/file, without a diagnostic.
+    /// Reads the document dir/file in the same way, without a diagnostic.
     bool xmlReadFile(QDomDocument& doc, const QString& dir, const QString& file);
     /// Writes beside the target and renames over it, so that a failure leaves the old file.
     bool xmlWriteFile(const QDomDocument& doc, const QString& file);

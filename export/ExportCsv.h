@@ -31,7 +31,7 @@ public:
     /// False if it was cancelled or the device does not take it all.
     bool writeTable(const RecordData& record, const CsvExportOptions& options, QIODevice& out,
                     Progress& progress);
-    /// The rows that exportData() would write, heading left out; decodes nothing.
+    /// Counts the rows that exportData() would write, heading left out; decodes nothing.
     std::size_t rows(const RecordData& record, const CsvExportOptions& options) const;
 
 private:

@@ -39,7 +39,7 @@ public:
     /// False if it was cancelled or the device does not take it all.
     bool writeDocument(const RecordData& record, const KmlExportOptions& options, QIODevice& out,
                        Progress& progress);
-    /// What exportData() would write; takes some milliseconds for an hour of flight.
+    /// Counts what exportData() would write; takes some milliseconds for an hour of flight.
     KmlSummary summary(const RecordData& record, const KmlExportOptions& options);
 
 private:

@@ -36,12 +36,12 @@ QString kmlColor(const std::string& color, int alpha)
 void appendCoordinates(const KmlExportData& position, std::string& out)
 {
     constexpr int kDegreeDecimals = 8; // about a millimetre
-    constexpr int kMetreDecimals = 1;
+    constexpr int kMeterDecimals = 1;
     appendFixed(position.longitude, kDegreeDecimals, out);
     out += ',';
     appendFixed(position.latitude, kDegreeDecimals, out);
     out += ',';
-    appendFixed(position.altitude, kMetreDecimals, out);
+    appendFixed(position.altitude, kMeterDecimals, out);
 }
 
 } // namespace

@@ -8,7 +8,7 @@ namespace VELIX {
 
 /// A value of a position that no sample has given.
 inline constexpr double kKmlMissing = -1000.0;
-/// What lies below counts as missing.
+/// Smaller values count as missing.
 inline constexpr double kKmlLeastValid = -999.0;
 
 /// One point of the exported path.
@@ -22,7 +22,7 @@ struct KmlExportData
 /// One line of the table that a viewer shows for a placemark.
 struct KmlExportValue
 {
-    QString id;    ///< tells it from the others of its placemark
+    QString id;    ///< unique within its placemark
     QString label; ///< as shown
     QString text;
 };

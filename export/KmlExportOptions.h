@@ -16,7 +16,7 @@ struct KmlExportOptions
     int lineWidth = 1;                        ///< pixels
     std::string lineColor = "ff0000";
     int lineAlpha = 255;   ///< opacity of the path, 0 to 255
-    bool polygonOn = true; ///< a curtain from the path to the ground
+    bool polygonOn = true; ///< a curtain from the path down to the terrain
     std::string polygonColor = "0000ff";
     int polygonAlpha = 100;     ///< opacity of the curtain, 0 to 255
     bool placeMarkOn = true;    ///< placemarks with the values of the chosen parameters
@@ -26,7 +26,7 @@ struct KmlExportOptions
     bool showLimit = true;
     bool showWarning = true;
     std::string errorMarkColor = "ff0000";
-    /// Keep to the schema of KML 2.2 (namespace, order of elements, "#" before a style's name),
+    /// Keeps to the schema of KML 2.2 (namespace, order of elements, "#" before a style's name),
     /// with the same content.
     bool standard = false;
     /// The parameters of the placemarks, in profile order; valid until the profile is loaded again.

@@ -133,7 +133,7 @@ KmlPath::KmlPath(const RecordData& record, const Profile& profile, int timeStep,
 {
     gather(record, profile, timeStep, log);
     fillGaps(log);
-    // Gaps are filled, so that one point tells for all whether there are positions.
+    // Gaps are filled, so that one point shows for all whether there are positions.
     if (!mPoints.empty() && (isMissing(mPoints.begin()->second.latitude) ||
                              isMissing(mPoints.begin()->second.longitude))) {
         mPoints.clear();

@@ -13,9 +13,9 @@ namespace VELIX {
 
 class Progress;
 
-/// The file of a folder and a name, both UTF-8, as the options of an export hold them.
+/// Returns the file of a folder and a name, both UTF-8, as the options of an export hold them.
 QString outputPath(const std::string& directory, const std::string& fileName);
-/// The same file from the root on, for the user.
+/// Returns the same file from the root on, for the user.
 QString absoluteOutputPath(const std::string& directory, const std::string& fileName);
 
 /// Writes an exported file as a whole or not at all.

@@ -15,14 +15,14 @@ class DialogExportCsv;
 class DialogExportKml;
 class DialogService;
 
-/// What happens from the menu entry of an export to the written file: the wizard, the writing with
-/// its progress, and what the user is told of the outcome.
+/// Takes an export from its menu entry to the written file: the wizard, the writing with its
+/// progress, and the report of the outcome to the user.
 class ExportController : public QObject
 {
     Q_OBJECT
 
 public:
-    /// window: what boxes and wizards stand before; it outlives this.
+    /// window: the parent of boxes and wizards; it outlives this.
     ExportController(const AppContext& context, DialogService& dialogs, QWidget* window);
 
     void exportKml();
@@ -33,7 +33,7 @@ public:
     /// The file name that is offered for a card: that of its folder, up to the first dot.
     static QString kmlFileName(const QString& cardPath);
 
-    /// How long an export may take until its progress is shown, in ms.
+    /// Sets how long an export may take until its progress is shown, in ms.
     void setPatience(int milliseconds) { mPatience = milliseconds; }
 
 signals:

@@ -16,11 +16,11 @@ class LoadSummary
     Q_DECLARE_TR_FUNCTIONS(VELIX::DialogMain)
 
 public:
-    /// "Cycle 3" or, for a flight index from 0 that the cycle has, "Cycle 3, flight 2".
+    /// Returns "Cycle 3" or, for a flight index from 0 that the cycle has, "Cycle 3, flight 2".
     static QString cycle(const CardContainer& card, std::uint32_t cycle, int flight);
-    /// "1 file" or "3 files".
+    /// Returns "1 file" or "3 files".
     static QString files(std::size_t count);
-    /// The name followed by the numbers of samples and identifiers of the working data.
+    /// Returns the name followed by the numbers of samples and identifiers of the working data.
     static QString withCounts(const QString& name, const CardContainer& card);
 };
 

@@ -18,7 +18,7 @@ class DialogExportCsv : public QWizard
     Q_OBJECT
 
 public:
-    /// Says how many rows an export of the record in hand would write; called on every change of
+    /// Says how many rows an export of the given record would write; called on every change of
     /// the options.
     using RowCounter = std::function<std::size_t(const CsvExportOptions&)>;
 

@@ -17,8 +17,8 @@ constexpr int kGap = 8;
 constexpr int kAllParameters = 0;
 constexpr int kSelectedParameters = 1;
 
-/// A value that no item stands for, for example of a settings file edited by hand, counts as the
-/// first item, which then is what the option says, too.
+/// A value without an item, for example of a settings file that was edited by hand, counts as the
+/// first item, whose value the option then takes.
 template <typename Function>
 void select(QwtComboBox& box, int data, Function store)
 {

@@ -13,7 +13,7 @@ class DialogService;
 class ExportColorButton;
 struct KmlExportOptions;
 
-/// How the KML export draws the path: time step, line, curtain to the ground.
+/// How the KML export draws the path: time step, line, curtain down to the terrain.
 class DialogExportKmlOptions : public QWizardPage
 {
     Q_OBJECT

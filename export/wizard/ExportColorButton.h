@@ -14,7 +14,7 @@ class ExportColorButton : public ColorButton
     Q_OBJECT
 
 public:
-    /// digits: RRGGBB. alpha: its opacity from 0 to 255; null for a colour that always covers.
+    /// digits: RRGGBB. alpha: its opacity from 0 to 255; null for a colour that is always opaque.
     /// Both belong to the options and follow what the user chooses.
     ExportColorButton(DialogService& dialogs, std::string& digits, int* alpha,
                       QWidget* parent = nullptr);

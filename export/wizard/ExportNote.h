@@ -14,7 +14,7 @@ class ExportNote : public QWidget
 public:
     explicit ExportNote(QWidget* parent = nullptr);
 
-    /// Plain text; none hides the note.
+    /// Shows a plain text; an empty one hides the note.
     void setNote(const QString& sentence);
     QString note() const;
 

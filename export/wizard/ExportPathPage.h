@@ -26,15 +26,15 @@ public:
     void initializePage() override;
     bool validatePage() override;
 
-    /// Why this file cannot be written, as a sentence for the user; empty if it can.
+    /// Returns why this file cannot be written, as a sentence for the user; empty if it can.
     static QString problem(const QString& directory, const QString& fileName);
 
 protected:
-    /// Title of the folder chooser.
+    /// Returns the title of the folder chooser.
     virtual QString chooserTitle() const = 0;
-    /// What the user should know before anything is written; none takes it away.
+    /// Shows what the user should know before anything is written; an empty sentence hides it.
     void setRemark(const QString& sentence);
-    /// What a name of the file can bring about, told where the mouse rests on it.
+    /// Shows, as a tool tip, what the name of the file can bring about.
     void setFileHint(const QString& sentence);
 
 private slots:

@@ -19,11 +19,11 @@ class ExportSummary : public QGroupBox
 public:
     explicit ExportSummary(QWidget* parent = nullptr);
 
-    /// Adds a line below the others; setCount() knows them by their order, from 0.
+    /// Adds a line below the others. Lines are numbered from 0 on.
     void addLine(const QString& label);
-    /// remark: why it is so little; behind the number.
+    /// Shows the count of a line. remark: why it is so small, shown behind it.
     void setCount(int line, std::size_t count, const QString& remark = {});
-    /// The file of a folder and a name (UTF-8), shown from the root on.
+    /// Shows the file of a folder and a name (UTF-8), from the root on.
     void setFile(const std::string& directory, const std::string& fileName);
 
 private:

@@ -2,7 +2,7 @@
 
 namespace VELIX::KmlOptionRanges {
 
-/// What the user may choose; numbers of a settings file are cut to it.
+/// The numbers that the user may choose; those of a settings file are limited to them.
 struct Range
 {
     int least;

@@ -6,7 +6,7 @@
 
 namespace VELIX {
 
-/// Says what a KML export of the record in hand would write; called on every change of the options.
+/// Says what a KML export of the given record would write; called on every change of the options.
 using KmlSummarizer = std::function<KmlSummary(const KmlExportOptions&)>;
 
 } // namespace VELIX

@@ -242,7 +242,7 @@ TEST_F(RecordFiles, ThatCannotBeOpenedKeepTheirPathOnly)
     EXPECT_EQ(mFile.recordInfo().fileName, QStringLiteral("/no/such.CAN"));
     EXPECT_EQ(mOutput.text(), "RecordFile::readRecordInfo: Could not open /no/such.CAN\n"
                               "RecordFile::readRecordData: Could not open /no/such.CAN\n");
-    mFile.readRecordInfo(mCard.path()); // a folder in a file's place
+    mFile.readRecordInfo(mCard.path()); // a folder instead of a file
     mFile.readRecordData(mData);
     EXPECT_EQ(mFile.recordInfo().sampleCount, 0U);
     EXPECT_EQ(mData.entryCount, 0U);

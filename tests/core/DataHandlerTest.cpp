@@ -55,7 +55,7 @@ TEST_F(DataFolders, AreMadeOnceAndReported)
 TEST_F(DataFolders, ThatCannotBeMadeAreReportedAndTheirPathsKept)
 {
     QFile file(mFolder.filePath(QStringLiteral("VELIX")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly)); // in the folder's place
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)); // where the folder should be
     EXPECT_EQ(printedBy(mPaths), report("could not create DataPath <" + mData +
                                         ">\ncould not create UserDataPath <" + mData + ">\n"));
     EXPECT_EQ(mPaths.dataPath(), mData);

@@ -168,7 +168,7 @@ TEST_F(PropertyFile, StaysAsItWasWhenTheDiskIsFull)
         mStore.setString("key", std::string(length, 'x'));
         CapturedDiagnostics output;
 
-        // A limit on the size of files stands for the full disk.
+        // A limit on the size of files simulates a full disk.
         rlimit before{};
         getrlimit(RLIMIT_FSIZE, &before);
         const rlimit small{length / 2, before.rlim_max};

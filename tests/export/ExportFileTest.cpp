@@ -21,7 +21,7 @@
 namespace VELIX::Test {
 namespace {
 
-/// While it lives, files cannot grow beyond a size: that stands for the full disk.
+/// Simulates a full disk while it lives: files cannot grow beyond a size.
 class FullDisk
 {
 public:
@@ -153,7 +153,7 @@ TYPED_TEST(ExportFile, AFailureSaysWhy)
     for (const std::string& bad : {folder + "/no/such", folder}) {
         this->mOptions.directory = bad;
         QDir(this->mFolder.path()).remove(QString::fromUtf8("größe"));
-        QDir(this->mFolder.path()).mkdir(QString::fromUtf8("größe")); // no file takes its place
+        QDir(this->mFolder.path()).mkdir(QString::fromUtf8("größe")); // no file can replace it
         const Outcome outcome = this->run();
         EXPECT_FALSE(outcome.ok || outcome.cancelled);
         EXPECT_FALSE(outcome.reason.isEmpty());

@@ -86,7 +86,8 @@ protected:
         }
     }
     void SetUp() override { load(false); }
-    /// The record anew: "lat", "lon" and "alt" start a series, "time:value" is a sample of it.
+    /// Makes the record again: "lat", "lon" and "alt" start a series, "time:value" is a sample of
+    /// it.
     void fly(const char* samples)
     {
         mRecord = RecordBuilder();
