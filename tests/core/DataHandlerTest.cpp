@@ -1,9 +1,9 @@
 #include "core/DataHandler.h"
 
 #include "tests/support/CapturedDiagnostics.h"
+#include "tests/support/TestFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -54,8 +54,7 @@ TEST_F(DataFolders, AreMadeOnceAndReported)
 
 TEST_F(DataFolders, ThatCannotBeMadeAreReportedAndTheirPathsKept)
 {
-    QFile file(mFolder.filePath(QStringLiteral("VELIX")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly)); // where the folder should be
+    ASSERT_TRUE(VELIX::Test::writeFile(mFolder.filePath(QStringLiteral("VELIX")), "")); // a file
     EXPECT_EQ(printedBy(mPaths), report("could not create DataPath <" + mData +
                                         ">\ncould not create UserDataPath <" + mData + ">\n"));
     EXPECT_EQ(mPaths.dataPath(), mData);

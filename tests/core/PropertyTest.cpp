@@ -1,18 +1,16 @@
 #include "core/Property.h"
 
 #include "tests/support/CapturedDiagnostics.h"
+#include "tests/support/FullDisk.h"
+#include "tests/support/TestFile.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-#include <csignal>
-#include <sys/resource.h>
-
 using VELIX::Property;
-using VELIX::Test::CapturedDiagnostics;
+using namespace VELIX::Test;
 
 namespace {
 
@@ -21,14 +19,12 @@ class PropertyFile : public ::testing::Test
 protected:
     void fill(const QByteArray& text) const
     {
-        QFile file(QString::fromStdString(mPath));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
+        ASSERT_TRUE(writeFile(QString::fromStdString(mPath), text));
     }
+    /// Empty if there is no such file.
     QByteArray content(const std::string& suffix = "") const
     {
-        QFile file(QString::fromStdString(mPath + suffix));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
+        return readFile(QString::fromStdString(mPath + suffix));
     }
     std::string report(int result) const
     {
@@ -108,7 +104,7 @@ TEST_F(PropertyFile, GivesBackEveryTextThatXmlCanHold)
         EXPECT_EQ(again.getString(std::string("key ") + read, "absent"), read);
     }
     again.writeXmlFile(mPath);
-    EXPECT_EQ(content(".broken"), "(none)");
+    EXPECT_EQ(content(".broken"), "");
 }
 
 TEST_F(PropertyFile, IsMergedFromTheDirectChildrenOfAnyRoot)
@@ -163,19 +159,11 @@ TEST_F(PropertyFile, IsKeptAsideWhenItIsBroken)
 TEST_F(PropertyFile, StaysAsItWasWhenTheDiskIsFull)
 {
     fill("<VELIX/>");
-    std::signal(SIGXFSZ, SIG_IGN);
     for (const std::size_t length : {10U, 5000U, 100000U}) { // below and above write buffers
         mStore.setString("key", std::string(length, 'x'));
         CapturedDiagnostics output;
-
-        // A limit on the size of files simulates a full disk.
-        rlimit before{};
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit small{length / 2, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
+        const FullDisk disk(length / 2);
         EXPECT_EQ(mStore.writeXmlFile(mPath), 1);
-        setrlimit(RLIMIT_FSIZE, &before);
-
         EXPECT_EQ(output.text(), "could not write file <" + mPath + ">\n") << length;
         EXPECT_EQ(content(), "<VELIX/>") << length;
         EXPECT_EQ(QDir(mFolder.path()).entryList(QDir::Files).size(), 1) << "left a temporary";

@@ -34,6 +34,14 @@ protected:
         wizard.show();
         find<QLineEdit>("exportPath").setText(program.home.path());
     }
+    /// A visit by another wizard, in which nothing is changed.
+    void loadAndStore()
+    {
+        DialogExportKml next(program.settings, program.dialogs,
+                             [](const KmlExportOptions&) { return KmlSummary(); });
+        next.loadOptions(start);
+        next.storeOptions();
+    }
     void openLastPage()
     {
         open();
@@ -68,91 +76,81 @@ protected:
                            [this](const KmlExportOptions& o) { return summarize(o); }};
 };
 
-using Setting = std::pair<const char*, const char*>;
-
 /// Every answer of the wizard, none of them the default.
-const Setting kAnswers[] = {{"KmlTimeStamp", "7"},           {"KmlLineWidth", "4"},
-                            {"KmlLineColor", "00ff00"},      {"KmlLineAlpha", "128"},
-                            {"KmlPolygonOn", "false"},       {"KmlPolygonColor", "102030"},
-                            {"KmlPolygonAlpha", "0"},        {"KmlPlaceMarkOn", "false"},
-                            {"KmlPlaceMarkIntervall", "45"}, {"KmlPlaceMarkColor", "a0b0c0"},
-                            {"KmlErrorMarkOn", "false"},     {"KmlShowLimit", "false"},
-                            {"KmlShowWarning", "false"},     {"KmlErrorMarkColor", "123456"},
-                            {"KmlStandard", "true"}};
+const std::pair<const char*, const char*> kAnswers[] = {
+    {"KmlTimeStamp", "7"},           {"KmlLineWidth", "4"},
+    {"KmlLineColor", "00ff00"},      {"KmlLineAlpha", "128"},
+    {"KmlPolygonOn", "false"},       {"KmlPolygonColor", "102030"},
+    {"KmlPolygonAlpha", "0"},        {"KmlPlaceMarkOn", "false"},
+    {"KmlPlaceMarkIntervall", "45"}, {"KmlPlaceMarkColor", "a0b0c0"},
+    {"KmlErrorMarkOn", "false"},     {"KmlShowLimit", "false"},
+    {"KmlShowWarning", "false"},     {"KmlErrorMarkColor", "123456"},
+    {"KmlStandard", "true"}};
 
 } // namespace
 
-TEST_F(DialogExportKmlTest, HandsOutTheAnswersAndKeepsThemForNextTime)
+TEST_F(DialogExportKmlTest, HandsOutTheAnswersAndKeepsThemUnlessItIsCancelled)
 {
     const ProfileParameter parameter;
     start.fileName = "CARD.kml";
     start.parameters = {&parameter};
     KmlExportOptions options = start;
-    QTimer::singleShot(0, &wizard, [this] {
-        find<QLineEdit>("exportPath").setText(program.home.path());
-        wizard.next();
-        spin("kmlTimestamp").setValue(7);
-        spin("kmlLineWidth").setValue(4);
-        chooseColor("kmlLineColor", QColor(0, 255, 0, 128));
-        chooseColor("kmlPolygonColor", QColor(0x10, 0x20, 0x30, 0));
-        box("kmlPolygon").setChecked(false);
-        box("kmlStandard").setChecked(true);
-        wizard.next();
-        spin("kmlPlacemarkStep").setValue(45);
-        chooseColor("kmlPlacemarkColor", QColor(0xA0, 0xB0, 0xC0));
-        chooseColor("kmlErrorColor", QColor(0x12, 0x34, 0x56));
-        for (const char* name : {"kmlLimit", "kmlWarning", "kmlPlacemark", "kmlError"}) {
-            box(name).setChecked(false);
-        }
-        wizard.accept();
-    });
-    ASSERT_TRUE(wizard.getOptions(options));
+    for (const bool accepted : {false, true}) {
+        QTimer::singleShot(0, &wizard, [this, accepted] {
+            find<QLineEdit>("exportPath").setText(program.home.path());
+            wizard.next();
+            spin("kmlTimestamp").setValue(7);
+            spin("kmlLineWidth").setValue(4);
+            chooseColor("kmlLineColor", QColor(0, 255, 0, 128));
+            chooseColor("kmlPolygonColor", QColor(0x10, 0x20, 0x30, 0));
+            box("kmlPolygon").setChecked(false);
+            box("kmlStandard").setChecked(true);
+            wizard.next();
+            spin("kmlPlacemarkStep").setValue(45);
+            chooseColor("kmlPlacemarkColor", QColor(0xA0, 0xB0, 0xC0));
+            chooseColor("kmlErrorColor", QColor(0x12, 0x34, 0x56));
+            for (const char* name : {"kmlLimit", "kmlWarning", "kmlPlacemark", "kmlError"}) {
+                box(name).setChecked(false);
+            }
+            static_cast<QDialog&>(wizard).done(accepted ? QDialog::Accepted : QDialog::Rejected);
+        });
+        EXPECT_EQ(wizard.getOptions(options), accepted);
+        EXPECT_EQ(options.timeStep, accepted ? 7 : 1);
+        EXPECT_EQ(program.setting("KmlTimeStamp"), accepted ? QStringLiteral("7") : QString());
+    }
     EXPECT_EQ(options.fileName, "CARD.kml");
     EXPECT_EQ(options.parameters, start.parameters);
     EXPECT_EQ(options.lineColor, "00ff00");
     EXPECT_EQ(options.lineAlpha, 128);
+    loadAndStore();
     EXPECT_EQ(program.storedSetting("KmlExportDir"), program.home.path());
-    for (int i = 0; i < 2; ++i) {
-        for (const auto& [key, text] : kAnswers) {
-            EXPECT_EQ(program.storedSetting(key), QLatin1String(text)) << key;
-        }
-        DialogExportKml next(program.settings, program.dialogs,
-                             [](const KmlExportOptions&) { return KmlSummary(); });
-        next.loadOptions(start); // another visit, in which nothing is changed
-        next.storeOptions();
+    for (const auto& [key, text] : kAnswers) {
+        EXPECT_EQ(program.storedSetting(key), QLatin1String(text)) << key;
     }
-}
-
-TEST_F(DialogExportKmlTest, CancellingChangesNothing)
-{
-    KmlExportOptions options;
-    QTimer::singleShot(0, &wizard, [this] {
-        spin("kmlTimestamp").setValue(7);
-        wizard.reject();
-    });
-    EXPECT_FALSE(wizard.getOptions(options));
-    EXPECT_EQ(options.timeStep, 1);
-    EXPECT_EQ(program.setting("KmlTimeStamp"), QString());
 }
 
 TEST_F(DialogExportKmlTest, SettingsBeyondTheControlsAreCutOrPassedOver)
 {
-    const Setting broken[] = {{"KmlTimeStamp", "0"},     {"KmlLineWidth", "99"},
-                              {"KmlLineAlpha", "-5"},    {"KmlPlaceMarkIntervall", "abc"},
-                              {"KmlLineColor", "red"},   {"KmlPolygonColor", "#00ff00"},
-                              {"KmlErrorMarkColor", ""}, {"KmlPolygonAlpha", "256"}};
-    for (const auto& [key, text] : broken) {
-        program.settings.setString(key, text);
+    const struct
+    {
+        const char* key;
+        const char* text;
+        const char* taken;
+    } rows[] = {{"KmlTimeStamp", "0", "1"},
+                {"KmlLineWidth", "99", "6"},
+                {"KmlLineAlpha", "-5", "0"},
+                {"KmlPolygonAlpha", "256", "255"},
+                {"KmlPlaceMarkIntervall", "abc", "5"},
+                {"KmlLineColor", "red", "ff0000"},
+                {"KmlPolygonColor", "#00ff00", "0000ff"},
+                {"KmlErrorMarkColor", "", "ff0000"}};
+    for (const auto& row : rows) {
+        program.settings.setString(row.key, row.text);
     }
-    wizard.loadOptions(start);
-    EXPECT_EQ(wizard.options().timeStep, 1);
-    EXPECT_EQ(wizard.options().lineWidth, 6);
-    EXPECT_EQ(wizard.options().lineAlpha, 0);
-    EXPECT_EQ(wizard.options().placeMarkInterval, 5);
-    EXPECT_EQ(wizard.options().lineColor, "ff0000");
-    EXPECT_EQ(wizard.options().polygonColor, "0000ff");
-    EXPECT_EQ(wizard.options().errorMarkColor, "ff0000");
-    EXPECT_EQ(wizard.options().polygonAlpha, 255);
+    loadAndStore();
+    for (const auto& row : rows) {
+        EXPECT_EQ(program.storedSetting(row.key), QLatin1String(row.taken)) << row.key;
+    }
 }
 
 TEST_F(DialogExportKmlTest, ColorChoosersStartWithTheColorAndCancelKeepsIt)
