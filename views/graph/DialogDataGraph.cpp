@@ -239,7 +239,7 @@ void DialogDataGraph::slotCommandPress(int id)
 void DialogDataGraph::slotCommandRelease(int id)
 {
     if (QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
-        mCommand = eGraphNoCommand; // dragged off the button: the user thinks better of it
+        mCommand = eGraphNoCommand; // dragged off the button: the user changed their mind
         return;
     }
     switch (id) {

@@ -14,7 +14,7 @@ namespace VELIX {
 class ColorButton;
 struct GraphData;
 
-/// Edits the display settings of the graph in place; every change is told at once.
+/// Edits the display settings of the graph in place; every change is reported at once.
 class DialogGraphSetup : public QDialog
 {
     Q_OBJECT

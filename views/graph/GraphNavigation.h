@@ -13,7 +13,7 @@ double zoomedIn(double width);
 double zoomedOut(double width);
 
 /// The range that keeps a cursor (s) in the inner 80 % of a range: it moves in jumps, so that the
-/// traces stand still between them. Its width stays.
+/// traces do not move between them. Its width stays.
 GraphTimeRange paged(const GraphTimeRange& visible, double cursor);
 
 /// A record (s) with a tenth of its duration as margin at both ends, in single precision. A record

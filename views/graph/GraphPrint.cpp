@@ -39,9 +39,9 @@ void GraphPrint::paintPage(QPainter& painter, int) const
 {
     painter.save();
     painter.scale(mPixel, mPixel);
-    GraphVectorPainter picture(mModel, mLook, mMarkersOn, (mRoom / mPixel).toSize(), mFont);
-    picture.setFineness(kFineness);
-    picture.paint(painter);
+    GraphVectorPainter graph(mModel, mLook, mMarkersOn, (mRoom / mPixel).toSize(), mFont);
+    graph.setFineness(kFineness);
+    graph.paint(painter);
     painter.restore();
 }
 

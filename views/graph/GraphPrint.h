@@ -10,8 +10,8 @@ namespace VELIX {
 
 class GraphModel;
 
-/// The visible range of a graph on one page: on white ground, in colours that are readable there,
-/// and as finely as the device draws.
+/// The visible range of a graph on one page: on a white background, in colours that are readable
+/// there, and as finely as the device draws.
 class GraphPrint final : public PrintLayout
 {
 public:

@@ -27,7 +27,7 @@ QByteArray svgOf(const WidgetGraph& graph)
     generator.setOutputDevice(&bytes);
     generator.setSize(graph.size());
     generator.setViewBox(graph.rect());
-    generator.setResolution(graph.logicalDpiX()); // else texts are smaller than their places
+    generator.setResolution(graph.logicalDpiX()); // else texts are smaller than the room for them
     QPainter painter(&generator);
     GraphVectorPainter(graph.model(), graph.look(), graph.markersOn(), graph.size(), graph.font())
         .paint(painter);
@@ -35,14 +35,14 @@ QByteArray svgOf(const WidgetGraph& graph)
     return bytes.data();
 }
 
-QByteArray bytesOf(const QPixmap& picture, const QString& format)
+QByteArray bytesOf(const QPixmap& screenshot, const QString& format)
 {
     QBuffer bytes;
     QImageWriter writer(&bytes, format.toLatin1());
     if (format == QLatin1String("jpg") || format == QLatin1String("jpeg")) {
         writer.setQuality(kJpegQuality);
     }
-    return writer.write(picture.toImage()) ? bytes.data() : QByteArray();
+    return writer.write(screenshot.toImage()) ? bytes.data() : QByteArray();
 }
 
 } // namespace
@@ -55,10 +55,10 @@ QString formatOf(const QString& fileName)
     return known ? suffix : QStringLiteral("bmp");
 }
 
-QString save(const WidgetGraph& graph, const QPixmap& picture, const QString& fileName)
+QString save(const WidgetGraph& graph, const QPixmap& screenshot, const QString& fileName)
 {
     const QString format = formatOf(fileName);
-    const QByteArray bytes = format == kSvg ? svgOf(graph) : bytesOf(picture, format);
+    const QByteArray bytes = format == kSvg ? svgOf(graph) : bytesOf(screenshot, format);
     QSaveFile file(fileName);
     if (!bytes.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() &&
         file.commit()) {

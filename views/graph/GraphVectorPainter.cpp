@@ -110,12 +110,12 @@ void GraphVectorPainter::paintGrid(QPainter& painter) const
                 painter.drawLine(QLineF(x, plot.top(), x, plot.bottom()));
             }
         }
-        for (std::size_t band = 0; band < mScene.valueTicks.size(); ++band) {
-            const QRectF place = mScene.bandOf(band);
-            for (const GraphTick& tick : mScene.valueTicks[band]) {
+        for (std::size_t i = 0; i < mScene.valueTicks.size(); ++i) {
+            const QRectF band = mScene.bandOf(i);
+            for (const GraphTick& tick : mScene.valueTicks[i]) {
                 if (mLook.gridOn && tick.major == major) {
-                    const double y = place.bottom() - tick.position;
-                    painter.drawLine(QLineF(place.left(), y, place.right(), y));
+                    const double y = band.bottom() - tick.position;
+                    painter.drawLine(QLineF(band.left(), y, band.right(), y));
                 }
             }
         }
@@ -130,10 +130,10 @@ void GraphVectorPainter::paintGrid(QPainter& painter) const
 void GraphVectorPainter::paintTraces(QPainter& painter) const
 {
     GraphCurve curve;
-    for (std::size_t place = 0; place < mScene.shown.size(); ++place) {
-        const unsigned int trace = mScene.shown[place];
+    for (std::size_t i = 0; i < mScene.shown.size(); ++i) {
+        const unsigned int trace = mScene.shown[i];
         const GraphModel::ParStruct& parameter = mModel.parameter(trace);
-        const QRectF band = mScene.bandOf(place);
+        const QRectF band = mScene.bandOf(i);
         const GraphCurve::Target target{band, mModel.xmin(), mModel.xmax(), mModel.scaleOf(trace)};
         if (mFineness > 0.0) {
             GraphTrace fine = parameter.trace; // one at a time, since it brings its samples

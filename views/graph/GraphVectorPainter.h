@@ -15,7 +15,7 @@ class GraphModel;
 class GraphVectorPainter
 {
 public:
-    /// model and look outlive the picture. size, font: the widget's.
+    /// model and look outlive the painter. size, font: the widget's.
     GraphVectorPainter(const GraphModel& model, const GraphLook& look, bool markersOn,
                        const QSize& size, const QFont& font);
 

@@ -16,7 +16,7 @@ public:
     void set(double first, double second);
     /// Moves the first for a time left of the midpoint of both, else the second.
     void setNearer(double time);
-    /// Swaps them if the first lies behind the second.
+    /// Swaps them if the first is later than the second.
     void sort();
 
     bool operator==(const GraphMarkers&) const = default;

@@ -49,7 +49,7 @@ public:
 
     // --- feeding
 
-    /// Gives the trace a place in the graph and the legend, or takes it away. Samples stay.
+    /// Lists the trace in the graph and its legend, or takes it out of both. Samples stay.
     void setActive(unsigned int i, bool active);
 
     /// The current time, limited to 0..86400. Moves the visible range in automatic mode, allows
@@ -93,7 +93,7 @@ public:
     /// Sets the width: from xmax in automatic mode, else from xmin. Starts the recomputation and
     /// rebuilds the frames at once.
     void setXrange(double width);
-    /// Shows what lies between the markers, at least 1e-6 s, in manual mode. Rebuilds as
+    /// Shows the time between the markers, at least 1e-6 s, in manual mode. Rebuilds as
     /// setXrange() does.
     void zoomToMarker();
     /// A wheel step about the time @p pivot: @p in narrows the range to 0.9 of its width, else the
@@ -131,7 +131,7 @@ public:
     bool stepRecalc();
     [[nodiscard]] const GraphRecalc& recalc() const { return mRecalc; }
 
-    /// Whether the traces have moved on enough (0.7 pixels) for a new picture, @p elapsed seconds
+    /// Whether the traces have moved on enough (0.7 pixels) for a repaint, @p elapsed seconds
     /// after the last one.
     [[nodiscard]] bool repaintDue(double elapsed) const;
 
@@ -152,7 +152,7 @@ public:
     void setMarker(double marker1, double marker2);
     /// Moves the nearer marker: marker 1 for a time left of the midpoint of both, else marker 2.
     void setNearerMarker(double time);
-    /// Swaps the markers if marker 1 lies behind marker 2.
+    /// Swaps the markers if marker 1 is later than marker 2.
     void sortMarkers();
     [[nodiscard]] double markerDistance() const { return marker2() - marker1(); }
     void addTopMarker(unsigned int number, double time);

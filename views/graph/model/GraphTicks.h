@@ -24,7 +24,7 @@ namespace GraphTicks {
 using LabelExtent = std::function<double(const QString&)>;
 
 /// The step between two ticks, computed in single precision throughout: 1, 2, 5 or 10 times a power
-/// of ten, at least so large that ticks lie @p spacing pixels apart. For steps between 1 and 10 the
+/// of ten, at least so large that ticks are @p spacing pixels apart. For steps between 1 and 10 the
 /// power stays 1, so that there the step is 2, 5 or 10.
 /// @param length of the axis in pixels
 /// @param spacing wanted distance of two ticks in pixels

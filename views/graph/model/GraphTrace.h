@@ -33,7 +33,7 @@ public:
     /// | 4 | slotA, slotB, then lastValue: more than two values |
     ///
     /// Slots A and B start as the first two values and only then act as running minimum and
-    /// maximum, so that A may lie above B.
+    /// maximum, so that A may be above B.
     struct FrameType
     {
         int state = 0;
@@ -65,7 +65,7 @@ public:
     /// other.
     /// @param time finite, in seconds, 0 to 86400 as GraphModel::setTime gives it
     /// @param frameSpan the seconds that one pixel column covers
-    /// @param xmax end of the visible range: what lies behind the first frame beyond it gets no
+    /// @param xmax end of the visible range: what comes after the first frame beyond it gets no
     /// frames, so that those of a long record do not pile up outside the plot
     void putValue(double time, double value, bool hold, double frameSpan, double xmax);
 
@@ -81,7 +81,7 @@ public:
     /// @p xmax, so that lines run to the very edges of the plot.
     void recalcFrameBuffer(double xmin, double xmax, double frameSpan);
 
-    /// Drops the frames that lie wholly left of @p xmin but for the last of them, so that frames of
+    /// Drops the frames that are wholly left of @p xmin but for the last of them, so that frames of
     /// a long live recording do not pile up outside the plot.
     void dropFramesBefore(double xmin);
 

@@ -28,16 +28,16 @@ public:
         QString name = QStringLiteral("NoName");
         QString unit = QStringLiteral("-"); ///< shown with the values
         Color color = {1.0F, 0.0F, 0.0F};
-        QString colorKey;     ///< "GraphColor%d" of the trace number
-        int precision = 2;    ///< decimals of the readout
-        bool active = false;  ///< has a place in the graph and the legend
-        bool visible = true;  ///< false: hidden for the moment, with its place in the legend kept
-        bool samples = false; ///< draw the sample points
-        GraphYScale yScale;   ///< the trace's own scale, kept by calcFrame()
+        QString colorKey;        ///< "GraphColor%d" of the trace number
+        int precision = 2;       ///< decimals of the readout
+        bool active = false;     ///< is listed in the legend and, if visible, drawn
+        bool visible = true;     ///< false: hidden for the moment, but still listed
+        bool samples = false;    ///< draw the sample points
+        GraphYScale yScale;      ///< the trace's own scale, kept by calcFrame()
         std::uint64_t newAt = 0; ///< internal: see GraphModel::hasNewValue
     };
 
-    /// Number of the trace that stands for "none".
+    /// Number that means no trace.
     static constexpr unsigned int kNoTrace = ~0U;
 
     static constexpr unsigned int kMaxTraces = 1000;
@@ -63,7 +63,8 @@ public:
 
     /// The numbers of all traces in the order of display, from top to bottom.
     [[nodiscard]] const std::vector<unsigned int>& displayOrder() const { return mDisplayOrder; }
-    /// Moves the trace at place @p from of the order of display to place @p to. Its number stays.
+    /// Moves the trace at position @p from of the order of display to position @p to. Its number
+    /// stays.
     void moveParameter(unsigned int from, unsigned int to);
 
     /// The trace that the cursor's Y value and the average refer to; kNoTrace without an active
@@ -82,7 +83,7 @@ public:
     /// Changes with everything that can be seen, so that a widget repaints only when there is
     /// something new.
     [[nodiscard]] std::uint64_t revision() const { return mRevision; }
-    /// Changes with what grid, traces and legend are made of, but not with what only stands over
+    /// Changes with what grid, traces and legend are made of, but not with what is only drawn over
     /// them: cursor, markers and selection.
     [[nodiscard]] std::uint64_t plotRevision() const { return mPlotRevision; }
 

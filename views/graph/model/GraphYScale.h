@@ -11,7 +11,7 @@ struct GraphYScale
     double maximum = 1.5;
 
     /// The scale that shows values from @p low to @p high with a margin of @p spread times their
-    /// distance at both ends, or of 0.0001 when they lie closer together than 0.001.
+    /// distance at both ends, or of 0.0001 when they are closer together than 0.001.
     [[nodiscard]] static GraphYScale autoscale(double low, double high,
                                                double spread = kDefaultSpread);
 

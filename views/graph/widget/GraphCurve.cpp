@@ -10,7 +10,7 @@ namespace {
 /// Pixels beyond the area at which lines are cut: more than any width of a line.
 constexpr double kBeyond = 16.0;
 /// Pixels beyond the area to which values are limited. Lines to values far outside the scale
-/// become a little steeper or flatter there, which nobody sees.
+/// become a little steeper or flatter there, which cannot be seen.
 constexpr double kFar = 50000.0;
 /// Pixels that two neighbouring columns must have in common to look connected without a line.
 constexpr double kSolid = 2.0;
@@ -66,7 +66,7 @@ void GraphCurve::addFrame(const GraphTrace::FrameType& frame, const Target& targ
 
 // Of more than two samples in a pixel column only the extremes can be seen. They are drawn as one
 // line through the middle of the column, and columns that touch need no line between them: noise
-// takes a quarter of the ink that way, and the picture is the same.
+// takes a quarter of the ink that way, and the result is the same.
 void GraphCurve::addColumn(double x, double first, double second, double last)
 {
     const Column column{std::min(first, second), std::max(first, second), true};

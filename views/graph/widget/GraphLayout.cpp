@@ -79,7 +79,7 @@ void GraphLayout::layOutLegend(const GraphLayoutInput& input)
     const int header = legendHeader().height();
     const int least = (twoLines ? 2 : 1) * mLineHeight;
     const int room = mLegend.height() - header;
-    // Where there is room the entries stand a little apart.
+    // Where there is room the entries are a little apart.
     mLegendRowHeight = std::clamp(room / input.legendRows, least, least + kGap);
     mLegendShown = std::min(input.legendRows, room / mLegendRowHeight);
     if (mLegendShown < input.legendRows && mLegendShown > 0) {
@@ -109,12 +109,12 @@ int GraphLayout::bandAt(int y) const
 
 QRect GraphLayout::handle(int trace) const
 {
-    const QRect place = slot(trace);
-    if (place.isEmpty()) {
+    const QRect area = slot(trace);
+    if (area.isEmpty()) {
         return {};
     }
-    const int height = std::clamp(place.height() - 2, 1, kHandleHeight);
-    return {mHandles.left(), place.top() + (place.height() - height) / 2, mHandles.width(), height};
+    const int height = std::clamp(area.height() - 2, 1, kHandleHeight);
+    return {mHandles.left(), area.top() + (area.height() - height) / 2, mHandles.width(), height};
 }
 
 int GraphLayout::handleAt(const QPoint& point) const

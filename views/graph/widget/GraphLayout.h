@@ -6,7 +6,7 @@
 
 namespace VELIX {
 
-/// What the places of the graph's parts depend on. Lengths are logical pixels.
+/// What the positions of the graph's parts depend on. Lengths are logical pixels.
 struct GraphLayoutInput
 {
     QSize size;
@@ -25,7 +25,7 @@ struct GraphLayoutInput
 ///
 /// Coordinates are logical pixels of the widget, y downwards. Traces are counted from 0 in the
 /// order in which they are shown, top to bottom; -1 is none. In a widget too small for any plot
-/// all places are empty and nothing is found anywhere.
+/// all rectangles are empty and nothing is found anywhere.
 class GraphLayout
 {
 public:

@@ -24,11 +24,12 @@ QColor GraphLook::traceColor(const std::array<float, 3>& own) const
     return onPaper ? readable(color, back) : color;
 }
 
-QColor GraphLook::accentOn(const QColor& ground)
+QColor GraphLook::accentOn(const QColor& background)
 {
     const QColor& dark = Palette::dark().accent;
     const QColor& light = Palette::light().accent;
-    return Palette::contrast(dark, ground) >= Palette::contrast(light, ground) ? dark : light;
+    return Palette::contrast(dark, background) >= Palette::contrast(light, background) ? dark
+                                                                                       : light;
 }
 
 QColor GraphLook::mix(const QColor& from, const QColor& to, double part)
@@ -38,15 +39,15 @@ QColor GraphLook::mix(const QColor& from, const QColor& to, double part)
             between(from.blue(), to.blue())};
 }
 
-QColor GraphLook::readable(const QColor& color, const QColor& ground)
+QColor GraphLook::readable(const QColor& color, const QColor& background)
 {
     GraphLook on;
-    on.back = ground;
+    on.back = background;
     QColor end = on.plotText();
     constexpr int kSteps = 16;
     for (int step = 0; step < kSteps; ++step) {
         QColor tried = mix(color, end, static_cast<double>(step) / kSteps);
-        if (Palette::contrast(tried, ground) >= kReadable) {
+        if (Palette::contrast(tried, background) >= kReadable) {
             return tried;
         }
     }

@@ -25,7 +25,7 @@ int roundedUp(int width)
     return (width + kWidthStep - 1) / kWidthStep * kWidthStep;
 }
 
-/// Whether a label stands wholly inside of a band.
+/// Whether a label is wholly inside a band.
 bool hasRoomForLabel(const std::vector<GraphTick>& ticks, int height, int line)
 {
     return std::any_of(ticks.begin(), ticks.end(), [height, line](const GraphTick& tick) {

@@ -13,7 +13,7 @@ namespace VELIX {
 
 class GraphModel;
 
-/// What a picture of a graph consists of: which traces, where, and with which ticks.
+/// What a frame of a graph consists of: which traces, where, and with which ticks.
 struct GraphScene
 {
     GraphLayout layout;
@@ -27,12 +27,12 @@ struct GraphScene
     static GraphScene make(const GraphModel& model, const GraphLook& look, const QSize& size,
                            const QFont& font);
 
-    /// The band and the trace number of a place among the traces shown.
-    [[nodiscard]] QRect bandOf(std::size_t place) const
+    /// The band of a position among the traces shown.
+    [[nodiscard]] QRect bandOf(std::size_t position) const
     {
-        return layout.band(static_cast<int>(place));
+        return layout.band(static_cast<int>(position));
     }
-    /// The place of a trace among those shown; -1 if it is not shown.
+    /// The position of a trace among those shown; -1 if it is not shown.
     [[nodiscard]] int positionOf(unsigned int trace) const;
 };
 

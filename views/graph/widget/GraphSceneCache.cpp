@@ -31,8 +31,8 @@ double GraphSceneCache::timeAt(const QPoint& point)
 QRect GraphSceneCache::selectedBand()
 {
     const GraphScene& scene = current();
-    const int place = scene.positionOf(mModel.selectedTrace());
-    return place < 0 ? scene.layout.plot() : scene.layout.band(place);
+    const int position = scene.positionOf(mModel.selectedTrace());
+    return position < 0 ? scene.layout.plot() : scene.layout.band(position);
 }
 
 } // namespace VELIX

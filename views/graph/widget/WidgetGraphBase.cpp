@@ -1,9 +1,9 @@
 #include "views/graph/widget/WidgetGraphBase.h"
 
 #include <QHelpEvent>
-#include <QMouseEvent>
 #include <QOpenGLContext>
 #include <QToolTip>
+#include <QWheelEvent>
 
 namespace {
 
@@ -101,18 +101,7 @@ void WidgetGraphBase::activateSamples(unsigned int i, bool on)
     touch();
 }
 
-// --- feeding; the repaint timer sees what changed, since an update for each of a million samples
-// would cost more than the samples
-
-void WidgetGraphBase::setTime(double t)
-{
-    mModel.setTime(t);
-}
-
-void WidgetGraphBase::putValue(unsigned int i, double value, bool hold)
-{
-    mModel.putValue(i, value, hold);
-}
+// --- feeding
 
 void WidgetGraphBase::clear()
 {
@@ -125,23 +114,6 @@ void WidgetGraphBase::reset()
     mModel.reset();
     mInput.reset();
     touch();
-}
-
-// --- values
-
-bool WidgetGraphBase::getParameterRangeX(unsigned int i, double& first, double& last) const
-{
-    return mModel.getParameterRangeX(i, first, last);
-}
-
-bool WidgetGraphBase::getParameterRangeY(unsigned int i, double& low, double& high) const
-{
-    return mModel.getParameterRangeY(i, low, high);
-}
-
-double WidgetGraphBase::getCurrentAverageValue() const
-{
-    return mModel.getCurrentAverageValue();
 }
 
 // --- cursor, markers, modes
@@ -158,20 +130,10 @@ void WidgetGraphBase::setCursorMode(eCursorMode mode)
     update();
 }
 
-void WidgetGraphBase::setGraphMode(eGraphMode mode)
-{
-    mModel.setGraphMode(mode);
-}
-
 void WidgetGraphBase::setDisplayMode(eDisplayMode mode)
 {
     mModel.setDisplayMode(mode);
     touch();
-}
-
-void WidgetGraphBase::setOfflineMode(bool on)
-{
-    mModel.setOfflineMode(on);
 }
 
 void WidgetGraphBase::setMarker(double marker1, double marker2)
@@ -404,26 +366,6 @@ void WidgetGraphBase::changeEvent(QEvent* event)
 }
 
 // --- mouse and keys
-
-void WidgetGraphBase::mousePressEvent(QMouseEvent* event)
-{
-    mInput.press(*event);
-}
-
-void WidgetGraphBase::mouseMoveEvent(QMouseEvent* event)
-{
-    mInput.move(*event);
-}
-
-void WidgetGraphBase::mouseReleaseEvent(QMouseEvent* event)
-{
-    mInput.release(*event);
-}
-
-void WidgetGraphBase::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    mInput.doubleClick(*event);
-}
 
 void WidgetGraphBase::wheelEvent(QWheelEvent* event)
 {

@@ -50,20 +50,27 @@ public:
     void activateSamples(unsigned int i, bool on);
     [[nodiscard]] unsigned int nrActive() const { return mModel.nrActive(); }
 
-    // --- feeding
+    // --- feeding; the repaint timer sees what changed, since an update for each of a million
+    // samples would cost more than the samples
 
-    void setTime(double t);
-    void putValue(unsigned int i, double value, bool hold);
+    void setTime(double t) { mModel.setTime(t); }
+    void putValue(unsigned int i, double value, bool hold) { mModel.putValue(i, value, hold); }
     void clear();
     void reset();
 
     // --- values
 
     bool getValue(unsigned int i, double t, double& v) const { return mModel.getValue(i, t, v); }
-    bool getParameterRangeX(unsigned int i, double& first, double& last) const;
-    bool getParameterRangeY(unsigned int i, double& low, double& high) const;
+    bool getParameterRangeX(unsigned int i, double& first, double& last) const
+    {
+        return mModel.getParameterRangeX(i, first, last);
+    }
+    bool getParameterRangeY(unsigned int i, double& low, double& high) const
+    {
+        return mModel.getParameterRangeY(i, low, high);
+    }
     /// Mean of the selected trace over the visible range.
-    [[nodiscard]] double getCurrentAverageValue() const;
+    [[nodiscard]] double getCurrentAverageValue() const { return mModel.getCurrentAverageValue(); }
     /// Whether the current time is visible.
     [[nodiscard]] bool inRange() const { return mModel.inRange(); }
 
@@ -71,9 +78,9 @@ public:
 
     void setCursorPosition(double x);
     void setCursorMode(eCursorMode mode);
-    void setGraphMode(eGraphMode mode);
+    void setGraphMode(eGraphMode mode) { mModel.setGraphMode(mode); }
     void setDisplayMode(eDisplayMode mode);
-    void setOfflineMode(bool on);
+    void setOfflineMode(bool on) { mModel.setOfflineMode(on); }
     void setMarker(double marker1, double marker2);
     /// A triangle at the upper edge of the plot, labelled with the trace's name and the time.
     void addTopMarker(unsigned int i, double time);
@@ -141,10 +148,10 @@ protected:
     void resizeGL(int width, int height) override;
     void paintGL() override;
 
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override { mInput.press(*event); }
+    void mouseMoveEvent(QMouseEvent* event) override { mInput.move(*event); }
+    void mouseReleaseEvent(QMouseEvent* event) override { mInput.release(*event); }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mInput.doubleClick(*event); }
     void wheelEvent(QWheelEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
