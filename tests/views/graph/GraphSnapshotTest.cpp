@@ -16,10 +16,10 @@ namespace {
 
 constexpr int kRed = 0xFF0000; // of the first trace
 
-TEST(GraphSnapshotTest, PicturesHaveTheFormatOfTheirSuffix)
+TEST(GraphSnapshotTest, ImagesHaveTheFormatOfTheirSuffix)
 {
     const QTemporaryDir folder;
-    GraphFixture<WidgetGraph> fixture;
+    GraphFixture<> fixture;
     fixture.graph.activateGrid(false); // which is red as well
     const QPixmap view = fixture.graph.grab();
     const struct
@@ -31,9 +31,9 @@ TEST(GraphSnapshotTest, PicturesHaveTheFormatOfTheirSuffix)
         const QString path = folder.filePath(QLatin1String(row.name));
         EXPECT_EQ(GraphSnapshot::save(fixture.graph, view, path), QString());
         EXPECT_TRUE(readFile(path).startsWith(row.start)) << row.name;
-        const QImage picture(path);
-        EXPECT_EQ(picture.size(), view.size()) << row.name;
-        EXPECT_GT(pixelsLike(picture, fixture.plot(), QColor(kRed), 120), 100) << row.name;
+        const QImage image(path);
+        EXPECT_EQ(image.size(), view.size()) << row.name;
+        EXPECT_GT(pixelsLike(image, fixture.plot(), QColor(kRed), 120), 100) << row.name;
     }
 }
 
@@ -41,7 +41,7 @@ TEST(GraphSnapshotTest, AsSvgTheTracesAreLines)
 {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("e.svg"));
-    GraphFixture<WidgetGraph> fixture;
+    GraphFixture<> fixture;
     ASSERT_EQ(GraphSnapshot::save(fixture.graph, fixture.graph.grab(), path), QString());
     QSvgRenderer svg(path);
     ASSERT_TRUE(svg.isValid());

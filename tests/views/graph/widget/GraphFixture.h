@@ -12,11 +12,11 @@
 
 namespace VELIX::Test {
 
-/// A shown graph of 640 x 480 with the range 0..100 s.
-template <class Widget>
-class GraphFixture
+/// A shown graph of 640 x 480 with the range 0..100 s. Each trace is a ramp from 0 to 100 times its
+/// number plus one, with a sample each second.
+template <class Widget = WidgetGraph>
+struct GraphFixture
 {
-public:
     explicit GraphFixture(unsigned int traces = 3, bool split = true)
     {
         graph.setMaxParameters(traces);
@@ -24,7 +24,6 @@ public:
             graph.setActive(i, true);
             graph.setParameterName(i, "Trace " + std::to_string(i));
         }
-        // A ramp from 0 to 100 times the trace's number plus one, a sample each second.
         for (int second = 0; second <= 100; ++second) {
             graph.setTime(second);
             for (unsigned int i = 0; i < traces; ++i) {
@@ -40,18 +39,12 @@ public:
         paint();
     }
 
-    /// Waits for the recomputations that follow a change of size or range.
-    void settle()
-    {
-        while (graph.model().recalc().running()) {
-            QTest::qWait(20);
-        }
-        QTest::qWait(60);
-    }
     QImage paint() { return graph.grab().toImage(); }
-    QRect plot() { return graph.layoutOfParts().plot(); }
+    const GraphModel& model() const { return graph.model(); }
+    const GraphLayout& parts() { return graph.layoutOfParts(); }
+    QRect plot() { return parts().plot(); }
     /// A point of the plot, as parts of its width from the left and of its height from the bottom.
-    QPoint at(double x, double y)
+    QPoint at(double x, double y = 0.5)
     {
         const QRect area = plot();
         return {area.left() + qRound(x * area.width()),
@@ -60,7 +53,7 @@ public:
     /// The time under a point.
     double time(const QPoint& point)
     {
-        return graph.layoutOfParts().timeAt(point.x(), graph.model().xmin(), graph.model().xmax());
+        return parts().timeAt(point.x(), model().xmin(), model().xmax());
     }
     void move(const QPoint& to, Qt::MouseButtons buttons = Qt::NoButton)
     {
@@ -68,10 +61,11 @@ public:
                           Qt::NoModifier);
         QApplication::sendEvent(&graph, &event);
     }
-    bool wheel(const QPoint& at, int delta, Qt::KeyboardModifiers held = Qt::NoModifier)
+    bool wheel(const QPoint& at, int delta, Qt::KeyboardModifiers held = Qt::NoModifier,
+               Qt::ScrollPhase phase = Qt::NoScrollPhase)
     {
         QWheelEvent event(at, graph.mapToGlobal(at), QPoint(), QPoint(0, delta), Qt::NoButton, held,
-                          Qt::NoScrollPhase, false);
+                          phase, false);
         QApplication::sendEvent(&graph, &event);
         return event.isAccepted();
     }

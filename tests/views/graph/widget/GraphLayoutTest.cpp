@@ -20,8 +20,8 @@ GraphLayoutInput input(int width, int height, int traces, bool split)
 
 TEST(GraphLayoutTest, PartsNeverOverlapNorLeaveTheWidget)
 {
-    for (const int width : {120, 300, 400, 1000, 1600}) {
-        for (const int height : {80, 200, 300, 900}) {
+    for (const int width : {120, 400, 1600}) {
+        for (const int height : {80, 300, 900}) {
             for (const int traces : {0, 1, 8, 30, 300}) {
                 const GraphLayout parts(input(width, height, traces, true));
                 const QRect all(0, 0, width, height);
@@ -66,17 +66,16 @@ TEST(GraphLayoutTest, BandsTileThePlotAndAreFoundByTheirHeights)
 
 TEST(GraphLayoutTest, HandlesAndLegendEntriesAreFoundWhereTheyAre)
 {
-    for (const bool split : {false, true}) {
-        const GraphLayout parts(input(1000, 600, 8, split));
-        ASSERT_EQ(parts.legendShown(), 8);
-        for (int trace = 0; trace < 8; ++trace) {
-            EXPECT_EQ(parts.handleAt(parts.handle(trace).center()), trace);
-            EXPECT_EQ(parts.legendEntryAt(parts.legendEntry(trace).center()), trace);
-        }
-        EXPECT_EQ(parts.handleAt(parts.plot().center()), -1);
-        EXPECT_EQ(parts.legendEntryAt(parts.plot().center()), -1);
-        EXPECT_EQ(parts.legendEntryAt(parts.legend().bottomRight()), -1);
+    const GraphLayout parts(input(1000, 600, 8, true));
+    for (int trace = 0; trace < 8; ++trace) {
+        EXPECT_EQ(parts.handleAt(parts.handle(trace).center()), trace);
+        EXPECT_EQ(parts.legendEntryAt(parts.legendEntry(trace).center()), trace);
     }
+    const QRect last = parts.handle(7);
+    EXPECT_EQ(parts.handleAt({last.left(), last.bottom() + 5}), -1);
+    EXPECT_EQ(parts.handleAt(parts.plot().center()), -1);
+    EXPECT_EQ(parts.legendEntryAt(parts.plot().center()), -1);
+    EXPECT_EQ(parts.legendEntryAt(parts.legend().bottomRight()), -1);
 }
 
 TEST(GraphLayoutTest, TheLegendGivesWayStepByStep)
@@ -99,8 +98,7 @@ TEST(GraphLayoutTest, TheLegendGivesWayStepByStep)
         const GraphLayout parts(input(row.width, row.height, row.rows, true));
         EXPECT_EQ(parts.legendKind(), row.kind) << row.what;
         EXPECT_EQ(parts.legendShown(), row.shown) << row.what;
-        const bool counted = row.shown > 0 && row.shown < row.rows;
-        if (counted) {
+        if (row.shown > 0 && row.shown < row.rows) { // a line counts the others
             EXPECT_TRUE(parts.legend().contains(parts.legendEntry(row.shown))) << row.what;
         }
     }

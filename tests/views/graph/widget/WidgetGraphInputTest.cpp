@@ -3,137 +3,148 @@
 #include <gtest/gtest.h>
 
 using namespace VELIX;
-using namespace VELIX::Test;
 
 namespace {
 
-template <class Widget>
-class WidgetGraphInput : public ::testing::Test
-{};
-using Widgets = ::testing::Types<WidgetGraph, WidgetGraphES>;
-TYPED_TEST_SUITE(WidgetGraphInput, Widgets);
+constexpr auto kLeft = Qt::LeftButton;
+constexpr auto kMiddle = Qt::MiddleButton;
+constexpr auto kRight = Qt::RightButton;
 
-TYPED_TEST(WidgetGraphInput, LeftSetsBothMarkers)
+struct WidgetGraphInputTest : ::testing::Test, Test::GraphFixture<>
 {
-    GraphFixture<TypeParam> fixture;
-    QSignalSpy spy(&fixture.graph, &WidgetGraphBase::signalMarker);
-    const QPoint point = fixture.at(0.4, 0.5);
-    QTest::mouseClick(&fixture.graph, Qt::LeftButton, Qt::NoModifier, point);
-    ASSERT_EQ(spy.count(), 1);
-    const double time = fixture.time(point);
-    EXPECT_NEAR(spy[0][0].toDouble(), time, 1e-4);
-    EXPECT_NEAR(spy[0][1].toDouble(), time, 1e-4);
-    EXPECT_TRUE(fixture.graph.markersOn());
+    void press(Qt::MouseButton button, const QPoint& at, Qt::KeyboardModifiers held = {})
+    {
+        QTest::mousePress(&graph, button, held, at);
+    }
+    void release(Qt::MouseButton button, const QPoint& at)
+    {
+        QTest::mouseRelease(&graph, button, Qt::NoModifier, at);
+    }
+    void click(const QPoint& at, Qt::KeyboardModifiers held = {})
+    {
+        QTest::mouseClick(&graph, kLeft, held, at);
+    }
+    void expectMarkers(double first, double second)
+    {
+        EXPECT_NEAR(model().marker1(), first, 0.5);
+        EXPECT_NEAR(model().marker2(), second, 0.5);
+    }
+
+    QSignalSpy markers{&graph, &WidgetGraphBase::signalMarker};
+    QSignalSpy cursor{&graph, &WidgetGraphBase::signalCursor};
+};
+
+TEST_F(WidgetGraphInputTest, LeftSetsBothMarkersAndShiftTheNearerOne)
+{
+    click(at(0.4));
+    ASSERT_EQ(markers.count(), 1);
+    EXPECT_NEAR(markers[0][0].toDouble(), time(at(0.4)), 1e-4);
+    EXPECT_NEAR(markers[0][1].toDouble(), time(at(0.4)), 1e-4);
+    EXPECT_TRUE(graph.markersOn());
+
+    graph.setMarker(20.0, 60.0);
+    click(at(0.35), Qt::ShiftModifier); // left of the midpoint, 40 s
+    expectMarkers(35.0, 60.0);
+    press(kLeft, at(0.9), Qt::ShiftModifier);
+    expectMarkers(35.0, 90.0);
+    move(at(0.1), kLeft); // the same marker, past the other
+    expectMarkers(35.0, 10.0);
+    markers.clear();
+    release(kLeft, at(0.1));
+    expectMarkers(10.0, 35.0);
+    EXPECT_EQ(markers.count(), 1) << "those who follow the markers learn of the swap";
 }
 
-TYPED_TEST(WidgetGraphInput, ShiftSetsTheNearerMarkerAndReleaseSortsThem)
+TEST_F(WidgetGraphInputTest, ShiftIsRememberedUntilReleaseOrLossOfFocus)
 {
-    GraphFixture<TypeParam> fixture;
-    fixture.graph.setMarker(20.0, 60.0);
-    const QPoint left = fixture.at(0.35, 0.5); // left of the midpoint, 40 s
-    QTest::mouseClick(&fixture.graph, Qt::LeftButton, Qt::ShiftModifier, left);
-    EXPECT_NEAR(fixture.graph.model().marker1(), fixture.time(left), 1e-9);
-    EXPECT_EQ(fixture.graph.model().marker2(), 60.0);
-
-    QTest::mousePress(&fixture.graph, Qt::LeftButton, Qt::ShiftModifier, fixture.at(0.9, 0.5));
-    EXPECT_NEAR(fixture.graph.model().marker2(), 90.0, 0.5);
-    fixture.move(fixture.at(0.1, 0.5), Qt::LeftButton); // the same marker, past the other
-    EXPECT_NEAR(fixture.graph.model().marker2(), 10.0, 0.5);
-    QSignalSpy spy(&fixture.graph, &WidgetGraphBase::signalMarker);
-    QTest::mouseRelease(&fixture.graph, Qt::LeftButton, Qt::NoModifier, fixture.at(0.1, 0.5));
-    EXPECT_NEAR(fixture.graph.model().marker1(), 10.0, 0.5);
-    EXPECT_NEAR(fixture.graph.model().marker2(), fixture.time(left), 1e-9);
-    EXPECT_EQ(spy.count(), 1) << "whoever follows the markers learns of the swap";
-}
-
-TYPED_TEST(WidgetGraphInput, ARememberedShiftCountsAsHeld)
-{
-    GraphFixture<TypeParam> fixture;
-    fixture.graph.setMarker(20.0, 60.0);
-    for (const double marker2 : {60.0, 10.0}) {
-        QTest::keyEvent(marker2 > 10.0 ? QTest::Press : QTest::Release, &fixture.graph,
-                        Qt::Key_Shift);
-        QTest::mouseClick(&fixture.graph, Qt::LeftButton, Qt::NoModifier, fixture.at(0.1, 0.5));
-        EXPECT_NEAR(fixture.graph.model().marker2(), marker2, 0.5);
+    for (const bool leave : {false, true}) {
+        graph.setMarker(20.0, 60.0);
+        QTest::keyPress(&graph, Qt::Key_Shift);
+        click(at(0.1));
+        expectMarkers(10.0, 60.0);
+        QFocusEvent lost(QEvent::FocusOut);
+        leave ? (void)QApplication::sendEvent(&graph, &lost)
+              : QTest::keyRelease(&graph, Qt::Key_Shift);
+        click(at(0.1));
+        expectMarkers(10.0, 10.0);
     }
 }
 
-TYPED_TEST(WidgetGraphInput, CtrlPlacesTheCursorOnTheScaleOfTheBand)
+TEST_F(WidgetGraphInputTest, CtrlSetsTheCursorOnTheScaleOfTheBand)
 {
-    GraphFixture<TypeParam> fixture;
-    QSignalSpy spy(&fixture.graph, &WidgetGraphBase::signalCursor);
-    const QRect band = fixture.graph.layoutOfParts().band(1);
-    const QPoint point(fixture.at(0.3, 0.0).x(), band.top() + band.height() / 2);
-    QTest::mouseClick(&fixture.graph, Qt::LeftButton, Qt::ControlModifier, point);
-    ASSERT_EQ(spy.count(), 1);
-    EXPECT_NEAR(spy[0][0].toDouble(), fixture.time(point), 1e-4);
-    EXPECT_NEAR(spy[0][1].toDouble(), 100.0, 2.5) << "the middle of 0..200";
-    EXPECT_EQ(fixture.graph.model().selectedTrace(), 1U);
-    EXPECT_FALSE(fixture.graph.markersOn());
+    const QRect band = parts().band(1);
+    const QPoint point(at(0.3).x(), band.top() + band.height() / 2);
+    click(point, Qt::ControlModifier);
+    ASSERT_EQ(cursor.count(), 1);
+    EXPECT_NEAR(cursor[0][0].toDouble(), time(point), 1e-4);
+    EXPECT_NEAR(cursor[0][1].toDouble(), 100.0, 2.5) << "the middle of 0..200";
+    EXPECT_EQ(model().selectedTrace(), 1U);
+    EXPECT_FALSE(graph.markersOn());
 }
 
-TYPED_TEST(WidgetGraphInput, MiddleDragsTheCursorAlsoInTheCenterMode)
+TEST_F(WidgetGraphInputTest, MiddleDragsTheCursorAlsoInTheCenterMode)
 {
-    GraphFixture<TypeParam> fixture;
-    fixture.graph.setCursorMode(GraphModel::CursorCenter);
-    QSignalSpy moved(&fixture.graph, &WidgetGraphBase::signalCursor);
-    QSignalSpy finished(&fixture.graph, &WidgetGraphBase::signalMoveCursorFinished);
-    QTest::mousePress(&fixture.graph, Qt::MiddleButton, Qt::NoModifier, fixture.at(0.2, 0.5));
-    fixture.move(fixture.at(0.7, 0.5), Qt::MiddleButton);
-    EXPECT_EQ(moved.count(), 2);
+    graph.setCursorMode(GraphModel::CursorCenter);
+    QSignalSpy finished(&graph, &WidgetGraphBase::signalMoveCursorFinished);
+    press(kMiddle, at(0.2));
+    press(kLeft, at(0.5)); // does not disturb the drag
+    move(at(0.7), kMiddle);
+    EXPECT_EQ(cursor.count(), 2);
     EXPECT_EQ(finished.count(), 0);
-    QTest::mouseRelease(&fixture.graph, Qt::MiddleButton, Qt::NoModifier, fixture.at(0.7, 0.5));
+    release(kMiddle, at(0.7));
     EXPECT_EQ(finished.count(), 1);
-    EXPECT_NEAR(fixture.graph.model().cursorTime(), 70.0, 0.5);
-    EXPECT_EQ(fixture.graph.model().xmin(), 0.0) << "the range does not flee from the mouse";
+    EXPECT_EQ(markers.count(), 0);
+    EXPECT_NEAR(model().cursorTime(), 70.0, 0.5);
+    EXPECT_EQ(model().xmin(), 0.0) << "the range does not flee from the mouse";
 }
 
-TYPED_TEST(WidgetGraphInput, RightPansFromTheRangeAtThePress)
+TEST_F(WidgetGraphInputTest, RightPansFromTheRangeAtThePress)
 {
-    GraphFixture<TypeParam> fixture;
-    fixture.graph.setGraphMode(GraphModel::GraphAutomatic);
-    QSignalSpy manual(&fixture.graph, &WidgetGraphBase::signalManMode);
-    const QPoint press = fixture.at(0.5, 0.5);
-    const double perPixel = 100.0 / fixture.plot().width();
-    QTest::mousePress(&fixture.graph, Qt::RightButton, Qt::NoModifier, press);
+    graph.setGraphMode(GraphModel::GraphAutomatic);
+    QSignalSpy manual(&graph, &WidgetGraphBase::signalManMode);
+    QSignalSpy changed(&graph, &WidgetGraphBase::signalRangeChanged);
+    const QPoint start = at(0.5);
+    const double moved = 30.0 * 100.0 / plot().width();
+    press(kRight, start);
     EXPECT_EQ(manual.count(), 0);
-    fixture.move(press - QPoint(50, 0), Qt::RightButton);
-    fixture.move(press - QPoint(30, 7), Qt::RightButton);
+    move(start - QPoint(50, 0), kRight);
+    move(start - QPoint(30, 7), kRight);
     EXPECT_EQ(manual.count(), 2);
-    EXPECT_NEAR(fixture.graph.model().xmin(), 30.0 * perPixel, 1e-9);
-    EXPECT_NEAR(fixture.graph.model().xmax(), 100.0 + 30.0 * perPixel, 1e-9);
-    EXPECT_EQ(fixture.graph.model().graphMode(), GraphModel::GraphManual);
-    QTest::mouseRelease(&fixture.graph, Qt::RightButton, Qt::NoModifier, press);
+    EXPECT_NEAR(model().xmin(), moved, 1e-9);
+    EXPECT_NEAR(model().xmax(), 100.0 + moved, 1e-9);
+    EXPECT_EQ(model().graphMode(), GraphModel::GraphManual);
+    release(kRight, start);
+    EXPECT_EQ(changed.count(), 1);
 
-    fixture.graph.setPanning(false);
-    QTest::mousePress(&fixture.graph, Qt::RightButton, Qt::NoModifier, press);
-    fixture.move(press + QPoint(40, 0), Qt::RightButton);
-    EXPECT_NEAR(fixture.graph.model().xmin(), 30.0 * perPixel, 1e-9);
+    graph.setPanning(false);
+    press(kRight, start);
+    move(start + QPoint(40, 0), kRight);
+    EXPECT_NEAR(model().xmin(), moved, 1e-9);
 }
 
-TYPED_TEST(WidgetGraphInput, WheelZoomsAboutTheMouse)
+TEST_F(WidgetGraphInputTest, WheelZoomsAboutTheMouse)
 {
-    GraphFixture<TypeParam> fixture;
-    const QPoint point = fixture.at(0.25, 0.5);
-    const double pivot = fixture.time(point);
-    EXPECT_TRUE(fixture.wheel(point, 120));
-    EXPECT_NEAR(fixture.graph.model().xmin(), pivot - 0.9 * pivot, 1e-9);
-    EXPECT_NEAR(fixture.graph.model().xmax(), pivot + 0.9 * (100.0 - pivot), 1e-9);
-    fixture.wheel(point, 120);
-    fixture.wheel(point, 120);
-    for (int i = 0; i < 3; ++i) {
-        fixture.wheel(point, -120);
-    }
-    EXPECT_NEAR(fixture.graph.model().range().span(), 100.0, 1e-9);
+    const QPoint point = at(0.25);
+    const double pivot = time(point);
+    EXPECT_TRUE(wheel(point, 120));
+    EXPECT_NEAR(model().xmin(), pivot - 0.9 * pivot, 1e-9);
+    EXPECT_NEAR(model().xmax(), pivot + 0.9 * (100.0 - pivot), 1e-9);
+    wheel(point, -120);
+    EXPECT_NEAR(model().range().span(), 100.0, 1e-9);
 
-    fixture.wheel(point, 120, Qt::ShiftModifier);
-    QTest::mousePress(&fixture.graph, Qt::RightButton, Qt::NoModifier, point);
-    fixture.wheel(point, 120);
-    EXPECT_NEAR(fixture.graph.model().range().span(), 100.0, 1e-9)
-        << "neither with Shift nor during a drag";
+    EXPECT_FALSE(wheel(point, 120, Qt::ShiftModifier));
+    press(kRight, point);
+    EXPECT_FALSE(wheel(point, 120)) << "during a drag";
+    release(kRight, point);
+    EXPECT_NEAR(model().range().span(), 100.0, 1e-9);
+
+    for (const double span : {100.0, 90.0, 90.0}) { // of a touch pad, in parts of a step
+        wheel(point, 70, Qt::NoModifier, Qt::ScrollUpdate);
+        EXPECT_NEAR(model().range().span(), span, 1e-9);
+    }
 }
 
-TYPED_TEST(WidgetGraphInput, KeysMoveTheCursorByPixels)
+TEST_F(WidgetGraphInputTest, KeysMoveTheCursorByPixels)
 {
     const struct
     {
@@ -143,98 +154,73 @@ TYPED_TEST(WidgetGraphInput, KeysMoveTheCursorByPixels)
     } rows[] = {{Qt::Key_Right, Qt::NoModifier, 1.0},      {Qt::Key_Left, Qt::NoModifier, -1.0},
                 {Qt::Key_Right, Qt::ShiftModifier, 10.0},  {Qt::Key_Left, Qt::ShiftModifier, -10.0},
                 {Qt::Key_Right, Qt::ControlModifier, 0.0}, {Qt::Key_Left, Qt::AltModifier, 0.0}};
-    GraphFixture<TypeParam> fixture;
-    fixture.graph.setCursorPosition(50.0);
-    QSignalSpy spy(&fixture.graph, &WidgetGraphBase::signalCursor);
-    const double perPixel = 100.0 / fixture.plot().width();
+    graph.setCursorPosition(50.0);
     double expected = 50.0;
     for (const auto& row : rows) {
-        QTest::keyClick(&fixture.graph, row.key, row.held);
-        expected += row.pixels * perPixel;
-        EXPECT_NEAR(fixture.graph.model().cursorTime(), expected, 1e-9) << row.key;
+        QTest::keyClick(&graph, row.key, row.held);
+        expected += row.pixels * 100.0 / plot().width();
+        EXPECT_NEAR(model().cursorTime(), expected, 1e-9) << row.key;
     }
-    EXPECT_EQ(spy.count(), 4) << "arrows with Ctrl and Alt belong to the window";
-    EXPECT_NEAR(spy[0][0].toDouble(), 50.0 + perPixel, 1e-3);
+    EXPECT_EQ(cursor.count(), 4) << "arrows with Ctrl and Alt belong to the window";
 }
 
-TYPED_TEST(WidgetGraphInput, UpAndDownWalkThroughTheBands)
+TEST_F(WidgetGraphInputTest, UpAndDownWalkThroughTheBands)
 {
-    GraphFixture<TypeParam> fixture;
-    const QRect band = fixture.graph.layoutOfParts().band(1);
-    const QPoint nearTop(fixture.at(0.5, 0.0).x(), band.top() + 4);
-    QTest::mouseClick(&fixture.graph, Qt::LeftButton, Qt::ControlModifier, nearTop);
-    const double before = fixture.graph.model().cursorValue();
-    QTest::keyClick(&fixture.graph, Qt::Key_Up);
-    EXPECT_NEAR(fixture.graph.model().cursorValue() - before,
-                fixture.graph.model().scaleOf(1).span() / band.height(), 1e-6);
-    EXPECT_EQ(fixture.graph.model().selectedTrace(), 1U);
-    QTest::keyClick(&fixture.graph, Qt::Key_Up, Qt::ShiftModifier);
-    EXPECT_EQ(fixture.graph.model().selectedTrace(), 0U);
-    EXPECT_NEAR(fixture.graph.model().cursorValue(), fixture.graph.model().scaleOf(0).minimum,
-                fixture.graph.model().scaleOf(0).span() / 10.0);
-    QTest::keyClick(&fixture.graph, Qt::Key_Down, Qt::ShiftModifier);
-    EXPECT_EQ(fixture.graph.model().selectedTrace(), 1U);
+    const QRect band = parts().band(1);
+    click({at(0.5).x(), band.top() + 4}, Qt::ControlModifier);
+    const double before = model().cursorValue();
+    QTest::keyClick(&graph, Qt::Key_Up);
+    EXPECT_NEAR(model().cursorValue() - before, model().scaleOf(1).span() / band.height(), 1e-6);
+    QTest::keyClick(&graph, Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(model().selectedTrace(), 0U);
+    EXPECT_NEAR(model().cursorValue(), model().scaleOf(0).minimum, model().scaleOf(0).span() / 10);
+    QTest::keyClick(&graph, Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(model().selectedTrace(), 1U);
 }
 
-TYPED_TEST(WidgetGraphInput, NoClickOutsideThePlotSetsMarkersOrCursor)
+TEST_F(WidgetGraphInputTest, TheLegendSelectsHidesAndShows)
 {
-    GraphFixture<TypeParam> fixture;
-    QSignalSpy markers(&fixture.graph, &WidgetGraphBase::signalMarker);
-    QSignalSpy cursor(&fixture.graph, &WidgetGraphBase::signalCursor);
-    const GraphLayout parts = fixture.graph.layoutOfParts();
-    for (const QPoint& point : {parts.legendEntry(1).center(), parts.handle(1).center(),
-                                parts.timeAxis().center(), parts.valueAxis().center()}) {
-        QTest::mouseClick(&fixture.graph, Qt::LeftButton, Qt::NoModifier, point);
-        QTest::mouseClick(&fixture.graph, Qt::LeftButton, Qt::ControlModifier, point);
-        QTest::mouseDClick(&fixture.graph, Qt::LeftButton, Qt::NoModifier, point);
+    for (const QPoint& point : {parts().legendEntry(1).center(), parts().handle(1).center(),
+                                parts().timeAxis().center(), parts().valueAxis().center()}) {
+        click(point);
+        click(point, Qt::ControlModifier);
+        EXPECT_EQ(model().selectedTrace(), 1U);
     }
+    for (const bool shown : {false, true}) {
+        QTest::mouseDClick(&graph, kLeft, Qt::NoModifier, parts().legendEntry(1).center());
+        EXPECT_EQ(model().isShown(1), shown);
+        EXPECT_EQ(parts().bandCount(), shown ? 3 : 2);
+        EXPECT_EQ(graph.nrActive(), 3U) << "it stays in the legend";
+    }
+    QTest::mouseDClick(&graph, kLeft, Qt::NoModifier, parts().timeAxis().center());
     EXPECT_EQ(markers.count() + cursor.count(), 0);
 }
 
-TYPED_TEST(WidgetGraphInput, DoubleClickInTheLegendHidesAndShows)
+TEST_F(WidgetGraphInputTest, HandlesDragTracesToOtherPositions)
 {
-    GraphFixture<TypeParam> fixture;
-    const auto doubleClick = [&fixture](int row) {
-        QTest::mouseDClick(&fixture.graph, Qt::LeftButton, Qt::NoModifier,
-                           fixture.graph.layoutOfParts().legendEntry(row).center());
-    };
-    doubleClick(1);
-    EXPECT_FALSE(fixture.graph.model().isShown(1));
-    EXPECT_EQ(fixture.graph.layoutOfParts().bandCount(), 2);
-    EXPECT_EQ(fixture.graph.nrActive(), 3U) << "its place in the legend stays";
-    doubleClick(1);
-    EXPECT_TRUE(fixture.graph.model().isShown(1));
-    EXPECT_EQ(fixture.graph.layoutOfParts().bandCount(), 3);
+    QSignalSpy moved(&graph, &WidgetGraphBase::signalMoveParameter);
+    const QPoint from = parts().handle(0).center();
+    const QPoint to = parts().handle(2).center();
+    press(kLeft, from);
+    move(to, kLeft);
+    EXPECT_EQ(moved.count(), 0);
+    release(kLeft, to);
+    ASSERT_EQ(moved.count(), 1);
+    EXPECT_EQ(moved[0], (QList<QVariant>{0, 2}));
+    EXPECT_EQ(model().displayOrder(), (std::vector<unsigned int>{1, 2, 0}));
 }
 
-TYPED_TEST(WidgetGraphInput, HandlesDragTracesToOtherPlaces)
+TEST_F(WidgetGraphInputTest, HoveringShowsValuesAndMovesNothing)
 {
-    GraphFixture<TypeParam> fixture;
-    QSignalSpy spy(&fixture.graph, &WidgetGraphBase::signalMoveParameter);
-    const GraphLayout parts = fixture.graph.layoutOfParts();
-    QTest::mousePress(&fixture.graph, Qt::LeftButton, Qt::NoModifier, parts.handle(0).center());
-    fixture.move(parts.handle(2).center(), Qt::LeftButton);
-    EXPECT_EQ(spy.count(), 0);
-    QTest::mouseRelease(&fixture.graph, Qt::LeftButton, Qt::NoModifier, parts.handle(2).center());
-    ASSERT_EQ(spy.count(), 1);
-    EXPECT_EQ(spy[0], (QList<QVariant>{0, 2}));
-    EXPECT_EQ(fixture.graph.model().displayOrder(), (std::vector<unsigned int>{1, 2, 0}));
-}
-
-TYPED_TEST(WidgetGraphInput, HoveringMovesNothing)
-{
-    GraphFixture<TypeParam> fixture;
-    fixture.graph.setCursorPosition(10.0);
-    const QImage before = fixture.paint();
-    const QPoint point = fixture.at(0.6, 0.5);
-    fixture.move(point);
-    EXPECT_EQ(fixture.graph.model().cursorTime(), 10.0);
-    const QImage hovered = fixture.paint();
-    const QRect beside(point.x() + 4, fixture.plot().top(), 90, fixture.plot().height());
-    EXPECT_NE(before.copy(beside), hovered.copy(beside)) << "values beside the mouse";
+    graph.setCursorPosition(10.0);
+    const QImage before = paint();
+    move(at(0.6));
+    EXPECT_EQ(model().cursorTime(), 10.0);
+    const QRect beside(at(0.6).x() + 4, plot().top(), 90, plot().height());
+    EXPECT_NE(before.copy(beside), paint().copy(beside)) << "values beside the mouse";
     QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(&fixture.graph, &leave);
-    EXPECT_EQ(fixture.paint(), before);
+    QApplication::sendEvent(&graph, &leave);
+    EXPECT_EQ(paint(), before);
 }
 
 } // namespace
