@@ -28,6 +28,8 @@ TEST(NumberFormat, NumbersGetTheDecimalsOfTheirStep)
         {"a counter has none", "USHORT", "1", "0", "6", eUnitMetric, 0, 0},
         {"tenths", "USHORT", "0.1", "0", "6", eUnitMetric, 1, 1},
         {"halves with an offset of quarters", "SHORT", "0.5", "0.25", "6", eUnitMetric, 2, 0},
+        {"eighths", "USHORT", "0.125", "0", "6", eUnitMetric, 3, 0},
+        {"about a hundredth", "USHORT", "0.0102", "0", "6", eUnitMetric, 2, 2},
         {"a negative factor", "SHORT", "-0.02", "0", "6", eUnitMetric, 2, 1},
         {"an odd factor resolves its step", "USHORT", "0.0078125", "0", "6", eUnitMetric, 3, 2},
         {"a coarse factor needs none", "USHORT", "33.333333333", "0", "6", eUnitMetric, 0, 0},
