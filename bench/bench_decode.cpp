@@ -89,7 +89,6 @@ void overMessages(benchmark::State& state, EUnit unit, Decode decode)
     const ProfileParameter& p = fixture.parameter(id);
     const std::vector<RecordEntry>& messages = fixture.messages.at(id);
     fixture.profile.setCurrentUnit(unit);
-    fixture.profile.resetCoordinates();
     std::size_t i = 0;
     for (auto _ : state) {
         decode(fixture.profile, messages[i++ % kMessages], p);
@@ -99,46 +98,56 @@ void overMessages(benchmark::State& state, EUnit unit, Decode decode)
 
 void getDouble(benchmark::State& state)
 {
-    overMessages(state, eUnitMetric,
-                 [](Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
-                     int band = 0;
-                     QColor color;
-                     benchmark::DoNotOptimize(profile.getDouble(e, p, band, color, true));
-                     benchmark::DoNotOptimize(band);
-                 });
+    CoordinateFilter filter;
+    overMessages(
+        state, eUnitMetric,
+        [&filter](const Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
+            int band = 0;
+            QColor color;
+            benchmark::DoNotOptimize(
+                profile.decoder().number(ParameterSample(e, p, filter), band, color));
+            benchmark::DoNotOptimize(band);
+        });
 }
 
 void getDoubleImperial(benchmark::State& state)
 {
-    overMessages(state, eUnitImperial,
-                 [](Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
-                     int band = 0;
-                     QColor color;
-                     benchmark::DoNotOptimize(profile.getDouble(e, p, band, color, true));
-                     benchmark::DoNotOptimize(band);
-                 });
+    CoordinateFilter filter;
+    overMessages(
+        state, eUnitImperial,
+        [&filter](const Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
+            int band = 0;
+            QColor color;
+            benchmark::DoNotOptimize(
+                profile.decoder().number(ParameterSample(e, p, filter), band, color));
+            benchmark::DoNotOptimize(band);
+        });
 }
 
 void getDataState(benchmark::State& state)
 {
     CoordinateFilter filter;
-    overMessages(state, eUnitMetric,
-                 [&filter](Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
-                     int band = 0;
-                     QColor color;
-                     profile.decoder().judge(ParameterSample(e, p, filter), band, color);
-                     benchmark::DoNotOptimize(band);
-                 });
+    overMessages(
+        state, eUnitMetric,
+        [&filter](const Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
+            int band = 0;
+            QColor color;
+            profile.decoder().judge(ParameterSample(e, p, filter), band, color);
+            benchmark::DoNotOptimize(band);
+        });
 }
 
 void getDataString(benchmark::State& state)
 {
-    overMessages(state, eUnitMetric,
-                 [](Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
-                     int band = 0;
-                     QColor color;
-                     benchmark::DoNotOptimize(profile.getDataString(e, p, band, color));
-                 });
+    CoordinateFilter filter;
+    overMessages(
+        state, eUnitMetric,
+        [&filter](const Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
+            int band = 0;
+            QColor color;
+            benchmark::DoNotOptimize(
+                profile.decoder().text(ParameterSample(e, p, filter), band, color));
+        });
 }
 
 void appendDataString(benchmark::State& state)
@@ -147,7 +156,7 @@ void appendDataString(benchmark::State& state)
     CoordinateFilter filter;
     overMessages(
         state, eUnitMetric,
-        [&text, &filter](Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
+        [&text, &filter](const Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
             text.clear();
             profile.decoder().appendText(ParameterSample(e, p, filter), text);
             benchmark::DoNotOptimize(text.data());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 namespace VELIX {
 
 /// CANaerospace data type codes, as carried in byte 1 of a message and named in the profile.
@@ -51,6 +53,20 @@ enum class EExtraction {
 };
 
 /// Returns the extraction of a data type code; None for codes that are not decoded or unknown.
-EExtraction extractionOf(int dataType);
+inline EExtraction extractionOf(int dataType)
+{
+    using enum EExtraction;
+    static constexpr std::array<EExtraction, 30> kTable = {
+        None,     None,       Float,   Signed32,  Unsigned32, Bits32, // 0..5
+        Signed16, Unsigned16, Bits16,  Signed8,   Unsigned8,  None,   // 6..11
+        Signed16, Unsigned16, None,    Signed8,   Unsigned8,  None,   // 12..17
+        Signed8,  Unsigned8,  None,    None,      None,       None,   // 18..23
+        None,     None,       Signed8, Unsigned8, None,       None,   // 24..29
+    };
+    if (dataType < 0 || dataType >= static_cast<int>(kTable.size())) {
+        return None;
+    }
+    return kTable[static_cast<std::size_t>(dataType)];
+}
 
 } // namespace VELIX

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "profile/CoordinateFilter.h"
 #include "profile/DataType.h"
+#include "profile/Payload.h"
 #include "profile/ProfileParameter.h"
 
 namespace VELIX {
-
-class CoordinateFilter;
-struct RecordEntry;
 
 /// A message and the parameter that is to be decoded out of it; refers to both.
 ///
@@ -18,7 +17,14 @@ public:
     enum class Scale { Off, On };
 
     /// A sample of its own: no position comes before it that could judge it.
-    ParameterSample(const RecordEntry& entry, const ProfileParameter& p);
+    ParameterSample(const RecordEntry& entry, const ProfileParameter& p)
+        : mEntry(&entry), mParameter(&p)
+    {
+        if (isPosition(p)) {
+            CoordinateFilter fresh;
+            takePosition(fresh);
+        }
+    }
     /// The next sample of a walk by time whose positions the filter judges.
     /// scale: whether the parameter's factor and offset are applied to numbers.
     ParameterSample(const RecordEntry& entry, const ProfileParameter& p, CoordinateFilter& filter,
@@ -43,7 +49,13 @@ public:
     double position() const { return mPosition; }
 
 private:
-    void takePosition(CoordinateFilter& filter);
+    void takePosition(CoordinateFilter& filter)
+    {
+        const double real = Payload(*mEntry).real(mParameter->startByte);
+        const double value = isScaled() ? mParameter->scaled(real) : real;
+        mPosition = mParameter->coordinate == ECoordinate::Latitude ? filter.latitude(value)
+                                                                    : filter.longitude(value);
+    }
 
     const RecordEntry* mEntry;
     const ProfileParameter* mParameter;
