@@ -113,7 +113,7 @@ TEST_F(ExportControllerTest, WritesWhatTheWizardsSumUp)
     EXPECT_TRUE(program.dialogs.takeAsked().isEmpty());
 }
 
-TEST_F(ExportControllerTest, TellsOfAFileThatCannotBeWritten)
+TEST_F(ExportControllerTest, ReportsAFileThatCannotBeWritten)
 {
     // The folder goes away between the wizard's check and the writing.
     for (QWizard* wizard : window.findChildren<QWizard*>()) {
@@ -158,23 +158,4 @@ TEST_F(ExportControllerTest, ACancelledExportLeavesTheOldFile)
         EXPECT_FALSE(exports.isWriting());
     }
     EXPECT_EQ(QDir(folder).entryList(QDir::Files).size(), 2);
-}
-
-TEST_F(ExportControllerTest, ALookUpMeanwhileDoesNotDisturbTheWriting)
-{
-    exportCsv();
-    const QByteArray alone = readFile(file("ExportVelix.csv"));
-    program.dialogs.agrees = true;
-    exports.setPatience(0);
-    int lookUps = 0;
-    QTimer replay;
-    QObject::connect(&replay, &QTimer::timeout, [&] {
-        if (exports.isWriting()) {
-            program.profile.calcCoordinateLat(12.0, 1e6 + ++lookUps); // far away in place and time
-        }
-    });
-    replay.start(0);
-    exportCsv();
-    EXPECT_GT(lookUps, 0);
-    EXPECT_EQ(readFile(file("ExportVelix.csv")), alone);
 }

@@ -225,7 +225,7 @@ TEST_F(DialogExportKmlTest, SumsUpWhatWillBeWritten)
     EXPECT_EQ(label("summary0"), QStringLiteral("120"));
 }
 
-TEST_F(DialogExportKmlTest, TellsOfARecordWithoutPositionsBeforeAnythingIsWritten)
+TEST_F(DialogExportKmlTest, ReportsARecordWithoutPositionsBeforeAnythingIsWritten)
 {
     open();
     const auto& remark = find<ExportNote>("exportRemark");
