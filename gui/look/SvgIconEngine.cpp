@@ -73,8 +73,8 @@ QPixmap SvgIconEngine::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State)
         painter.setOpacity(0.4);
     }
     const int side = std::min(bounded.width(), bounded.height());
-    renderer.render(
-        &painter, QRectF((bounded.width() - side) / 2, (bounded.height() - side) / 2, side, side));
+    const QRect square((bounded.width() - side) / 2, (bounded.height() - side) / 2, side, side);
+    renderer.render(&painter, square); // at whole pixels
     painter.end();
     mPixmaps.insert(key, image);
     return image;
