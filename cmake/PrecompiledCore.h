@@ -1,6 +1,6 @@
-// Headers of the standard library and of Qt Core that many files use and that do not change with the
-// project. Precompiled once, they take a fraction of the time. Files still include what they use,
-// which the presets lint and fuzz check by compiling without this.
+// Headers of the standard library and of Qt Core that many files use and that do not change with
+// the project. Precompiled once, they take a fraction of the time. Files still include what they
+// use, which the presets lint and fuzz check by compiling without this.
 #include <algorithm>
 #include <array>
 #include <cmath>
