@@ -60,7 +60,7 @@ Outcome RecordLoader::check(const std::vector<Source>& sources) const
 
 Outcome RecordLoader::load(const std::vector<Source>& sources, LoadedRecord& record)
 {
-    const Outcome start = check(sources);
+    Outcome start = check(sources);
     if (!start.ok) {
         return start;
     }
