@@ -84,7 +84,8 @@ TEST_F(WidgetMapInputTest, DraggingLeavesTheAircraftAndAClickDoesNot)
     center()->trigger();
     ASSERT_TRUE(context().centreAircraft);
     view->setTime(11.0);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return std::abs(context().centreLatitude - 47.1) < 1e-4; }));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return std::abs(context().centreLatitude - 47.1) < 1e-4; }, 60000));
     QTest::mouseClick(&map(), Qt::LeftButton, {}, {300, 200});
     EXPECT_TRUE(center()->isChecked());
 
