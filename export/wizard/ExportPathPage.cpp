@@ -69,7 +69,7 @@ void ExportPathPage::createLayout()
 void ExportPathPage::initializePage()
 {
     if (mDirectory.empty()) {
-        mDirectory = ".";
+        mDirectory.assign(1, '.'); // GCC 12 takes a literal for an endless copy
     }
     mPathEdit->setText(directory());
     mFileEdit->setText(fileName());
