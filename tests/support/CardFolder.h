@@ -30,7 +30,7 @@ public:
         (void)writeFile(file(name), bytes);
         return *this;
     }
-    /// A file of that size that takes no room on the disk.
+    /// Adds a file of that size that takes no space on the disk.
     CardFolder& addSparse(const char* name, qint64 size)
     {
         QFile out(file(name));

@@ -56,7 +56,7 @@ public:
         return *this;
     }
     ProfileBuilder& enumeration(const char* name,
-                                std::initializer_list<std::pair<int, const char*>> labels)
+                                const std::vector<std::pair<int, const char*>>& labels)
     {
         add(mEnums, "Enum").set("name", name);
         for (const auto& [value, label] : labels) {
@@ -122,7 +122,7 @@ public:
     {
         return loadText(profile, xml(), variantName);
     }
-    /// The same for a profile that is spelt out.
+    /// The same for a profile that is given as text.
     static bool loadText(Profile& profile, const QString& xml,
                          const QString& variantName = QString())
     {

@@ -12,7 +12,9 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace VELIX::Test {
@@ -25,7 +27,7 @@ namespace VELIX::Test {
 ///     auto data = record.data();           // as a reader would have filled it
 ///     record.write(path);                  // or as a record file
 ///
-/// Time, identifier and source hold until they are given again; each value appends one entry.
+/// Time, identifier and source apply until they are given again; each value appends one entry.
 /// Values are in payload bytes 4 to 7 (startByte 4), byte 1 says their type.
 class RecordBuilder
 {
@@ -49,7 +51,7 @@ public:
         mNext.id = canId;
         return *this;
     }
-    /// 0 and 1 file the entries in a collective list as well; 2, the default, does not.
+    /// 0 and 1 put the entries into a collective list as well; 2, the default, does not.
     RecordBuilder& source(std::uint16_t number)
     {
         mNext.source = number;
@@ -60,16 +62,20 @@ public:
     {
         return payload(eFloat, std::bit_cast<std::uint32_t>(value));
     }
+    /// A value at each time.
+    RecordBuilder& floatValues(std::initializer_list<std::pair<double, float>> values)
+    {
+        for (const auto& [seconds, value] : values) {
+            at(seconds).floatValue(value);
+        }
+        return *this;
+    }
     RecordBuilder& longValue(std::int32_t value)
     {
         return payload(eLong, static_cast<std::uint32_t>(value));
     }
     RecordBuilder& ulongValue(std::uint32_t value) { return payload(eULong, value); }
     RecordBuilder& blongValue(std::uint32_t value) { return payload(eBLong, value); }
-    RecordBuilder& shortValue(std::int16_t value)
-    {
-        return payload(eShort, std::uint32_t{static_cast<std::uint16_t>(value)} << 16);
-    }
     RecordBuilder& ushortValue(std::uint16_t value)
     {
         return payload(eUShort, std::uint32_t{value} << 16);
@@ -97,7 +103,7 @@ public:
         return *this;
     }
 
-    /// Start of the recording, UTC; without one the header holds an impossible date.
+    /// Sets the start of the recording, UTC; without one the header has an impossible date.
     RecordBuilder& date(const QDateTime& utc)
     {
         mDate = utc;
@@ -112,7 +118,7 @@ public:
     /// The entry appended last.
     const RecordEntry& last() const { return mEntries.back(); }
 
-    /// The recording as the card's reader fills it.
+    /// Returns the recording as the card's reader fills it.
     std::shared_ptr<RecordData> data() const
     {
         auto data = std::make_shared<RecordData>();
@@ -127,7 +133,7 @@ public:
         return data;
     }
 
-    /// The recording as the bytes of a record file.
+    /// Returns the recording as the bytes of a record file.
     QByteArray bytes(Order order = Order::Big) const
     {
         QByteArray out;

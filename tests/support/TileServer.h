@@ -35,9 +35,9 @@ public:
         Busy,      ///< 429, come again in an hour
         Unchanged, ///< 304, whatever was asked
         Html,      ///< 200 with a page
-        Garbage,   ///< 200 with noise under the name of a picture
-        Truncated, ///< half a picture, said to be whole
-        Enormous,  ///< a picture of 30,000 x 30,000 in its head
+        Garbage,   ///< 200 with noise under the name of an image
+        Truncated, ///< half an image, announced as a whole one
+        Enormous,  ///< an image whose header says 30,000 x 30,000
         Flood,     ///< more bytes than a tile can have
         Stream,    ///< bytes without end, and without saying how many
         Drip       ///< a byte now and then
@@ -72,7 +72,7 @@ public:
     int notModified() const { return mNotModified; }
     int mostParallel() const { return mMostParallel; }
     int mostSockets() const { return mMostSockets; }
-    /// Bytes without end that went out.
+    /// How many bytes without end were sent.
     qint64 streamed() const { return mStreamed; }
     const QList<QByteArray>& paths() const { return mPaths; }
     /// Of the last request; names in lower case.
@@ -82,7 +82,7 @@ public:
     {
         return QColor(40 + zoom * 10 % 200, 40 + x * 53 % 200, 40 + y * 31 % 200);
     }
-    /// Made once: packing a picture takes longer than all that is done with it.
+    /// Makes each only once: packing an image takes longer than all that is done with it.
     static QByteArray tile(int zoom, int x, int y)
     {
         static std::map<QRgb, QByteArray> made;
@@ -93,10 +93,10 @@ public:
         return known;
     }
 
-    /// A tile whose head says, in due form, that it is a picture of 30,000 x 30,000.
+    /// A tile whose header says, with a right checksum, that it is an image of 30,000 x 30,000.
     static QByteArray enormous()
     {
-        constexpr int kHead = 12; // of the chunk: its name and its 13 bytes are what is checked
+        constexpr int kHead = 12; // of the chunk: the checksum is over its name and its 13 bytes
         constexpr int kChecked = 17;
         QByteArray bytes = tile(1, 0, 0);
         bytes.replace(16, 8, QByteArray("\x00\x00\x75\x30\x00\x00\x75\x30", 8));
@@ -258,7 +258,7 @@ private:
     int mSockets = 0;
     int mMostSockets = 0;
     qint64 mStreamed = 0;
-    QTcpServer mServer; ///< the last: its connections still count themselves out when it ends
+    QTcpServer mServer; ///< the last: its connections are still counted when it ends
 };
 
 } // namespace VELIX::Test

@@ -11,11 +11,11 @@ namespace VELIX::Test {
 
 // What a view shows, as text.
 
-/// The sentence that stands where there is nothing to show; empty while it is hidden.
+/// The sentence that is shown where there is nothing else to show; empty while it is hidden.
 inline QString hintOf(const QWidget& view)
 {
-    const auto* sentence = view.findChild<WidgetHint*>();
-    return sentence->isVisible() ? sentence->hint() : QString();
+    const auto* hint = view.findChild<WidgetHint*>();
+    return hint->isVisible() ? hint->hint() : QString();
 }
 
 /// The headings in a line, as "Time | Oil [C]".

@@ -7,18 +7,18 @@
 
 namespace {
 
-/// Lets requests reach this machine alone: no test may depend on, or bother, a server elsewhere.
+/// Lets requests reach only this machine: no test may depend on, or burden, a server elsewhere.
 class LoopbackOnly : public QNetworkProxyFactory
 {
 public:
     QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override
     {
-        constexpr quint16 kNobody = 9;
+        constexpr quint16 kUnusedPort = 9;
         const QString host = query.peerHostName();
         if (host == QLatin1String("127.0.0.1") || host == QLatin1String("localhost")) {
             return {QNetworkProxy(QNetworkProxy::NoProxy)};
         }
-        return {QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), kNobody)};
+        return {QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), kUnusedPort)};
     }
 };
 

@@ -20,7 +20,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
-#include <QPainter>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -47,7 +46,6 @@ ProfileBuilder profileWithWarningAt(double degrees)
         .enumeration("WarningLamp", {{0, "off"}, {1, "amber"}, {2, "red"}, {3, "test"}})
         .device("Lane A")
         .parameter(kOil, QStringLiteral("Oil"), "FLOAT")
-        .set("unitMetric", "C")
         .set("viewId", "oil view")
         .set("precision", "1")
         .set("thresholdId", "Hot")
@@ -68,7 +66,6 @@ RecordBuilder eventfulRecord()
     record.at(20).id(kOil).floatValue(120).id(kLamp).bshortValue(2);
     record.at(30).id(kOil).floatValue(20).id(kLamp).bshortValue(3);
     record.at(40.0479).id(kOil).floatValue(95).id(kLamp).bshortValue(0);
-    record.at(50).id(kOil).floatValue(95).id(kLamp).bshortValue(0);
     return record;
 }
 
@@ -89,11 +86,8 @@ struct EventListTest : ::testing::Test
         view.updateRecord(data.get());
     }
     QTableWidget* table() { return view.template findChild<QTableWidget*>(); }
-    QString hint()
-    {
-        EXPECT_NE(view.template findChild<WidgetHint*>()->isVisible(), table()->isVisible());
-        return hintOf(view);
-    }
+    QTableWidgetItem* event(int row) { return table()->item(row, 1); }
+    std::string hint() { return hintOf(view).toStdString(); }
     int selectedRow() { return VELIX::Test::selectedRow(*table()); }
     int rowAt(double seconds)
     {
@@ -103,17 +97,10 @@ struct EventListTest : ::testing::Test
     void click(int row)
     {
         QTest::mouseClick(table()->viewport(), Qt::LeftButton, {},
-                          table()->visualItemRect(table()->item(row, 1)).center());
+                          table()->visualItemRect(event(row)).center());
     }
-    QAction* action(const char* text)
-    {
-        for (QAction* candidate : table()->actions()) {
-            if (candidate->text() == QLatin1String(text)) {
-                return candidate;
-            }
-        }
-        return nullptr;
-    }
+    /// An action of the menu: copy, save, show in the graph.
+    QAction* action(int index) { return table()->actions().at(index); }
 
     QTemporaryDir folder;
     FakeDialogs dialogs;
@@ -127,30 +114,36 @@ using LampListTest = EventListTest<DialogDataWarning>;
 
 TEST_F(LimitListTest, ListsEventsAndKeepsThemInTheRecord)
 {
-    for (int i = 0; i < 2; ++i) { // refilled, not added to
-        show(eventfulRecord());
-        EXPECT_EQ(rowsOf(*table()), "00:00:10.000 | Lane A Oil 95.0 oil view\n"
-                                    "00:00:20.000 | Lane A Oil 120.0 oil view\n"
-                                    "00:00:40.047 | Lane A Oil 95.0 oil view");
-        EXPECT_EQ(data->limits.size(), 3U);
-        EXPECT_TRUE(data->warnings.empty()) << "those are the other list's";
-    }
+    show(eventfulRecord());
+    view.updateProfile(); // refilled, not added to
     EXPECT_EQ(headingsOf(*table()), "Time | Warning/Limit Exceed");
+    EXPECT_EQ(rowsOf(*table()), "00:00:10.000 | Lane A Oil 95.0 oil view\n"
+                                "00:00:20.000 | Lane A Oil 120.0 oil view\n"
+                                "00:00:40.047 | Lane A Oil 95.0 oil view");
+    EXPECT_EQ(data->limits.size(), 3U);
+    EXPECT_TRUE(data->warnings.empty()) << "those are the other list's";
+
+    data->cursorTime = 20.0;
+    ASSERT_TRUE(profileWithWarningAt(100).load(profile));
+    view.updateProfile(); // finds them again
+    EXPECT_EQ(rowsOf(*table()), "00:00:20.000 | Lane A Oil 120.0 oil view");
+    EXPECT_EQ(data->limits.size(), 1U);
+    EXPECT_EQ(selectedRow(), 0);
 }
 
-TEST_F(LampListTest, ListsLampsWithTheirMetricUnit)
+TEST_F(LampListTest, ListsLampsAndKeepsThemWhateverTheProfileSays)
 {
     show(eventfulRecord());
+    EXPECT_EQ(headingsOf(*table()), "Time | Warning Lamps");
+    profile.clear();
+    view.updateProfile();
     EXPECT_EQ(rowsOf(*table()), "00:00:10.000 | Lane A Fire 1: amber lamp\n"
                                 "00:00:20.000 | Lane A Fire 2: red lamp\n"
                                 "00:00:30.000 | Lane A Fire 3: test lamp");
     EXPECT_EQ(data->warnings.size(), 3U);
     EXPECT_TRUE(data->limits.empty());
-
-    RecordBuilder dark;
-    dark.at(0).id(kLamp).bshortValue(0);
-    show(dark);
-    EXPECT_EQ(hint(), QStringLiteral("No warning lamp was lit in this record."));
+    show(eventfulRecord());
+    EXPECT_EQ(hint().substr(0, 47), "No parameter profile was installed when this re");
 }
 
 TEST_F(LimitListTest, RowsAndTimesFitAnyFont)
@@ -164,21 +157,21 @@ TEST_F(LimitListTest, RowsAndTimesFitAnyFont)
         const int text = metrics.horizontalAdvance(QStringLiteral("00:00:10.000"));
         EXPECT_GT(table()->columnWidth(0), std::max(text, 79)) << pixels;
     }
-    EXPECT_GE(table()->columnWidth(0) + table()->columnWidth(1), table()->viewport()->width());
 }
 
 TEST_F(LimitListTest, ANarrowPaneScrollsInsteadOfCuttingValuesOff)
 {
     show(eventfulRecord());
-    const QString longest = table()->item(1, 1)->text();
-    view.resize(160, 120);
+    const QString longest = event(1)->text();
+    view.resize(140, 120);
     QApplication::processEvents();
     EXPECT_GT(table()->columnWidth(1), table()->fontMetrics().horizontalAdvance(longest));
-    table()->horizontalScrollBar()->setValue(50);
+    QScrollBar* bar = table()->horizontalScrollBar();
+    bar->setValue(30);
     view.setTime(45.0);
-    EXPECT_EQ(table()->horizontalScrollBar()->value(), 50) << "the cursor moves rows only";
+    EXPECT_EQ(bar->value(), 30) << "the cursor moves rows only";
     click(0);
-    EXPECT_EQ(table()->horizontalScrollBar()->value(), 50) << "and so does the user";
+    EXPECT_EQ(bar->value(), 30) << "and so does the user";
     view.resize(500, 120);
     QApplication::processEvents();
     EXPECT_EQ(table()->columnWidth(0) + table()->columnWidth(1), table()->viewport()->width());
@@ -186,34 +179,13 @@ TEST_F(LimitListTest, ANarrowPaneScrollsInsteadOfCuttingValuesOff)
 
 TEST_F(LampListTest, ColoursTintTheRowAndLeaveTheTextReadable)
 {
-    struct Row
-    {
-        int row;
-        QColor ground; ///< invalid: none
-    };
-    const Row lamps[] = {{0, QColor(255, 150, 100, 60)}, {1, QColor(255, 100, 100, 60)}, {2, {}}};
     for (const Palette::Look look : {Palette::Look::Light, Palette::Look::Dark}) {
         Palette::apply(*qApp, look);
         show(eventfulRecord());
         EXPECT_EQ(table()->item(0, 0)->background().color(), QColor(230, 230, 230));
-        EXPECT_GE(
-            Palette::contrast(table()->item(0, 0)->foreground().color(), QColor(230, 230, 230)),
-            4.5);
-        for (const auto& [row, ground] : lamps) {
-            const QTableWidgetItem* item = table()->item(row, 1);
-            EXPECT_EQ(item->data(Qt::BackgroundRole).isValid(), ground.isValid()) << row;
-            if (!ground.isValid()) {
-                continue;
-            }
-            EXPECT_EQ(item->background().color(), ground) << row;
-            QPixmap pixel(1, 1);
-            pixel.fill(Palette::current().surface);
-            QPainter(&pixel).fillRect(0, 0, 1, 1, item->background());
-            EXPECT_GE(
-                Palette::contrast(item->foreground().color(), pixel.toImage().pixelColor(0, 0)),
-                4.5)
-                << row;
-        }
+        EXPECT_EQ(event(0)->background().color(), QColor(255, 150, 100, 60));
+        EXPECT_EQ(event(0)->foreground().color().lightness() > 128, look == Palette::Look::Dark);
+        EXPECT_FALSE(event(2)->data(Qt::BackgroundRole).isValid()) << "no colour, no tint";
     }
     Palette::apply(*qApp, Palette::Look::Light);
 }
@@ -222,21 +194,21 @@ TEST_F(LampListTest, TheSelectedRowKeepsItsColourInSight)
 {
     show(eventfulRecord());
     view.setTime(20.0);
-    const QImage picture = table()->viewport()->grab().toImage();
-    const auto groundOf = [&](int row, int fromLeft) {
-        const QRect cell = table()->visualItemRect(table()->item(row, 1));
-        return picture.pixelColor(cell.left() + fromLeft, cell.center().y());
+    const QImage image = table()->viewport()->grab().toImage();
+    const auto background = [&](int row, int fromLeft) {
+        const QRect cell = table()->visualItemRect(event(row));
+        return image.pixelColor(cell.left() + fromLeft, cell.center().y());
     };
-    EXPECT_EQ(groundOf(1, 2), QColor(255, 100, 100));
-    EXPECT_EQ(groundOf(1, 200), QColor(100, 100, 255));
-    EXPECT_EQ(groundOf(0, 2), groundOf(0, 200)) << "others are tinted as a whole";
+    EXPECT_EQ(background(1, 2), QColor(255, 100, 100));
+    EXPECT_EQ(background(1, 200), QColor(100, 100, 255));
+    EXPECT_EQ(background(0, 2), background(0, 200)) << "others are tinted as a whole";
 }
 
 TEST_F(LimitListTest, TheCursorSelectsTheEventAtOrBeforeIt)
 {
     RecordBuilder record = eventfulRecord();
     record.at(60).id(kOil).floatValue(20);
-    record.at(70.01).id(kOil).floatValue(95).at(70.02).id(kOil).floatValue(120);
+    record.at(70.01).floatValue(95).at(70.02).floatValue(120);
     show(record); // two events in the tenth of a second at 70 s
     const QSignalSpy moved(&view, &DialogDataEvents::signalTime);
     const std::pair<double, int> cases[] = {
@@ -252,23 +224,25 @@ TEST_F(LimitListTest, TheCursorSelectsTheEventAtOrBeforeIt)
 TEST_F(LimitListTest, TheRowOfTheCursorIsCentred)
 {
     RecordBuilder record;
+    record.id(kOil);
     for (int second = 0; second < 400; ++second) {
-        record.at(second).id(kOil).floatValue(second % 2 == 0 ? 20.0F : 95.0F);
+        record.at(second).floatValue(second % 2 == 0 ? 20.0F : 95.0F);
     }
     show(record);
+    const auto expectCentred = [this](int row) {
+        const QRect shown = table()->visualItemRect(event(row));
+        EXPECT_NEAR(shown.center().y(), table()->viewport()->height() / 2.0, shown.height()) << row;
+    };
     for (const int row : {100, 50, 150}) {
         view.setTime(2 * row + 1);
-        const QRect shown = table()->visualItemRect(table()->item(row, 0));
-        EXPECT_NEAR(shown.center().y(), table()->viewport()->height() / 2.0, shown.height()) << row;
+        expectCentred(row);
     }
     QTest::keyClick(table(), Qt::Key_Home, Qt::ControlModifier);
     EXPECT_EQ(table()->verticalScrollBar()->value(), 0);
     for (int i = 0; i < 30; ++i) {
         QTest::keyClick(table(), Qt::Key_Down);
     }
-    EXPECT_EQ(selectedRow(), 30);
-    EXPECT_EQ(table()->visualItemRect(table()->item(30, 0)).bottom() + 2,
-              table()->viewport()->height())
+    EXPECT_EQ(table()->visualItemRect(event(30)).bottom() + 2, table()->viewport()->height())
         << "just in sight";
 
     view.hide();
@@ -276,8 +250,7 @@ TEST_F(LimitListTest, TheRowOfTheCursorIsCentred)
     view.show();
     view.resize(500, 300);
     QApplication::processEvents();
-    const QRect shown = table()->visualItemRect(table()->item(20, 0));
-    EXPECT_NEAR(shown.center().y(), table()->viewport()->height() / 2.0, shown.height());
+    expectCentred(20);
 }
 
 TEST_F(LimitListTest, ASelectedRowMovesTheCursorToItsTimeInWholeMilliseconds)
@@ -292,107 +265,68 @@ TEST_F(LimitListTest, ASelectedRowMovesTheCursorToItsTimeInWholeMilliseconds)
     ASSERT_EQ(moved.count(), 1);
     EXPECT_EQ(moved.at(0).at(0).toDouble(), 40047 * 0.001) << "truncated, not rounded";
     EXPECT_EQ(selectedRow(), 2);
-    QTest::keyClick(table(), Qt::Key_Up);
-    ASSERT_EQ(moved.count(), 2);
-    EXPECT_EQ(moved.at(1).at(0).toDouble(), 20.0);
-    click(1); // it is selected already
+    click(2); // it is selected already
     view.clear();
-    EXPECT_EQ(moved.count(), 2);
-}
-
-TEST_F(LimitListTest, NoRecordLeavesTheRowsUntilTheListIsCleared)
-{
-    EXPECT_EQ(hint().left(16), QStringLiteral("No record loaded"));
-    show(eventfulRecord());
-    EXPECT_EQ(hint(), QString());
-    view.updateRecord(nullptr);
-    data.reset(); // what the rows show must not be read from it
-    EXPECT_EQ(table()->rowCount(), 3);
-    EXPECT_EQ(table()->item(1, 1)->text(), QStringLiteral("Lane A Oil 120.0 oil view"));
-    EXPECT_EQ(rowAt(25.0), 0);
-    view.updateProfile();
-    EXPECT_EQ(table()->rowCount(), 3);
-    view.clear();
-    EXPECT_EQ(hint().left(16), QStringLiteral("No record loaded"));
+    EXPECT_EQ(moved.count(), 1);
 }
 
 TEST_F(LimitListTest, AnEmptyListSaysWhy)
 {
-    RecordBuilder cold;
-    cold.at(0).id(kOil).floatValue(20).at(1).floatValue(21);
-    show(cold);
-    EXPECT_EQ(hint(), QStringLiteral("No limit or warning exceeded in this record."));
+    EXPECT_EQ(hint().substr(0, 16), "No record loaded");
+    show(eventfulRecord());
+    EXPECT_EQ(hint(), "");
+    view.updateRecord(nullptr);
+    data.reset(); // what the rows show must not be read from it
+    view.updateProfile();
+    EXPECT_EQ(event(1)->text(), QStringLiteral("Lane A Oil 120.0 oil view"))
+        << "until it is cleared";
+    EXPECT_EQ(rowAt(25.0), 0);
+    view.clear();
+    EXPECT_EQ(hint().substr(0, 16), "No record loaded");
+
+    show(RecordBuilder().at(0).id(kOil).floatValue(20));
+    EXPECT_EQ(hint(), "No limit or warning exceeded in this record.");
     EXPECT_EQ(rowAt(0.5), -1);
     profile.clear();
     view.updateProfile();
-    EXPECT_EQ(hint(),
-              QStringLiteral("No parameter profile is installed, so limits cannot be judged."));
-}
-
-TEST_F(LimitListTest, AProfileChangeFindsTheEventsAgain)
-{
-    show(eventfulRecord());
-    view.setTime(20.0);
-    data->cursorTime = 20.0;
-    ASSERT_TRUE(profileWithWarningAt(100).load(profile));
-    view.updateProfile();
-    EXPECT_EQ(rowsOf(*table()), "00:00:20.000 | Lane A Oil 120.0 oil view");
-    EXPECT_EQ(data->limits.size(), 1U);
-    EXPECT_EQ(selectedRow(), 0);
-}
-
-TEST_F(LampListTest, AProfileChangeLeavesTheLampsAsTheyWere)
-{
-    show(eventfulRecord());
-    const std::string before = rowsOf(*table());
-    profile.clear();
-    view.updateProfile();
-    EXPECT_EQ(rowsOf(*table()), before);
-    EXPECT_EQ(data->warnings.size(), 3U);
-    show(eventfulRecord());
-    EXPECT_EQ(table()->rowCount(), 0) << "the next record is judged by the new profile";
-    EXPECT_EQ(hint().left(47), QStringLiteral("No parameter profile was installed when this re"));
+    EXPECT_EQ(hint(), "No parameter profile is installed, so limits cannot be judged.");
 }
 
 TEST_F(LimitListTest, TheMenuCopiesARowAndShowsItInTheGraph)
 {
     show(eventfulRecord());
     view.setTime(45.0);
-    action("Copy")->trigger();
+    action(0)->trigger();
     EXPECT_EQ(QApplication::clipboard()->text(),
               QStringLiteral("Time\tWarning/Limit Exceed\n00:00:40.047\tLane A Oil 95.0 oil view"));
 
-    EXPECT_FALSE(action("Show in graph")->isVisible()) << "nobody listens yet";
+    EXPECT_FALSE(action(2)->isVisible()) << "nothing is connected yet";
     double time = 0.0;
     QObject::connect(&view, &DialogDataEvents::signalShowInGraph, &view,
                      [&time](double seconds) { time = seconds; });
-    EXPECT_TRUE(action("Show in graph")->isVisible());
-    action("Show in graph")->trigger();
+    EXPECT_TRUE(action(2)->isVisible());
+    action(2)->trigger();
     EXPECT_EQ(time, 40047 * 0.001);
 }
 
-TEST_F(LimitListTest, TheListIsSavedAsATableAndFailuresAreTold)
+TEST_F(LimitListTest, TheListIsSavedAndFailuresAreReported)
 {
     show(eventfulRecord());
     QSignalSpy notices(&view, &DialogDataEvents::signalNotice);
-    const auto save = [&](const QString& file) {
+    const auto noticeAfterSaving = [&](const QString& file) {
         dialogs.file = file;
-        action("Save as CSV ...")->trigger();
+        action(1)->trigger();
         return notices.isEmpty() ? QString() : notices.takeLast().first().toString();
     };
-    EXPECT_EQ(save({}), QString()) << "cancelled";
+    EXPECT_EQ(noticeAfterSaving({}), QString()) << "cancelled";
     EXPECT_TRUE(dialogs.lastStart.endsWith(QStringLiteral("/VelixLimits.csv")));
 
     const QString file = folder.filePath(QStringLiteral("list.csv"));
-    EXPECT_TRUE(save(file).contains(file));
-    EXPECT_EQ(readFile(file).toStdString(), "Time;Parameter;Value\n"
-                                            "00:00:10.000;Lane A Oil;95.0 oil view\n"
-                                            "00:00:20.000;Lane A Oil;120.0 oil view\n"
-                                            "00:00:40.047;Lane A Oil;95.0 oil view\n");
-    EXPECT_TRUE(save(QStringLiteral("/dev/full")).contains(QStringLiteral("No space left")));
-    EXPECT_EQ(dialogs.lastStart, folder.filePath(QStringLiteral("VelixLimits.csv")));
-    EXPECT_TRUE(save(folder.filePath(QStringLiteral("missing/list.csv")))
+    EXPECT_TRUE(noticeAfterSaving(file).contains(file));
+    EXPECT_EQ(readFile(file).count('\n'), 4) << "the headings and three events";
+    EXPECT_TRUE(noticeAfterSaving(folder.filePath(QStringLiteral("missing/list.csv")))
                     .contains(QStringLiteral("could not be saved")));
+    EXPECT_EQ(dialogs.lastStart, folder.filePath(QStringLiteral("VelixLimits.csv")));
 }
 
 } // namespace

@@ -72,20 +72,20 @@ TEST_F(WidgetErrorTimeTest, HasABandForEachTypeAndTheCursor)
                 {816, 25, white}, {288, 10, grey},    {672, 20, grey},  {288, 0, grey},
                 {288, 29, grey},  {480, 0, black},    {480, 29, black}, {0, 14, grey},
                 {959, 14, grey},  {191, 5, white},    {192, 5, fault}};
-    QImage picture = bar.grab().toImage();
+    QImage image = bar.grab().toImage();
     for (const auto& row : rows) {
-        EXPECT_EQ(picture.pixelColor(row.x, row.y), row.color) << row.x << " " << row.y;
+        EXPECT_EQ(image.pixelColor(row.x, row.y), row.color) << row.x << " " << row.y;
     }
     for (const double outside : {-10.0, 1000.0, 1e300}) {
         bar.setTime(outside);
-        picture = bar.grab().toImage();
+        image = bar.grab().toImage();
         for (int x = 0; x < kWidth; ++x) {
-            ASSERT_NE(picture.pixelColor(x, 14), black) << outside;
+            ASSERT_NE(image.pixelColor(x, 14), black) << outside;
         }
     }
 }
 
-TEST_F(WidgetErrorTimeTest, TellsTimeAndNames)
+TEST_F(WidgetErrorTimeTest, TipsSayTimeAndNames)
 {
     load({{20, 0xFFFFFFFFU}, {40, 0}, {60, 0x00000001U}, {90, 0}});
     const auto tip = [this](int x) {

@@ -12,49 +12,36 @@ struct ReplayClockTest : ::testing::Test
     ReplayClock clock{[this] { return now; }};
 
     void SetUp() override { clock.setRecord(100.0, 160.0); }
-    bool tickAfter(double seconds)
+    /// The cursor after some seconds within the record.
+    double cursorAfter(double seconds)
     {
         now += seconds;
-        return clock.tick();
+        EXPECT_FALSE(clock.tick());
+        return clock.cursor();
     }
 };
 
-TEST_F(ReplayClockTest, StepsFollowTheTimeThatReallyPassed)
+TEST_F(ReplayClockTest, StepsFollowTheTimeThatReallyPassedWhileItRuns)
 {
     clock.toggle();
     EXPECT_EQ(clock.state(), eReplayRunning);
-    EXPECT_FALSE(tickAfter(0.02));
-    EXPECT_NEAR(clock.cursor(), 100.02, 1e-9);
-    EXPECT_FALSE(tickAfter(0.75)); // a busy machine
-    EXPECT_NEAR(clock.cursor(), 100.77, 1e-9);
-}
-
-TEST_F(ReplayClockTest, PausingLeavesNoJump)
-{
-    clock.toggle();
-    EXPECT_FALSE(tickAfter(1.0));
+    EXPECT_NEAR(cursorAfter(0.02), 100.02, 1e-9);
+    EXPECT_NEAR(cursorAfter(0.75), 100.77, 1e-9) << "a busy machine";
     clock.toggle();
     EXPECT_EQ(clock.state(), eReplayPaused);
     now += 3600.0;
     clock.toggle();
     EXPECT_EQ(clock.state(), eReplayRunning);
-    EXPECT_FALSE(tickAfter(0.5));
-    EXPECT_NEAR(clock.cursor(), 101.5, 1e-9);
-}
-
-TEST_F(ReplayClockTest, SpeedScalesAStep)
-{
     clock.setSpeed(100.0);
-    clock.toggle();
-    EXPECT_FALSE(tickAfter(0.02));
-    EXPECT_NEAR(clock.cursor(), 102.0, 1e-9);
+    EXPECT_NEAR(cursorAfter(0.02), 102.77, 1e-9);
 }
 
 TEST_F(ReplayClockTest, EndIsReportedOnlyBeyondTheLastSample)
 {
     clock.toggle();
-    EXPECT_FALSE(tickAfter(60.0));
-    EXPECT_TRUE(tickAfter(0.02));
+    EXPECT_EQ(cursorAfter(60.0), 160.0);
+    now += 0.02;
+    EXPECT_TRUE(clock.tick());
     clock.rewind();
     EXPECT_EQ(clock.state(), eReplayStopped);
     EXPECT_EQ(clock.cursor(), 100.0);
@@ -63,23 +50,20 @@ TEST_F(ReplayClockTest, EndIsReportedOnlyBeyondTheLastSample)
 TEST_F(ReplayClockTest, ARunningReplayGoesOnWithTheNextRecordFromItsStart)
 {
     clock.toggle();
-    EXPECT_FALSE(tickAfter(30.0));
+    cursorAfter(30.0);
     now += 12.0; // loading
     clock.setRecord(7.0, 20.0);
     EXPECT_EQ(clock.state(), eReplayRunning);
-    EXPECT_FALSE(tickAfter(0.5));
-    EXPECT_NEAR(clock.cursor(), 7.5, 1e-9);
+    EXPECT_NEAR(cursorAfter(0.5), 7.5, 1e-9);
 }
 
 TEST_F(ReplayClockTest, StepsByKeyStayInTheRecord)
 {
-    clock.step(-1.0);
-    EXPECT_EQ(clock.cursor(), 100.0);
-    clock.step(10.0);
-    EXPECT_EQ(clock.cursor(), 110.0);
-    clock.setCursor(159.5);
-    clock.step(1.0);
-    EXPECT_EQ(clock.cursor(), 160.0);
+    for (const auto& [step, cursor] :
+         {std::pair(-1.0, 100.0), {10.0, 110.0}, {49.5, 159.5}, {1.0, 160.0}}) {
+        clock.step(step);
+        EXPECT_EQ(clock.cursor(), cursor);
+    }
 }
 
 } // namespace

@@ -6,82 +6,54 @@
 #include <gtest/gtest.h>
 
 #include <deque>
-#include <string>
+#include <sstream>
 
 namespace VELIX {
 namespace {
 
-/// Notes its name whenever it is called.
-class FakeView : public DataView
+/// Writes down every call.
+struct NotingView : DataView
 {
-public:
-    FakeView(std::string name, std::string& log) : mName(std::move(name)), mLog(log) {}
-    void setTime(double seconds) override
-    {
-        note();
-        mTime = seconds;
-    }
-    void updateRecord(RecordData* record) override
-    {
-        note();
-        mRecord = record;
-    }
-    void updateProfile() override { note(); }
+    NotingView(const char* viewName, std::ostream& sharedLog) : name(viewName), log(sharedLog) {}
+    void setTime(double seconds) override { log << name << seconds << ' '; }
+    void updateRecord(RecordData* record) override { log << name << (record ? "+ " : "- "); }
+    void updateProfile() override { log << name << ' '; }
 
-    double mTime = -1.0;
-    RecordData* mRecord = nullptr;
-
-private:
-    void note() { mLog += (mLog.empty() ? "" : " ") + mName; }
-
-    std::string mName;
-    std::string& mLog;
+    const char* name;
+    std::ostream& log;
 };
 
-struct CursorRoutesTest : ::testing::Test
+TEST(CursorRoutesTest, ChangesReachTheViewsThatFollowThemInOrder)
 {
-    CursorRoutesTest()
-    {
-        const char* names[kViewCount] = {"table", "graph",   "instrument", "matrix",
-                                         "limit", "warning", "statistic",  "map"};
-        for (std::size_t i = 0; i < kViewCount; ++i) {
-            routes.setView(static_cast<EView>(i), views.emplace_back(names[i], log));
-        }
-    }
-    std::string reached(ECursorSource source)
-    {
-        log.clear();
-        routes.setTime(source, 12.5);
-        return log;
-    }
-
-    std::string log;
-    std::deque<FakeView> views;
+    std::ostringstream log;
+    std::deque<NotingView> views;
     CursorRoutes routes;
-};
-
-TEST_F(CursorRoutesTest, EachSourceReachesItsViewsInOrder)
-{
-    const char* everywhere = "table graph instrument matrix limit warning map";
-    EXPECT_EQ(reached(ECursorSource::Replay), everywhere);
-    EXPECT_EQ(reached(ECursorSource::TimeEdit), everywhere);
-    EXPECT_EQ(reached(ECursorSource::Graph), "table instrument matrix limit warning map");
-    EXPECT_EQ(reached(ECursorSource::Table), "graph instrument matrix limit warning map");
-    EXPECT_EQ(reached(ECursorSource::LimitList), "graph instrument matrix table warning map");
-    EXPECT_EQ(reached(ECursorSource::WarningList), "graph instrument matrix table limit");
-    EXPECT_EQ(reached(ECursorSource::Reload), "table instrument graph matrix limit warning map");
-    EXPECT_EQ(views.front().mTime, 12.5);
-}
-
-TEST_F(CursorRoutesTest, RecordAndProfileReachTheirViewsInOrder)
-{
+    const char* names[kViewCount] = {"table", "graph", "panel",     "matrix",
+                                     "limit", "lamps", "statistic", "map"};
+    for (std::size_t i = 0; i < kViewCount; ++i) {
+        routes.setView(static_cast<EView>(i), views.emplace_back(names[i], log));
+    }
+    const auto noted = [&log](auto change) {
+        log.str({});
+        change();
+        return log.str();
+    };
+    const std::pair<ECursorSource, const char*> rows[] = {
+        {ECursorSource::Replay, "table7 graph7 panel7 matrix7 limit7 lamps7 map7 "},
+        {ECursorSource::TimeEdit, "table7 graph7 panel7 matrix7 limit7 lamps7 map7 "},
+        {ECursorSource::Graph, "table7 panel7 matrix7 limit7 lamps7 map7 "},
+        {ECursorSource::Table, "graph7 panel7 matrix7 limit7 lamps7 map7 "},
+        {ECursorSource::LimitList, "graph7 panel7 matrix7 table7 lamps7 map7 "},
+        {ECursorSource::WarningList, "graph7 panel7 matrix7 table7 limit7 "},
+        {ECursorSource::Reload, "table7 panel7 graph7 matrix7 limit7 lamps7 map7 "},
+    };
+    for (const auto& [source, order] : rows) {
+        EXPECT_EQ(noted([&, from = source] { routes.setTime(from, 7.0); }), order);
+    }
     RecordData record;
-    routes.updateRecord(&record);
-    EXPECT_EQ(log, "table graph instrument matrix statistic limit warning map");
-    EXPECT_EQ(views.back().mRecord, &record);
-    log.clear();
-    routes.updateProfile();
-    EXPECT_EQ(log, "table graph matrix limit warning map instrument");
+    EXPECT_EQ(noted([&] { routes.updateRecord(&record); }),
+              "table+ graph+ panel+ matrix+ statistic+ limit+ lamps+ map+ ");
+    EXPECT_EQ(noted([&] { routes.updateProfile(); }), "table graph matrix limit lamps map panel ");
 }
 
 } // namespace
