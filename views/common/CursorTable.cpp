@@ -33,7 +33,7 @@ CursorTable::~CursorTable()
     verticalScrollBar()->disconnect(this); // the scroll bar outlives this part of the table
 }
 
-void CursorTable::moveCursor(int row)
+void CursorTable::selectAndCenter(int row)
 {
     mCursorRow = row;
     const QModelIndex cell = model()->index(row, 0);

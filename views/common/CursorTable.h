@@ -21,7 +21,7 @@ public:
     void setCursorRow(int row) { mCursorRow = row; }
     /// Selects a row and scrolls it to the middle, only up and down: what was scrolled aside to be
     /// read stays.
-    void moveCursor(int row);
+    void selectAndCenter(int row);
     /// Scrolls the row at the cursor to the middle.
     void centerCursor();
     /// Scrolls no farther than the row at the cursor needs to be seen.

@@ -110,7 +110,7 @@ void DialogDataEvents::setTime(double seconds)
     const QScopedValueRollback<bool> busy(mBusy, true);
     const auto above = mKeyToRow.upper_bound(timeKey(seconds));
     const std::uint32_t row = above == mKeyToRow.begin() ? 0 : std::prev(above)->second;
-    mTable->moveCursor(static_cast<int>(row));
+    mTable->selectAndCenter(static_cast<int>(row));
 }
 
 void DialogDataEvents::updateRecord(RecordData* record)

@@ -73,7 +73,7 @@ void DialogDataTable::setTime(double seconds)
         return;
     }
     const QScopedValueRollback<bool> selecting(mSelecting, true);
-    mTable->moveCursor(static_cast<int>(mRows.rowAt(timeKey(seconds))));
+    mTable->selectAndCenter(static_cast<int>(mRows.rowAt(timeKey(seconds))));
 }
 
 void DialogDataTable::updateRecord(RecordData* record)
