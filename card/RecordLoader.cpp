@@ -1,6 +1,5 @@
 #include "card/RecordLoader.h"
 
-#include "card/CardContainer.h"
 #include "card/RecordData.h"
 #include "card/RecordFile.h"
 #include "core/Diagnostics.h"
@@ -100,7 +99,7 @@ bool RecordLoader::read(const Source& source, RecordData& data)
     if (!complete) {
         const QString text = known ? tr("The file %1 could not be read completely.")
                                    : tr("The card has no file %1.");
-        mProblem = text.arg(CardContainer::name(source.name));
+        mProblem = text.arg(source.name.section(QLatin1Char('/'), -1));
     }
     return complete;
 }
