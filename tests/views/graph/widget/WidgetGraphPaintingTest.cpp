@@ -171,7 +171,7 @@ QImage busyFrame()
     fixture.graph.setCursorPosition(30.0);
     fixture.graph.setMarker(20.0, 60.0);
     fixture.graph.activateSamples(1, true);
-    const QImage image = fixture.paint();
+    QImage image = fixture.paint();
     fixture.graph.makeCurrent();
     EXPECT_EQ(fixture.graph.context()->functions()->glGetError(), unsigned{GL_NO_ERROR});
     EXPECT_EQ(fixture.graph.context()->functions()->glIsEnabled(GL_SCISSOR_TEST), GL_FALSE);
