@@ -197,8 +197,10 @@ TEST_F(DialogDataViewTest, UnknownParametersGetAPanelOfTheirOwn)
 TEST_F(DialogDataViewTest, ManyParametersWithLongTextsGetAPanelAllTheSame)
 {
     const std::string label(500, '"');
+    constexpr int kLabels = 300;
     std::vector<std::pair<int, const char*>> labels;
-    for (int value = 0; value < 300; ++value) {
+    labels.reserve(kLabels);
+    for (int value = 0; value < kLabels; ++value) {
         labels.emplace_back(value, label.c_str());
     }
     ProfileBuilder builder;
