@@ -79,8 +79,8 @@ private:
     }
 };
 
-/// Runs `decode(profile, entry, parameter)` over the messages of a parameter again and again; the
-/// time of one message is the benchmark's.
+/// Runs `decode(decoder, sample)` over the messages of a parameter again and again; the time of one
+/// message, made a sample, is the benchmark's.
 template <class Decode>
 void overMessages(benchmark::State& state, EUnit unit, Decode decode)
 {
@@ -89,78 +89,62 @@ void overMessages(benchmark::State& state, EUnit unit, Decode decode)
     const ProfileParameter& p = fixture.parameter(id);
     const std::vector<RecordEntry>& messages = fixture.messages.at(id);
     fixture.profile.setCurrentUnit(unit);
+    CoordinateFilter filter;
     std::size_t i = 0;
     for (auto _ : state) {
-        decode(fixture.profile, messages[i++ % kMessages], p);
+        decode(fixture.profile.decoder(), ParameterSample(messages[i++ % kMessages], p, filter));
     }
     state.SetLabel(p.name.toStdString());
 }
 
+void decodeNumber(const ProfileDecoder& decoder, const ParameterSample& sample)
+{
+    int band = 0;
+    QColor color;
+    benchmark::DoNotOptimize(decoder.number(sample, band, color));
+    benchmark::DoNotOptimize(band);
+}
+
 void getDouble(benchmark::State& state)
 {
-    CoordinateFilter filter;
-    overMessages(
-        state, eUnitMetric,
-        [&filter](const Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
-            int band = 0;
-            QColor color;
-            benchmark::DoNotOptimize(
-                profile.decoder().number(ParameterSample(e, p, filter), band, color));
-            benchmark::DoNotOptimize(band);
-        });
+    overMessages(state, eUnitMetric, decodeNumber);
 }
 
 void getDoubleImperial(benchmark::State& state)
 {
-    CoordinateFilter filter;
-    overMessages(
-        state, eUnitImperial,
-        [&filter](const Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
-            int band = 0;
-            QColor color;
-            benchmark::DoNotOptimize(
-                profile.decoder().number(ParameterSample(e, p, filter), band, color));
-            benchmark::DoNotOptimize(band);
-        });
+    overMessages(state, eUnitImperial, decodeNumber);
 }
 
 void getDataState(benchmark::State& state)
 {
-    CoordinateFilter filter;
-    overMessages(
-        state, eUnitMetric,
-        [&filter](const Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
-            int band = 0;
-            QColor color;
-            profile.decoder().judge(ParameterSample(e, p, filter), band, color);
-            benchmark::DoNotOptimize(band);
-        });
+    overMessages(state, eUnitMetric,
+                 [](const ProfileDecoder& decoder, const ParameterSample& sample) {
+                     int band = 0;
+                     QColor color;
+                     decoder.judge(sample, band, color);
+                     benchmark::DoNotOptimize(band);
+                 });
 }
 
 void getDataString(benchmark::State& state)
 {
-    CoordinateFilter filter;
-    overMessages(
-        state, eUnitMetric,
-        [&filter](const Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
-            int band = 0;
-            QColor color;
-            benchmark::DoNotOptimize(
-                profile.decoder().text(ParameterSample(e, p, filter), band, color));
-        });
+    overMessages(state, eUnitMetric,
+                 [](const ProfileDecoder& decoder, const ParameterSample& sample) {
+                     int band = 0;
+                     QColor color;
+                     benchmark::DoNotOptimize(decoder.text(sample, band, color));
+                 });
 }
 
 void appendDataString(benchmark::State& state)
 {
     std::string text;
-    CoordinateFilter filter;
-    overMessages(
-        state, eUnitMetric,
-        [&text, &filter](const Profile& profile, const RecordEntry& e, const ProfileParameter& p) {
-            text.clear();
-            profile.decoder().appendText(ParameterSample(e, p, filter), text);
-            benchmark::DoNotOptimize(text.data());
-        });
+    overMessages(state, eUnitMetric,
+                 [&text](const ProfileDecoder& decoder, const ParameterSample& sample) {
+                     text.clear();
+                     decoder.appendText(sample, text);
+                     benchmark::DoNotOptimize(text.data());
+                 });
 }
 
 BENCHMARK(getDouble)->DenseRange(kFloat, kLatitude);
