@@ -2,7 +2,6 @@
 
 #include "platform/viewlib/ViewGeometry.h"
 
-#include <map>
 #include <memory>
 #include <utility>
 
@@ -14,17 +13,31 @@ constexpr double kLargest = 1e12; // of the values of a scale
 
 } // namespace
 
+const std::map<QString, ViewInstrumentReader::Line>& ViewInstrumentReader::lines()
+{
+    using Self = ViewInstrumentReader;
+    static const std::set<Owner> scaled = {Owner::Scales, Owner::Instrument};
+    static const std::map<QString, Line> all = {
+        {QStringLiteral("scale"), {&Self::readScale, scaled}},
+        {QStringLiteral("band"), {&Self::readBand, scaled}},
+        {QStringLiteral("mark"), {&Self::readMark, scaled}},
+        {QStringLiteral("number"), {&Self::readNumber, {Owner::Instrument}}},
+        {QStringLiteral("unit"), {&Self::readUnit, {Owner::Instrument}}},
+        {QStringLiteral("case"), {&Self::readCase, {Owner::Lamp, Owner::Instrument}}}};
+    return all;
+}
+
+bool ViewInstrumentReader::knows(Owner owner, const QString& word)
+{
+    const auto line = lines().find(word);
+    return line != lines().end() && line->second.owners.count(owner) > 0;
+}
+
 void ViewInstrumentReader::read(const QString& word)
 {
-    using Reader = void (ViewInstrumentReader::*)();
-    static const std::map<QString, Reader> readers = {
-        {QStringLiteral("scale"), &ViewInstrumentReader::readScale},
-        {QStringLiteral("band"), &ViewInstrumentReader::readBand},
-        {QStringLiteral("mark"), &ViewInstrumentReader::readMark},
-        {QStringLiteral("number"), &ViewInstrumentReader::readNumber},
-        {QStringLiteral("unit"), &ViewInstrumentReader::readUnit},
-        {QStringLiteral("case"), &ViewInstrumentReader::readCase}};
-    (this->*readers.at(word))();
+    if (const auto line = lines().find(word); line != lines().end()) {
+        (this->*line->second.read)();
+    }
 }
 
 void ViewInstrumentReader::rangeOf(ViewScale& scale)

@@ -7,7 +7,7 @@
 #include "platform/viewlib/ViewVariables.h"
 
 #include <algorithm>
-#include <initializer_list>
+#include <map>
 #include <optional>
 #include <utility>
 
@@ -66,29 +66,27 @@ void ViewReader::read(const QByteArray& text)
 /// Null for a word that means nothing in such a block.
 ViewReader::Handler ViewReader::handlerOf(Block::Kind kind, const QString& word)
 {
-    const auto among = [&word](std::initializer_list<const char*> words) {
-        return std::any_of(words.begin(), words.end(),
-                           [&word](const char* one) { return word == QLatin1String(one); });
-    };
-    const auto of = [](bool isKnown, Handler handler) { return isKnown ? handler : nullptr; };
-    switch (kind) {
-    case Block::Kind::Lamp:
-        return of(among({"case"}), &ViewReader::readInstrumentLine);
-    case Block::Kind::Scales:
-        return of(among({"scale", "band", "mark"}), &ViewReader::readInstrumentLine);
-    case Block::Kind::Instrument:
-        return of(among({"scale", "band", "mark", "number", "unit", "case"}),
-                  &ViewReader::readInstrumentLine);
-    default:
-        break;
+    using Owner = ViewInstrumentReader::Owner;
+    static const std::map<Block::Kind, Owner> owners = {
+        {Block::Kind::Scales, Owner::Scales},
+        {Block::Kind::Lamp, Owner::Lamp},
+        {Block::Kind::Instrument, Owner::Instrument}};
+    static const std::map<QString, Handler> ofFile = {
+        {QStringLiteral("view"), &ViewReader::readView},
+        {QStringLiteral("colors"), &ViewReader::readColors},
+        {QStringLiteral("scales"), &ViewReader::readScales}};
+    if (const auto owner = owners.find(kind); owner != owners.end()) {
+        return ViewInstrumentReader::knows(owner->second, word) ? &ViewReader::readInstrumentLine
+                                                                : nullptr;
     }
-    if (kind == Block::Kind::File && among({"view", "colors", "scales"})) {
-        return word == QLatin1String("view")     ? &ViewReader::readView
-               : word == QLatin1String("colors") ? &ViewReader::readColors
-                                                 : &ViewReader::readScales;
+    if (const auto handler = ofFile.find(word);
+        kind == Block::Kind::File && handler != ofFile.end()) {
+        return handler->second;
     }
-    return word == QLatin1String("group") ? &ViewReader::readGroup
-                                          : of(isShape(word), &ViewReader::readElement);
+    if (word == QLatin1String("group")) {
+        return &ViewReader::readGroup;
+    }
+    return shapeReader(word) != nullptr ? &ViewReader::readElement : nullptr;
 }
 
 void ViewReader::readStatement(ViewStatement& statement)
@@ -291,7 +289,7 @@ void ViewReader::readGroup(ViewStatement& statement, ViewParts& parts)
 
 void ViewReader::readElement(ViewStatement& statement, ViewParts& parts)
 {
-    if (std::optional<ViewShape> shape = readShape(statement.word(), parts)) {
+    if (std::optional<ViewShape> shape = shapeReader(statement.word())(parts)) {
         add(statement, parts, std::move(*shape));
     }
 }

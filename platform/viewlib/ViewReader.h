@@ -7,7 +7,6 @@
 
 #include <QByteArray>
 
-#include <map>
 #include <vector>
 
 namespace Vista2D {

@@ -2,12 +2,22 @@
 
 #include "platform/viewlib/ViewParts.h"
 
-#include <map>
+#include <QHash>
+
 #include <utility>
 
 namespace Vista2D {
 
 namespace {
+
+/// Reads between which angles an arc runs, in degrees; without the attribute they stay.
+void readSweep(ViewAttributes& attributes, double& start, double& end)
+{
+    QPointF sweep(start, end);
+    attributes.pair("sweep", sweep, -360.0, 360.0);
+    start = sweep.x();
+    end = sweep.y();
+}
 
 std::optional<ViewShape> readGauge(ViewParts& parts)
 {
@@ -18,10 +28,7 @@ std::optional<ViewShape> readGauge(ViewParts& parts)
     const bool hasPlace = parts.place("at", gauge.center);
     const bool hasRadius = attributes.require(
         attributes.number("radius", gauge.radius, 1.0, ViewParts::kFarthest), "radius");
-    QPointF sweep(gauge.start, gauge.end);
-    attributes.pair("sweep", sweep, -360.0, 360.0);
-    gauge.start = sweep.x();
-    gauge.end = sweep.y();
+    readSweep(attributes, gauge.start, gauge.end);
     attributes.number("width", gauge.width, 0.0, ViewParts::kFarthest);
     attributes.number("fill", gauge.fill, 0.0, ViewParts::kFarthest);
     attributes.number("tick", gauge.tick, 0.0, ViewParts::kFarthest);
@@ -138,10 +145,7 @@ std::optional<ViewShape> readArc(ViewParts& parts)
     arc.color = parts.colors().line;
     attributes.color("color", arc.color);
     attributes.number("width", arc.width, 0.0, ViewParts::kFarthest);
-    QPointF sweep(arc.start, arc.end);
-    attributes.pair("sweep", sweep, -360.0, 360.0);
-    arc.start = sweep.x();
-    arc.end = sweep.y();
+    readSweep(attributes, arc.start, arc.end);
     const bool hasRadius = attributes.require(
         attributes.number("radius", arc.radius, 0.0, ViewParts::kFarthest), "radius");
     if (parts.place("at", arc.center) && hasRadius) {
@@ -150,28 +154,16 @@ std::optional<ViewShape> readArc(ViewParts& parts)
     return std::nullopt;
 }
 
-using Reader = std::optional<ViewShape> (*)(ViewParts& parts);
+} // namespace
 
-const std::map<QString, Reader>& readers()
+ShapeReader shapeReader(const QString& word)
 {
-    static const std::map<QString, Reader> all = {
+    static const QHash<QString, ShapeReader> readers = {
         {QStringLiteral("gauge"), readGauge}, {QStringLiteral("bar"), readBar},
         {QStringLiteral("value"), readValue}, {QStringLiteral("lamp"), readLamp},
         {QStringLiteral("label"), readLabel}, {QStringLiteral("rectangle"), readRectangle},
         {QStringLiteral("line"), readLine},   {QStringLiteral("arc"), readArc}};
-    return all;
-}
-
-} // namespace
-
-bool isShape(const QString& word)
-{
-    return readers().count(word) > 0;
-}
-
-std::optional<ViewShape> readShape(const QString& word, ViewParts& parts)
-{
-    return readers().at(word)(parts);
+    return readers.value(word, nullptr);
 }
 
 } // namespace Vista2D

@@ -10,11 +10,10 @@ namespace Vista2D {
 
 class ViewParts;
 
-/// Whether a statement that begins with the word describes something to draw.
-[[nodiscard]] bool isShape(const QString& word);
+/// Reads what a statement draws; none if something is missing without which it cannot be drawn.
+using ShapeReader = std::optional<ViewShape> (*)(ViewParts& parts);
 
-/// Reads what a statement of such a word draws; none if something is missing without which it
-/// cannot be drawn.
-[[nodiscard]] std::optional<ViewShape> readShape(const QString& word, ViewParts& parts);
+/// The reader of statements that begin with the word; null if the word describes nothing to draw.
+[[nodiscard]] ShapeReader shapeReader(const QString& word);
 
 } // namespace Vista2D

@@ -49,7 +49,8 @@ public:
     /// Takes the layout that is largest in so much room, in any unit, if the description has
     /// several, and sets the variables TALL and LOW to 0 or 1.
     void setRoom(double width, double height);
-    /// Return view units, of the layout in use; 0 before a description was loaded.
+    /// Return the size of the panel in view units, of the layout in use; 0 before a description was
+    /// loaded.
     [[nodiscard]] double width() const;
     [[nodiscard]] double height() const;
 
