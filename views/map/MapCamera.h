@@ -33,7 +33,8 @@ public:
     /// Both must outlive the camera.
     MapCamera(MapContext& context, OpenStreet::OpenStreetMap& map) : mContext(context), mMap(map) {}
 
-    [[nodiscard]] MapContext& context() const { return mContext; }
+    [[nodiscard]] const MapContext& context() const { return mContext; }
+    [[nodiscard]] MapContext& context() { return mContext; }
 
     /// Takes the size of the window, in logical pixels, and the pixels for each of them.
     void setWindow(const QSize& logical, double ratio);

@@ -65,10 +65,6 @@ bool MapTiles::takeSettings(MapContext& context)
         mNotice.reset();
         mMap.setTileServer(settings.tileServer.c_str());
     }
-    if (mRetry) {
-        mRetry = false;
-        mMap.retry();
-    }
     if (settings.cacheLimit != mTaken.cacheLimit) {
         mMap.setTileCacheLimit(settings.cacheLimit);
     }
@@ -82,6 +78,9 @@ bool MapTiles::takeSettings(MapContext& context)
 
 void MapTiles::render(const MapContext& context)
 {
+    if (std::exchange(mRetry, false)) {
+        mMap.retry();
+    }
     mMap.setBrightness(kPlain);
     mMap.setLightDirection(-1.0, 1.0, 1.0); // from the north-west, as on paper maps
     mMap.setShading(context.shading);

@@ -23,7 +23,6 @@ public:
     MapTiles(Property& settings, std::string dataPath);
 
     [[nodiscard]] OpenStreet::OpenStreetMap& map() { return mMap; }
-    [[nodiscard]] const OpenStreet::OpenStreetMap& map() const { return mMap; }
 
     /// Makes the map ready, once. Not before the first frame: what is never shown needs neither
     /// folders nor a network.

@@ -76,15 +76,25 @@ WidgetMap::~WidgetMap()
 void WidgetMap::initializeGL()
 {
     mTiles->setUp([this] { mChanges.setLoading(true); }, [this] { mChanges.mark(); });
+    mCamera.setWindow(size(), devicePixelRatioF());
     loadForRatio(); // a new context has nothing yet
     // A widget that moves to another window gets a new context.
     connect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &WidgetMap::releaseGl);
 }
 
 /// Not before the widget has a screen; another screen may have another ratio.
+void WidgetMap::adoptWindow()
+{
+    const bool isOtherRatio = mCamera.ratio() != devicePixelRatioF();
+    mCamera.setWindow(size(), devicePixelRatioF());
+    if (isOtherRatio) {
+        loadForRatio();
+    }
+    mCamera.apply();
+}
+
 void WidgetMap::loadForRatio()
 {
-    mCamera.setWindow(size(), devicePixelRatioF());
     mScene->load();
     mTiles->loadFont(mCamera.ratio());
     mChanges.mark(MapChanges::Part::Lines); // their width is in pixels
@@ -105,11 +115,7 @@ void WidgetMap::resizeGL(int width, int height)
 {
     Q_UNUSED(width)
     Q_UNUSED(height)
-    if (mCamera.ratio() != devicePixelRatioF()) {
-        loadForRatio();
-    }
-    mCamera.setWindow(size(), mCamera.ratio());
-    mCamera.apply();
+    adoptWindow();
     // Who has not moved the map since wants to see the whole path in the new window, too.
     if (mCamera.showsFit()) {
         mChanges.mark(MapChanges::Part::View);
@@ -151,10 +157,7 @@ void WidgetMap::paintGL()
 
 void WidgetMap::prepareFrame()
 {
-    if (mCamera.ratio() != devicePixelRatioF()) {
-        loadForRatio();
-    }
-    mCamera.apply();
+    adoptWindow();
     if (mChanges.take(MapChanges::Part::Record)) {
         redrawFlightPath();
     } else if (mChanges.take(MapChanges::Part::Lines)) {
@@ -177,10 +180,7 @@ void WidgetMap::redrawFlightPath()
 {
     makeLines();
     fitView();
-    for (const auto part :
-         {MapChanges::Part::Record, MapChanges::Part::Lines, MapChanges::Part::View}) {
-        static_cast<void>(mChanges.take(part));
-    }
+    mChanges.takeAll();
 }
 
 void WidgetMap::fitView()

@@ -100,6 +100,7 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
+    void adoptWindow();
     void loadForRatio();
     void releaseGl();
     void prepareFrame();

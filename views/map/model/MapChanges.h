@@ -21,6 +21,8 @@ public:
     void mark(Part part);
     /// Returns whether a part is to be made again, and takes that as done.
     bool take(Part part);
+    /// Takes all parts as done.
+    void takeAll() { mParts.reset(); }
 
     /// Whether tiles came since the last frame, or are still to come.
     void setLoading(bool loading) { mLoading = loading; }
