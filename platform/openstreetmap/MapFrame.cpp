@@ -44,7 +44,7 @@ void MapFrame::draw(const Look& look, const std::vector<PlacedTile>& placed)
         return;
     }
     if (mPainter.covers(placed)) {
-        MapPainter::drawGround(); // north and south of the map
+        MapPainter::drawBackground(); // north and south of the map
     } else {
         mPainter.drawOutline(look.projection);
     }

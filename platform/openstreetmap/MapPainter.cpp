@@ -11,7 +11,7 @@ namespace {
 
 using Tessel::OpenGL::Color;
 
-constexpr Color kGround{0.937F, 0.949F, 0.961F, 1.0F};
+constexpr Color kBackground{0.937F, 0.949F, 0.961F, 1.0F};
 constexpr Color kGridColor{0.78F, 0.82F, 0.86F, 1.0F};
 constexpr Color kCoastColor{0.36F, 0.46F, 0.56F, 1.0F};
 constexpr Color kLabelColor{0.36F, 0.41F, 0.47F, 1.0F};
@@ -58,15 +58,15 @@ void MapPainter::prepareTextures()
     }
 }
 
-void MapPainter::drawGround()
+void MapPainter::drawBackground()
 {
-    glClearColor(kGround.red, kGround.green, kGround.blue, kGround.alpha);
+    glClearColor(kBackground.red, kBackground.green, kBackground.blue, kBackground.alpha);
     glClear(GL_COLOR_BUFFER_BIT);
 }
 
 void MapPainter::drawOutline(const MapProjection& projection)
 {
-    drawGround();
+    drawBackground();
     const float width = toFloat(projection.windowWidth());
     const float height = toFloat(projection.windowHeight());
     const double step =

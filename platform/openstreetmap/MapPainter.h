@@ -29,7 +29,7 @@ public:
 
     /// Makes the window's pixels the units of all that is drawn until the next begin().
     void begin(const MapProjection& projection);
-    static void drawGround();
+    static void drawBackground();
     /// Draws background, graticule and coasts.
     void drawOutline(const MapProjection& projection);
     /// Draws each tile itself, or its stand-in.

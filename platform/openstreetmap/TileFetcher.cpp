@@ -20,7 +20,7 @@ constexpr std::size_t kMostConnections = 4;
 constexpr int kReadAhead = 256 * 1024;
 constexpr int kMostRedirects = 4;
 /// Seconds before a tile is asked for again, whatever the server allows: the map asks with every
-/// image.
+/// frame.
 constexpr std::int64_t kShortestLifetime = 60;
 constexpr int kOk = 200;
 constexpr int kNotModified = 304;
@@ -193,7 +193,7 @@ void TileFetcher::start(const Request& request)
     });
 }
 
-/// In bytes and in time.
+/// Limits a reply in bytes and in time.
 void TileFetcher::limit(const TileAddress& tile, QNetworkReply& reply)
 {
     // Else the network would read as fast as it can while nothing reads. It stops some 30 kB short

@@ -22,13 +22,13 @@ void main()
 )";
 
 constexpr const char* kFragmentSource = R"(#version 120
-uniform sampler2D picture;
+uniform sampler2D image;
 uniform vec4 color;
 uniform float coverage;
 varying vec2 place;
 void main()
 {
-    vec4 texel = texture2D(picture, place);
+    vec4 texel = texture2D(image, place);
     vec4 tint = vec4(color.rgb * color.a, color.a);
     gl_FragColor = tint * mix(texel, vec4(texel.a), coverage);
 }
@@ -45,7 +45,7 @@ bool TextureProgram::begin(const MatrixSet& matrices, const Color& color, Conten
     glUniformMatrix4fv(mProgram.uniform("matrix"), 1, GL_FALSE, matrices.product().data());
     glUniform4f(mProgram.uniform("color"), color.red, color.green, color.blue, color.alpha);
     glUniform1f(mProgram.uniform("coverage"), content == Content::Coverage ? 1.0F : 0.0F);
-    glUniform1i(mProgram.uniform("picture"), 0);
+    glUniform1i(mProgram.uniform("image"), 0);
     glEnableVertexAttribArray(ShaderProgram::Position);
     glVertexAttribPointer(ShaderProgram::Position, 2, GL_FLOAT, GL_FALSE, sizeof(Vertex), nullptr);
     glEnableVertexAttribArray(ShaderProgram::TextureCoordinate);
